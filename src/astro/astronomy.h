@@ -1,0 +1,18 @@
+// The astronomy engine. Operations overwrite their result members in place and the caller
+// reads them right after the call, so one engine object serves one thread of work; a window,
+// a list or the log filler may each own one.
+#pragma once
+
+#include "astro/timebase.h"
+
+class Astronomy {
+public:
+    // ---- time base ----
+    // Fraction of the day since 0h, as left by the last JulianDay0.
+    double DayFraction = 0.0;
+
+    // Julian day of the 0h preceding or at jd; sets DayFraction.
+    double JulianDay0(double jd);
+    // Greenwich mean sidereal time in hours, [0, 24) (Meeus ch. 12).
+    double GreenwichSiderealHours(double jd);
+};

@@ -1,0 +1,50 @@
+#include "support/testenv.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <cstdlib>
+#include <memory>
+
+namespace {
+std::unique_ptr<QTemporaryDir>& RootDir()
+{
+    static std::unique_ptr<QTemporaryDir> dir; // owned for the whole test run
+    return dir;
+}
+
+void SetEnv(const char* name, const QString& path)
+{
+    QDir().mkpath(path);
+    ::setenv(name, QDir::toNativeSeparators(path).toLocal8Bit().constData(), 1);
+}
+} // namespace
+
+namespace testenv {
+
+void Isolate()
+{
+    RootDir() = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/quillmere-test-XXXXXX");
+    const QString root = RootDir()->path();
+    SetEnv("HOME", root + "/home");
+    SetEnv("XDG_CONFIG_HOME", root + "/config");
+    SetEnv("XDG_DATA_HOME", root + "/data");
+    SetEnv("XDG_RUNTIME_DIR", root + "/runtime");
+    QFile::setPermissions(root + "/runtime", QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                                 QFileDevice::ExeOwner);
+    SetEnv("QUILLMERE_HOME", root + "/quillmere");
+    if (!std::getenv("QT_QPA_PLATFORM"))
+        ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+}
+
+QString Root() { return RootDir()->path(); }
+
+QString FreshDir(const QString& name)
+{
+    QDir dir(Root() + "/" + name);
+    dir.removeRecursively();
+    QDir().mkpath(dir.path());
+    return dir.path();
+}
+
+} // namespace testenv
