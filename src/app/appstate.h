@@ -1,0 +1,15 @@
+// The one application state: the settings, the store they come from, the message service and
+// the engine. main() owns it and hands references to the windows; tests build fresh ones.
+#pragma once
+
+#include "app/settings.h"
+#include "astro/astronomy.h"
+#include "platform/messageservice.h"
+#include "platform/settingsstore.h"
+
+struct AppState {
+    Settings Config;
+    SettingsStore Store;
+    MessageService Messages;
+    Astronomy Astro;
+};

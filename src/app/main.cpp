@@ -1,0 +1,26 @@
+// Quillmere: a fishing calendar. Any command-line argument resets the stored settings.
+#include "app/appstate.h"
+#include "app/frmcalendar.h"
+#include "app/startup.h"
+#include "platform/singleinstance.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv)
+{
+    QApplication qapp(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillmere"));
+    AppState app;
+    SingleInstance instance;
+    switch (StartUp(app, qapp.arguments().mid(1), instance)) {
+    case StartOutcome::AlreadyRunning:
+        return 0;
+    case StartOutcome::BadSetting:
+        return 1;
+    case StartOutcome::Run:
+        break;
+    }
+    FrmCalendar window(app);
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,64 @@
+#include "app/startup.h"
+
+#include "app/appstate.h"
+#include "app/settingsio.h"
+#include "astro/timebase.h"
+#include "platform/clock.h"
+#include "platform/singleinstance.h"
+#include "platform/systemlocale.h"
+
+namespace {
+// The first start is recorded beside the settings, in a file a reset does not wipe, so that
+// after a reset the defaults apply unchanged.
+bool FirstStart()
+{
+    SettingsStore install(QStringLiteral("Install"));
+    if (install.Contains(QStringLiteral("Started")))
+        return false;
+    install.Write(QStringLiteral("Started"), Clock::Now().toString(Qt::ISODate));
+    install.Flush();
+    return true;
+}
+
+QString BadSettingText(const SettingError& e)
+{
+    return QStringLiteral("The stored setting \"%1\" holds \"%2\", which is not %3.\n\n"
+                          "Start Quillmere once with any argument (for example: quillmere "
+                          "--reset) to restore the default settings.")
+        .arg(QString::fromStdString(e.Key), QString::fromStdString(e.Text),
+             QString::fromStdString(e.Expected));
+}
+} // namespace
+
+StartOutcome StartUp(AppState& app, const QStringList& arguments, SingleInstance& instance)
+{
+    Settings& s = app.Config;
+    s.DaylightBias = SystemDaylightBias();
+    if (!instance.Acquire()) {
+        app.Messages.MsgBox(QStringLiteral("Program Already Running!"), MsgButtons::OK,
+                            QStringLiteral("Error Loading"));
+        return StartOutcome::AlreadyRunning;
+    }
+    const bool reset = !arguments.isEmpty();
+    if (reset)
+        app.Store.DeleteAll();
+
+    const DateOrder order = SystemDateOrder();
+    s.MonthFirstDates = order.MonthFirstDates;
+    s.DateSeparator = order.DateSeparator.toLatin1();
+
+    const QDate today = Clock::Now().date();
+    s.SelectedJD = CivilToJd(today.year(), today.month(), today.day());
+
+    if (FirstStart() && !reset)
+        WriteFirstStartValues(app.Store);
+    try {
+        LoadSettings(s, app.Store);
+    } catch (const SettingError& e) {
+        app.Messages.MsgBox(BadSettingText(e), MsgButtons::OK, QStringLiteral("Error Loading"),
+                            MsgIcon::Critical);
+        return StartOutcome::BadSetting;
+    }
+    s.CurLoc = s.DefaultLocation();
+    return StartOutcome::Run;
+}

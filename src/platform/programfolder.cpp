@@ -1,0 +1,67 @@
+#include "platform/programfolder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QStandardPaths>
+
+namespace {
+QString FolderPath()
+{
+    const QByteArray home = qgetenv("QUILLMERE_HOME");
+    if (!home.isEmpty())
+        return QString::fromLocal8Bit(home);
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation))
+        .filePath(QStringLiteral("Quillmere"));
+}
+
+// Copies every shipped file that the folder does not hold yet; never overwrites the user's.
+void Seed(const QString& folder)
+{
+    const QString source = ProgramFolder::ShippedDataFolder();
+    if (source.isEmpty())
+        return;
+    QDirIterator it(source + "/seed", QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString from = it.next();
+        const QString relative = QDir(source + "/seed").relativeFilePath(from);
+        const QString to = folder + "/" + relative;
+        if (!QFile::exists(to)) {
+            QDir().mkpath(QFileInfo(to).path());
+            QFile::copy(from, to);
+            QFile(to).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+        }
+    }
+}
+} // namespace
+
+QString ProgramFolder::ShippedDataFolder()
+{
+    const QByteArray env = qgetenv("QUILLMERE_DATA");
+    QStringList candidates;
+    if (!env.isEmpty())
+        candidates << QString::fromLocal8Bit(env);
+    if (QCoreApplication::instance())
+        candidates << QCoreApplication::applicationDirPath() + "/../share/quillmere"
+                   << QCoreApplication::applicationDirPath() + "/data";
+    candidates << QStringLiteral(QUILLMERE_DATA_DIR);
+    for (const QString& c : candidates)
+        if (QDir(c).exists())
+            return QDir(c).canonicalPath();
+    return {};
+}
+
+QString ProgramFolder::Path()
+{
+    const QString folder = FolderPath();
+    if (!QDir().mkpath(folder))
+        return {};
+    Seed(folder);
+    return folder;
+}
+
+QString ProgramFolder::File(const QString& name)
+{
+    return QDir(Path()).filePath(name);
+}

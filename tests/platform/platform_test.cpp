@@ -1,0 +1,107 @@
+#include "platform/clock.h"
+#include "platform/messageservice.h"
+#include "platform/programfolder.h"
+#include "platform/settingsstore.h"
+#include "platform/singleinstance.h"
+#include "platform/systemlocale.h"
+#include "platform/twips.h"
+#include "support/testenv.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+TEST(DateOrder, DayFirstOnlyWhenTheShortDateBeginsWith31)
+{
+    const DateOrder german = DateOrderFromShortDate("31.12.97");
+    EXPECT_FALSE(german.MonthFirstDates);
+    EXPECT_EQ(german.DateSeparator, QChar('.'));
+    const DateOrder us = DateOrderFromShortDate("12/31/1997");
+    EXPECT_TRUE(us.MonthFirstDates);
+    EXPECT_EQ(us.DateSeparator, QChar('/'));
+    const DateOrder iso = DateOrderFromShortDate("97-12-31");
+    EXPECT_TRUE(iso.MonthFirstDates);
+    EXPECT_EQ(iso.DateSeparator, QChar('-'));
+    const DateOrder cLocale = DateOrderFromShortDate("31 Dec 1997"); // not numeric
+    EXPECT_TRUE(cLocale.MonthFirstDates);
+    EXPECT_EQ(cLocale.DateSeparator, QChar('/'));
+}
+
+TEST(SettingsStore, ReadsDefaultsWritesAndDeletesEverything)
+{
+    SettingsStore store(QStringLiteral("StoreTest"));
+    store.DeleteAll();
+    EXPECT_EQ(store.Read("AMPM", "True"), "True");
+    store.Write("AMPM", "False");
+    store.Write("Usr1TZ", " 6");
+    store.Flush();
+    SettingsStore again(QStringLiteral("StoreTest"));
+    EXPECT_EQ(again.Read("AMPM", "True"), "False");
+    EXPECT_EQ(again.Read("Usr1TZ", "0"), " 6"); // the leading blank survives the file
+    QFile file(again.FilePath());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("[Settings]"));
+    again.DeleteAll();
+    EXPECT_FALSE(SettingsStore(QStringLiteral("StoreTest")).Contains("AMPM"));
+}
+
+TEST(SingleInstance, SecondCopyIsRefusedUntilTheFirstEnds)
+{
+    auto first = std::make_unique<SingleInstance>(QStringLiteral("lock-test"));
+    ASSERT_TRUE(first->Acquire());
+    SingleInstance second(QStringLiteral("lock-test"));
+    EXPECT_FALSE(second.Acquire());
+    first.reset();
+    EXPECT_TRUE(SingleInstance(QStringLiteral("lock-test")).Acquire());
+}
+
+TEST(MessageService, ScriptedAnswersAndTheRecordOfWhatWasShown)
+{
+    MessageService m;
+    m.Script(
+        [](const ShownMessage& msg) {
+            return msg.Buttons == MsgButtons::YesNo ? MsgResult::No : MsgResult::OK;
+        },
+        [](const ShownInput&) { return std::optional<QString>("2004"); });
+    EXPECT_EQ(m.MsgBox("Confirm?", MsgButtons::YesNo, "Delete"), MsgResult::No);
+    EXPECT_EQ(m.MsgBox("Done"), MsgResult::OK);
+    EXPECT_EQ(m.InputBox("Year?", "Create", "2024"), "2004");
+    ASSERT_EQ(m.Shown().size(), 2u);
+    EXPECT_EQ(m.Shown()[0].Title, "Delete");
+    EXPECT_EQ(m.Shown()[1].Title, "Quillmere");
+    EXPECT_EQ(m.Shown()[1].Buttons, MsgButtons::OK);
+    EXPECT_EQ(m.Asked().at(0).DefaultText, "2024");
+
+    MessageService cancelled;
+    cancelled.Script({}, [](const ShownInput&) { return std::optional<QString>(); });
+    EXPECT_EQ(cancelled.InputBox("Year?"), "");
+}
+
+TEST(Clock, FixedByEnvironment)
+{
+    qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
+    EXPECT_EQ(Clock::Now(), QDateTime(QDate(2024, 3, 10), QTime(7, 30)));
+    qunsetenv("QUILLMERE_NOW");
+    EXPECT_LE(std::abs(Clock::Now().secsTo(QDateTime::currentDateTime())), 2);
+}
+
+TEST(ProgramFolder, CreatedAndSeededWithoutOverwritingTheUsersFiles)
+{
+    const QString home = testenv::FreshDir("folder-test") + "/Quillmere";
+    qputenv("QUILLMERE_HOME", home.toLocal8Bit());
+    EXPECT_EQ(ProgramFolder::Path(), home);
+    EXPECT_TRUE(QDir(home).exists());
+    EXPECT_EQ(ProgramFolder::File("2004.mdb"), home + "/2004.mdb");
+}
+
+TEST(Twips, FifteenToAPixelAndBgrColours)
+{
+    EXPECT_EQ(Twips(6390), 426);
+    EXPECT_EQ(Twips(300), 20);
+    EXPECT_EQ(PixelsToTwips(20), 300);
+    EXPECT_EQ(TwipsRect(15, 30, 150, 300), QRect(1, 2, 10, 20));
+    EXPECT_EQ(VbColor(0x0000FF), QColor(255, 0, 0)); // 0x00BBGGRR: red is the low byte
+    EXPECT_EQ(VbColor(0xC0C0C0), QColor(192, 192, 192));
+    EXPECT_EQ(ToVbColor(QColor(0, 0, 255)), 0xFF0000u);
+}
