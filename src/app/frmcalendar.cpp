@@ -33,10 +33,7 @@ void FrmCalendar::Form_Load()
     move(Twips(App.Config.FormLeft), top);
 }
 
-void FrmCalendar::mnuexit_Click()
-{
-    close();
-}
+void FrmCalendar::mnuexit_Click() { close(); }
 
 void FrmCalendar::RecordPosition()
 {

@@ -20,15 +20,9 @@ bool TextIsTrue(const std::string& text)
 }
 } // namespace
 
-bool Settings::AmPm() const
-{
-    return TextIsTrue(AMPM);
-}
+bool Settings::AmPm() const { return TextIsTrue(AMPM); }
 
-bool Settings::ParallacticOn() const
-{
-    return TextIsTrue(ParallacticAngle);
-}
+bool Settings::ParallacticOn() const { return TextIsTrue(ParallacticAngle); }
 
 std::int16_t Settings::DefaultLocation() const
 {

@@ -80,25 +80,13 @@ double Degrees(const std::string& key, const std::string& text, const char* patt
     return ToDouble(key, VbFormat(ToDouble(key, text), pattern) + "0");
 }
 
-std::string K(const QString& key)
-{
-    return key.toStdString();
-}
+std::string K(const QString& key) { return key.toStdString(); }
 
 } // namespace
 
-std::string LongitudeText(double degrees)
-{
-    return VbFormat(degrees, "###.00");
-}
-std::string LatitudeText(double degrees)
-{
-    return VbFormat(degrees, "##.00");
-}
-std::string TimeZoneText(int hours)
-{
-    return (hours >= 0 ? " " : "") + std::to_string(hours);
-}
+std::string LongitudeText(double degrees) { return VbFormat(degrees, "###.00"); }
+std::string LatitudeText(double degrees) { return VbFormat(degrees, "##.00"); }
+std::string TimeZoneText(int hours) { return (hours >= 0 ? " " : "") + std::to_string(hours); }
 
 void LoadSettings(Settings& s, const SettingsStore& store)
 {

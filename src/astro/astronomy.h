@@ -6,7 +6,7 @@
 #include "astro/timebase.h"
 
 class Astronomy {
-public:
+  public:
     // ---- time base ----
     // Fraction of the day since 0h, as left by the last JulianDay0.
     double DayFraction = 0.0;

@@ -6,7 +6,7 @@ QDateTime Clock::Now()
 {
     const QByteArray fixed = qgetenv("QUILLMERE_NOW");
     if (!fixed.isEmpty()) {
-        const QDateTime t = QDateTime::fromString(QString::fromLatin1(fixed), Qt::ISODate);
+        QDateTime t = QDateTime::fromString(QString::fromLatin1(fixed), Qt::ISODate);
         if (t.isValid())
             return t;
     }

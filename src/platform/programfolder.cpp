@@ -54,14 +54,11 @@ QString ProgramFolder::ShippedDataFolder()
 
 QString ProgramFolder::Path()
 {
-    const QString folder = FolderPath();
+    QString folder = FolderPath();
     if (!QDir().mkpath(folder))
         return {};
     Seed(folder);
     return folder;
 }
 
-QString ProgramFolder::File(const QString& name)
-{
-    return QDir(Path()).filePath(name);
-}
+QString ProgramFolder::File(const QString& name) { return QDir(Path()).filePath(name); }

@@ -27,17 +27,8 @@ bool SettingsStore::Contains(const QString& key) const
     return Open(FileName).contains(Section + key);
 }
 
-void SettingsStore::DeleteAll()
-{
-    Open(FileName).clear();
-}
+void SettingsStore::DeleteAll() { Open(FileName).clear(); }
 
-void SettingsStore::Flush()
-{
-    Open(FileName).sync();
-}
+void SettingsStore::Flush() { Open(FileName).sync(); }
 
-QString SettingsStore::FilePath() const
-{
-    return Open(FileName).fileName();
-}
+QString SettingsStore::FilePath() const { return Open(FileName).fileName(); }

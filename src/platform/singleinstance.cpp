@@ -12,7 +12,4 @@ SingleInstance::SingleInstance(const QString& name)
     Lock->setStaleLockTime(0); // only a lock whose owner process is gone counts as stale
 }
 
-bool SingleInstance::Acquire()
-{
-    return Lock->tryLock(0);
-}
+bool SingleInstance::Acquire() { return Lock->tryLock(0); }

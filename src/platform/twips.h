@@ -11,18 +11,9 @@
 
 constexpr int TwipsPerPixel = 15;
 
-inline int Twips(double twips)
-{
-    return static_cast<int>(std::lround(twips / TwipsPerPixel));
-}
-constexpr int PixelsToTwips(int pixels)
-{
-    return pixels * TwipsPerPixel;
-}
-inline QPoint TwipsPoint(double x, double y)
-{
-    return {Twips(x), Twips(y)};
-}
+inline int Twips(double twips) { return static_cast<int>(std::lround(twips / TwipsPerPixel)); }
+constexpr int PixelsToTwips(int pixels) { return pixels * TwipsPerPixel; }
+inline QPoint TwipsPoint(double x, double y) { return {Twips(x), Twips(y)}; }
 inline QRect TwipsRect(double left, double top, double width, double height)
 {
     return {Twips(left), Twips(top), Twips(width), Twips(height)};

@@ -86,7 +86,8 @@ std::string VbFormat(double value, std::string_view pattern)
     while (frac.size() > minFrac && frac.back() == '0')
         frac.pop_back();
 
-    const bool isZero = d.IntDigits.empty() && d.FracDigits.find_first_not_of('0') == std::string::npos;
+    const bool isZero =
+        d.IntDigits.empty() && d.FracDigits.find_first_not_of('0') == std::string::npos;
     std::string text = (value < 0 && !isZero) ? "-" : "";
     text += intDigits;
     if (point != std::string_view::npos)
@@ -96,9 +97,9 @@ std::string VbFormat(double value, std::string_view pattern)
 
 namespace {
 
-constexpr std::array<const char*, 12> FullMonths = {"January", "February", "March",     "April",
-                                                    "May",     "June",     "July",      "August",
-                                                    "September", "October", "November", "December"};
+constexpr std::array<const char*, 12> FullMonths = {
+    "January", "February", "March",     "April",   "May",      "June",
+    "July",    "August",   "September", "October", "November", "December"};
 constexpr std::array<const char*, 7> ShortDays = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
 
 struct DateParts {
@@ -160,9 +161,9 @@ std::string VbFormatDate(double serial, std::string_view pattern)
         const std::size_t n = run(c);
         switch (c) {
         case 'y':
-            out += n >= 4 ? std::to_string(p.Year)
-                 : n >= 2 ? TwoDigits(p.Year % 100)
-                          : std::to_string(p.DayOfYear);
+            out += n >= 4   ? std::to_string(p.Year)
+                   : n >= 2 ? TwoDigits(p.Year % 100)
+                            : std::to_string(p.DayOfYear);
             break;
         case 'm':
             if (afterHour && n <= 2)

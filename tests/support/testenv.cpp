@@ -30,8 +30,8 @@ void Isolate()
     SetEnv("XDG_CONFIG_HOME", root + "/config");
     SetEnv("XDG_DATA_HOME", root + "/data");
     SetEnv("XDG_RUNTIME_DIR", root + "/runtime");
-    QFile::setPermissions(root + "/runtime", QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                                 QFileDevice::ExeOwner);
+    QFile::setPermissions(root + "/runtime",
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     SetEnv("QUILLMERE_HOME", root + "/quillmere");
     if (!std::getenv("QT_QPA_PLATFORM"))
         ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
