@@ -4,6 +4,7 @@
 #include "app/settingsio.h"
 #include "astro/timebase.h"
 #include "platform/clock.h"
+#include "platform/programfolder.h"
 #include "platform/singleinstance.h"
 #include "platform/systemlocale.h"
 
@@ -60,5 +61,10 @@ StartOutcome StartUp(AppState& app, const QStringList& arguments, SingleInstance
         return StartOutcome::BadSetting;
     }
     s.CurLoc = s.DefaultLocation();
+    if (ProgramFolder::Path().isEmpty())
+        app.Messages.MsgBox(QStringLiteral("The program folder for the fishing log and the help "
+                                           "cannot be created. Check that your home folder is "
+                                           "writable, or set QUILLMERE_HOME to a folder that is."),
+                            MsgButtons::OK, QStringLiteral("Quillmere"), MsgIcon::Exclamation);
     return StartOutcome::Run;
 }

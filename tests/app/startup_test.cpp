@@ -1,9 +1,11 @@
 #include "app/appstate.h"
 #include "app/frmcalendar.h"
 #include "app/startup.h"
+#include "platform/programfolder.h"
 #include "platform/singleinstance.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -35,6 +37,7 @@ TEST(StartUp, FirstStartWritesInitialValuesAndMakesTheDefaultLocationCurrent)
     EXPECT_EQ(app.Config.CurLoc, 1);
     EXPECT_DOUBLE_EQ(app.Config.SelectedJD, 2460379.5); // 2024-03-10 at 0h
     EXPECT_TRUE(app.Messages.Shown().empty());
+    EXPECT_TRUE(QFile::exists(ProgramFolder::File("Quillmere.html"))); // created and seeded
     qunsetenv("QUILLMERE_NOW");
 }
 

@@ -1,0 +1,47 @@
+// One day cell of the month grid: background, the day number with its "^^" marks, the
+// phase picture at (520, 1) and the rating picture at (1, 200) twips, and the red frame of
+// the selected day. It paints what it is given and reports the mouse to the window.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+
+class DayCellWidget : public QWidget {
+    Q_OBJECT
+public:
+    struct Content {
+        QColor Background;
+        QColor TextColor;
+        QString Number;
+        int Marks = 0; // red "^^" after the number
+        QPixmap Phase;
+        QPixmap Rating;
+        bool Enabled = true;
+    };
+
+    explicit DayCellWidget(int index, QWidget* parent = nullptr);
+    void SetContent(Content content);
+    const Content& Shown() const { return Now; }
+    // The red frame of the selected cell.
+    void SetFramed(bool framed);
+    bool Framed() const { return IsFramed; }
+    int Index() const { return CellIndex; }
+
+signals:
+    void Clicked(int index);
+    void DoubleClicked(int index);
+    void MouseMoved(int index);
+    void MousePressed(int index, Qt::MouseButton button);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void mouseDoubleClickEvent(QMouseEvent* e) override;
+    void mouseMoveEvent(QMouseEvent* e) override;
+
+private:
+    int CellIndex;
+    Content Now;
+    bool IsFramed = false;
+};
