@@ -9,8 +9,8 @@ void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site)
     const Location& loc = s.Locations[std::size_t(s.CurLoc)];
 
     site.CurLongitude = loc.Longitude;
-    std::string caption = " Long=" + VbFormat(std::fabs(loc.Longitude), "##0.#0") +
-                          (loc.Longitude < 0 ? " E" : " W");
+    std::string caption =
+        " Long=" + VbFormat(std::fabs(loc.Longitude), "##0.#0") + (loc.Longitude < 0 ? " E" : " W");
 
     site.CurLatitude = loc.Latitude;
     const bool south = loc.Latitude < 0;

@@ -50,10 +50,7 @@ void DayCellWidget::paintEvent(QPaintEvent*)
     }
 }
 
-void DayCellWidget::mousePressEvent(QMouseEvent* e)
-{
-    emit MousePressed(CellIndex, e->button());
-}
+void DayCellWidget::mousePressEvent(QMouseEvent* e) { emit MousePressed(CellIndex, e->button()); }
 
 void DayCellWidget::mouseReleaseEvent(QMouseEvent* e)
 {

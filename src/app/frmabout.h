@@ -11,7 +11,7 @@ class QPushButton;
 
 class FrmAbout : public QDialog {
     Q_OBJECT
-  public:
+public:
     using Opener = std::function<bool(const QString& operation, const QString& file)>;
     explicit FrmAbout(QWidget* parent = nullptr, Opener opener = {});
 
@@ -28,6 +28,6 @@ class FrmAbout : public QDialog {
     static const QString ContactAddress;
     static const QString WebAddress;
 
-  private:
+private:
     Opener Open;
 };

@@ -7,7 +7,7 @@ class QTextBrowser;
 
 class HelpWindow : public QDialog {
     Q_OBJECT
-  public:
+public:
     // Shows `file`; a missing file is said in words inside the window.
     explicit HelpWindow(const QString& file, QWidget* parent = nullptr);
 

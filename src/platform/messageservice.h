@@ -29,7 +29,7 @@ struct ShownInput {
 };
 
 class MessageService {
-  public:
+public:
     using MessageAnswerer = std::function<MsgResult(const ShownMessage&)>;
     // Returns the typed text, or nothing for Cancel.
     using InputAnswerer = std::function<std::optional<QString>(const ShownInput&)>;
@@ -47,7 +47,7 @@ class MessageService {
     const std::vector<ShownInput>& Asked() const { return Inputs; }
     void SetParent(QWidget* parent) { Parent = parent; }
 
-  private:
+private:
     bool Scripted = false;
     MessageAnswerer ScriptedMessages;
     InputAnswerer ScriptedInputs;

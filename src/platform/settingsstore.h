@@ -5,7 +5,7 @@
 #include <QString>
 
 class SettingsStore {
-  public:
+public:
     // `file` names the INI file inside the application's folder; the settings proper live in
     // "Quillmere", the record of the first start in "Install" (which a reset must not wipe).
     explicit SettingsStore(QString file = QStringLiteral("Quillmere"));
@@ -19,6 +19,6 @@ class SettingsStore {
     void Flush();
     QString FilePath() const;
 
-  private:
+private:
     QString FileName;
 };

@@ -8,11 +8,11 @@
 #include <memory>
 
 class SingleInstance {
-  public:
+public:
     explicit SingleInstance(const QString& name = QStringLiteral("quillmere"));
     // True when this process holds the lock; false when another copy runs.
     bool Acquire();
 
-  private:
+private:
     std::unique_ptr<QLockFile> Lock;
 };

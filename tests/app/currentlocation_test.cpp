@@ -21,8 +21,9 @@ TEST(CurrentLocation, CaptionOfTheFirstDefaultLocation)
     CurrentLocation cur;
     Observer site;
     ApplyLocationValues(s, cur, site);
-    EXPECT_EQ(cur.LocationCaption,
-              "Alexandria, LA  Long=92.42 W Lat=31.25 N TimeZone= 6  Time=STD Hemisphere=Northern ");
+    EXPECT_EQ(
+        cur.LocationCaption,
+        "Alexandria, LA  Long=92.42 W Lat=31.25 N TimeZone= 6  Time=STD Hemisphere=Northern ");
     EXPECT_DOUBLE_EQ(site.ZoneDays, 0.25);
     EXPECT_EQ(site.DstOffsetDays, 0.0);
     EXPECT_EQ(cur.SouthernHemisphere, 0);
