@@ -3,10 +3,14 @@
 // a list or the log filler may each own one.
 #pragma once
 
+#include "astro/observer.h"
 #include "astro/timebase.h"
 
 class Astronomy {
-  public:
+public:
+    // Where and when: the current location's working values and the chosen hour.
+    Observer Site;
+
     // ---- time base ----
     // Fraction of the day since 0h, as left by the last JulianDay0.
     double DayFraction = 0.0;
