@@ -1,10 +1,14 @@
 #!/usr/bin/env bash
 # Speed and accuracy of quillmere-forecast beside two astronomy-library peers (libnova, astronomy-engine).
 # Usage: peers.bench.sh [path/to/quillmere-forecast]   (or set QUILLMERE_FORECAST)
-# Runs from the source tree or from a copy in build/bench; finds the sources through git or its own folder.
+# Runs from the source tree or from its copy in <build>/bench, where the CMake cache names the sources.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
-src=$(git -C "$here" rev-parse --show-toplevel 2>/dev/null || { cd "$here/.." && pwd; })
+if [ -f "$here/peers/libnova_peer.c" ]; then
+  src=$(cd "$here/.." && pwd)
+else
+  src=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$here/../CMakeCache.txt" 2>/dev/null || true)
+fi
 [ -f "$src/bench/peers/libnova_peer.c" ] || { echo "peers.bench.sh: source tree not found from $here" >&2; exit 1; }
 peers="$src/bench/peers"
 out="$src/build/peers"
