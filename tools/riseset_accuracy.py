@@ -42,8 +42,8 @@ PLACES = [
 ]
 
 
-def reference(lat, lon, zone, day, column):
-    """Local clock hours of the event inside the local day, or None."""
+def search(lat, lon, zone, day, column):
+    """(next event, local-day start) as ephem Dates; raises ephem's errors when there is no crossing."""
     body_name, kind, horizon, use_center = EVENTS[column]
     obs = ephem.Observer()
     obs.lat, obs.lon = str(lat), str(lon)
@@ -52,16 +52,31 @@ def reference(lat, lon, zone, day, column):
     start = ephem.Date((day.year, day.month, day.day)) + zone / 24.0
     obs.date = start
     body = ephem.Sun() if body_name == 'sun' else ephem.Moon()
+    if kind == 'transit':
+        return obs.next_transit(body), start
+    if kind == 'rising':
+        return obs.next_rising(body, use_center=use_center), start
+    return obs.next_setting(body, use_center=use_center), start
+
+
+def reference(lat, lon, zone, day, column):
+    """Local clock hours of the event inside the local day, or None."""
     try:
-        if kind == 'transit':
-            t = obs.next_transit(body)
-        elif kind == 'rising':
-            t = obs.next_rising(body, use_center=use_center)
-        else:
-            t = obs.next_setting(body, use_center=use_center)
+        t, start = search(lat, lon, zone, day, column)
     except (ephem.AlwaysUpError, ephem.NeverUpError):
         return None
     return (t - start) * 24.0 if t < start + 1 else None
+
+
+def sun_never_crosses(lat, lon, zone, day, column):
+    """True when the Sun does not reach the column's twilight altitude at all around that day."""
+    if not column.endswith(('_dawn', '_dusk')):
+        return False
+    try:
+        search(lat, lon, zone, day, column)
+    except (ephem.AlwaysUpError, ephem.NeverUpError):
+        return True
+    return False
 
 
 class Stats:
@@ -69,11 +84,14 @@ class Stats:
         self.errors = []          # (abs minutes, signed minutes, date, place)
         self.only_file = 0
         self.only_reference = 0
+        self.no_crossing = 0      # twilight times where the Sun never reaches the altitude: known difference
 
-    def add(self, ours, ref, day, place):
+    def add(self, ours, ref, day, place, no_crossing=False):
         if ours is None and ref is None:
             return
-        if ref is None:
+        if ref is None and no_crossing:
+            self.no_crossing += 1
+        elif ref is None:
             self.only_file += 1
         elif ours is None:
             self.only_reference += 1
@@ -112,7 +130,9 @@ def compare(sources):
                         continue
                     cell = row[column].strip()
                     ours = float(cell) if cell else None
-                    stats[column].add(ours, reference(lat, lon, zone, day, column), day, place)
+                    ref = reference(lat, lon, zone, day, column)
+                    no_crossing = ours is not None and ref is None and sun_never_crosses(lat, lon, zone, day, column)
+                    stats[column].add(ours, ref, day, place, no_crossing)
     return stats
 
 
@@ -122,6 +142,8 @@ def report(stats, max_minutes):
     failed = []
     for column, s in stats.items():
         print(s.line(column))
+        if s.no_crossing:
+            print(f'{"":18} {s.no_crossing} twilight times where the Sun never reaches that altitude (known difference)')
         if max_minutes is not None and (s.worst() > max_minutes or not s.errors):
             failed.append(column)
     if failed:
