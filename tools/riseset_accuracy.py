@@ -1,0 +1,240 @@
+#!/usr/bin/python3
+"""Accuracy of per-day rise/set/transit/twilight times in forecast CSV files, against python3-ephem.
+
+Each CSV is named with its place as FILE:LAT:LON_EAST:ZONE_WEST (degrees; zone in hours, positive
+west of Greenwich; local clock = UT - zone). Times in the CSV are local clock hours of the local day.
+"""
+import argparse
+import csv
+import math
+import os
+import subprocess
+import sys
+import tempfile
+from datetime import date, timedelta
+
+import ephem
+
+# column -> (body, event, horizon, use_center)
+EVENTS = {
+    'sunrise': ('sun', 'rising', '-0:34', False),
+    'sunset': ('sun', 'setting', '-0:34', False),
+    'sun_transit': ('sun', 'transit', '0', False),
+    'civil_dawn': ('sun', 'rising', '-6', True),
+    'civil_dusk': ('sun', 'setting', '-6', True),
+    'nautical_dawn': ('sun', 'rising', '-12', True),
+    'nautical_dusk': ('sun', 'setting', '-12', True),
+    'astronomical_dawn': ('sun', 'rising', '-18', True),
+    'astronomical_dusk': ('sun', 'setting', '-18', True),
+    'moonrise': ('moon', 'rising', '-0:34', False),
+    'moon_transit': ('moon', 'transit', '-0:34', False),
+    'moonset': ('moon', 'setting', '-0:34', False),
+}
+
+# name, latitude, longitude east, zone west of Greenwich
+PLACES = [
+    ('Ushuaia', -54.80, -68.30, 3), ('Punta Arenas', -53.16, -70.91, 3),
+    ('Hobart', -42.88, 147.33, -10), ('Cape Town', -33.92, 18.42, -2),
+    ('Sydney', -33.87, 151.21, -10), ('Rio de Janeiro', -22.91, -43.17, 3),
+    ('Singapore', 1.29, 103.85, -8), ('Alexandria LA', 31.25, -92.42, 6),
+    ('Denver', 39.74, -104.99, 7), ('Tokyo', 35.68, 139.69, -9),
+    ('London', 51.51, -0.13, 0), ('Oslo', 59.91, 10.75, -1),
+]
+
+
+def search(lat, lon, zone, day, column):
+    """(next event, local-day start) as ephem Dates; raises ephem's errors when there is no crossing."""
+    body_name, kind, horizon, use_center = EVENTS[column]
+    obs = ephem.Observer()
+    obs.lat, obs.lon = str(lat), str(lon)
+    obs.pressure = 0
+    obs.horizon = horizon
+    start = ephem.Date((day.year, day.month, day.day)) + zone / 24.0
+    obs.date = start
+    body = ephem.Sun() if body_name == 'sun' else ephem.Moon()
+    if kind == 'transit':
+        return obs.next_transit(body), start
+    if kind == 'rising':
+        return obs.next_rising(body, use_center=use_center), start
+    return obs.next_setting(body, use_center=use_center), start
+
+
+def reference(lat, lon, zone, day, column):
+    """Local clock hours of the event inside the local day, or None."""
+    try:
+        t, start = search(lat, lon, zone, day, column)
+    except (ephem.AlwaysUpError, ephem.NeverUpError):
+        return None
+    return (t - start) * 24.0 if t < start + 1 else None
+
+
+def sun_never_crosses(lat, lon, zone, day, column):
+    """True when the Sun does not reach the column's twilight altitude at all around that day."""
+    if not column.endswith(('_dawn', '_dusk')):
+        return False
+    try:
+        search(lat, lon, zone, day, column)
+    except (ephem.AlwaysUpError, ephem.NeverUpError):
+        return True
+    return False
+
+
+class Stats:
+    def __init__(self):
+        self.errors = []          # (abs minutes, signed minutes, date, place)
+        self.only_file = 0
+        self.only_reference = 0
+        self.no_crossing = 0      # twilight times where the Sun never reaches the altitude: known difference
+
+    def add(self, ours, ref, day, place, no_crossing=False):
+        if ours is None and ref is None:
+            return
+        if ref is None and no_crossing:
+            self.no_crossing += 1
+        elif ref is None:
+            self.only_file += 1
+        elif ours is None:
+            self.only_reference += 1
+        else:
+            err = (ours - ref) * 60.0
+            self.errors.append((abs(err), err, day, place))
+
+    def worst(self):
+        return max(self.errors)[0] if self.errors else 0.0
+
+    def line(self, column):
+        n = len(self.errors)
+        if n == 0:
+            return f'{column:18} {0:7d} {"":>7} {"":>7} {"":>9} {"":>8} {self.only_file:7d} {self.only_reference:7d}'
+        share = lambda limit: 100.0 * sum(e[0] <= limit for e in self.errors) / n
+        worst = max(self.errors)
+        rms = math.sqrt(sum(e[1] ** 2 for e in self.errors) / n)
+        return (f'{column:18} {n:7d} {share(0.5):6.1f}% {share(1.0):6.1f}% {worst[1]:+9.3f} {rms:8.3f} '
+                f'{self.only_file:7d} {self.only_reference:7d}  worst {worst[2]} {worst[3]}')
+
+
+def parse_source(text):
+    path, lat, lon, zone = text.rsplit(':', 3)
+    return path, float(lat), float(lon), float(zone)
+
+
+def compare(sources):
+    stats = {column: Stats() for column in EVENTS}
+    for path, lat, lon, zone in sources:
+        place = f'{os.path.basename(path)}({lat:+.2f},{lon:+.2f})'
+        with open(path, newline='') as f:
+            for row in csv.DictReader(f):
+                day = date.fromisoformat(row['date'])
+                for column in EVENTS:
+                    if column not in row:
+                        continue
+                    cell = row[column].strip()
+                    ours = float(cell) if cell else None
+                    ref = reference(lat, lon, zone, day, column)
+                    no_crossing = ours is not None and ref is None and sun_never_crosses(lat, lon, zone, day, column)
+                    stats[column].add(ours, ref, day, place, no_crossing)
+    return stats
+
+
+def report(stats, max_minutes):
+    print(f'{"quantity":18} {"count":>7} {"<=0.5m":>7} {"<=1m":>7} {"max(min)":>9} {"rms":>8} '
+          f'{"only-csv":>7} {"only-ref":>7}')
+    failed = []
+    for column, s in stats.items():
+        print(s.line(column))
+        if s.no_crossing:
+            print(f'{"":18} {s.no_crossing} twilight times where the Sun never reaches that altitude (known difference)')
+        if max_minutes is not None and (s.worst() > max_minutes or not s.errors):
+            failed.append(column)
+    if failed:
+        print(f'FAIL: largest error above {max_minutes} min (or nothing compared): {", ".join(failed)}')
+    return 1 if failed else 0
+
+
+def lon_ew(lon):
+    return f'{abs(lon)}{"E" if lon >= 0 else "W"}'
+
+
+def lat_ns(lat):
+    return f'{abs(lat)}{"N" if lat >= 0 else "S"}'
+
+
+def generate(template, start, days, outdir):
+    """Runs the forecast command template once per place; returns the CSV sources."""
+    sources = []
+    for name, lat, lon, zone in PLACES:
+        path = os.path.join(outdir, name.replace(' ', '_') + '.csv')
+        cmd = template.format(start=start, days=days, lat=lat, lon=lon, zone=zone,
+                              lat_ns=lat_ns(lat), lon_ew=lon_ew(lon))
+        with open(path, 'w') as f:
+            subprocess.run(cmd, shell=True, check=True, stdout=f)
+        sources.append((path, lat, lon, zone))
+    return sources
+
+
+def write_reference_csv(path, lat, lon, zone, start, days, shift=None):
+    """A CSV holding ephem's own times, optionally with one column shifted by some minutes."""
+    with open(path, 'w', newline='') as f:
+        out = csv.writer(f)
+        out.writerow(['date'] + list(EVENTS))
+        for i in range(days):
+            day = start + timedelta(days=i)
+            cells = []
+            for column in EVENTS:
+                h = reference(lat, lon, zone, day, column)
+                if h is not None and shift and shift[0] == column:
+                    h += shift[1] / 60.0
+                cells.append('' if h is None else repr(h))
+            out.writerow([day.isoformat()] + cells)
+
+
+def self_test():
+    """The comparison must pass its own reference and catch a sunrise shifted by 2 minutes."""
+    lat, lon, zone, start, days = 51.51, -0.13, 0, date(2024, 3, 1), 20
+    with tempfile.TemporaryDirectory() as tmp:
+        exact, shifted = os.path.join(tmp, 'exact.csv'), os.path.join(tmp, 'shifted.csv')
+        write_reference_csv(exact, lat, lon, zone, start, days)
+        write_reference_csv(shifted, lat, lon, zone, start, days, shift=('sunrise', 2.0))
+        good = compare([(exact, lat, lon, zone)])
+        bad = compare([(shifted, lat, lon, zone)])
+    problems = []
+    if report(good, 0.01) != 0:
+        problems.append('reference CSV does not match itself')
+    if report(bad, 1.0) == 0:
+        problems.append('shifted sunrise not detected')
+    if abs(bad['sunrise'].worst() - 2.0) > 0.01:
+        problems.append(f'shifted sunrise measured as {bad["sunrise"].worst():.3f} min')
+    if any(s.worst() > 0.01 for c, s in bad.items() if c != 'sunrise'):
+        problems.append('unshifted columns reported as off')
+    for p in problems:
+        print('SELF-TEST FAIL:', p)
+    print('self-test', 'failed' if problems else 'passed')
+    return 1 if problems else 0
+
+
+def main():
+    ap = argparse.ArgumentParser(description=__doc__)
+    ap.add_argument('csv', nargs='*', help='FILE:LAT:LON_EAST:ZONE_WEST')
+    ap.add_argument('--max-minutes', type=float, help='exit non-zero when a largest error exceeds this')
+    ap.add_argument('--generate', metavar='COMMAND',
+                    help='forecast command template run per place; fields {start} {days} {lat} {lon} '
+                         '{zone} {lat_ns} {lon_ew}')
+    ap.add_argument('--start', default='2024-01-01', help='first day for --generate')
+    ap.add_argument('--days', type=int, default=300, help='days per place for --generate')
+    ap.add_argument('--outdir', help='keep the generated CSV files here')
+    ap.add_argument('--self-test', action='store_true')
+    args = ap.parse_args()
+    if args.self_test:
+        return self_test()
+    sources = [parse_source(s) for s in args.csv]
+    if args.generate:
+        outdir = args.outdir or tempfile.mkdtemp(prefix='riseset_')
+        os.makedirs(outdir, exist_ok=True)
+        sources += generate(args.generate, args.start, args.days, outdir)
+    if not sources:
+        ap.error('no CSV files given')
+    return report(compare(sources), args.max_minutes)
+
+
+if __name__ == '__main__':
+    sys.exit(main())
