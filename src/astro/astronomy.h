@@ -19,4 +19,18 @@ public:
     double JulianDay0(double jd);
     // Greenwich mean sidereal time in hours, [0, 24) (Meeus ch. 12).
     double GreenwichSiderealHours(double jd);
+
+    // ---- obliquity and coordinate conversions (Meeus ch. 13 and 22) ----
+    struct Equatorial {
+        double Alpha = 0.0; // right ascension, [0, 2pi)
+        double Delta = 0.0; // declination
+    };
+    // Left by the last EclipticToEquatorial.
+    Equatorial EquatorialResult;
+
+    // Mean obliquity of the ecliptic in radians (Laskar, Meeus eq. 22.3).
+    double MeanObliquity(double jd) const;
+    // Ecliptic longitude and latitude to equatorial (Meeus eqs. 13.3, 13.4); sets
+    // EquatorialResult.
+    void EclipticToEquatorial(double lambda, double beta, double epsilon);
 };
