@@ -109,8 +109,8 @@ void FrmCalendar::BuildDetailsPanel(QWidget* central)
         box->setGeometry(r);
         return box;
     };
-    QGroupBox* daylight = frame(QStringLiteral("Daylight Hours"), {left, 0, 112, 42});
-    MakeLabel(7, daylight, {10, 18, 90, 18});
+    QGroupBox* daylightFrame = frame(QStringLiteral("Daylight Hours"), {left, 0, 112, 42});
+    MakeLabel(7, daylightFrame, {10, 18, 90, 18});
     QGroupBox* majors = frame(QStringLiteral("Majors"), {left, 44, 112, 62});
     MakeLabel(0, majors, {10, 18, 94, 18});
     MakeLabel(2, majors, {10, 38, 94, 18});
