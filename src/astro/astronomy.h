@@ -3,8 +3,22 @@
 // a list or the log filler may each own one.
 #pragma once
 
+#include "astro/dayforecast.h"
 #include "astro/observer.h"
 #include "astro/timebase.h"
+
+#include <array>
+
+struct Horizontal {
+    double Azimuth = 0.0; // from north through east, [0, 2pi)
+    double Altitude = 0.0;
+};
+
+struct EclipticPoint {
+    double Longitude = 0.0; // radians
+    double Latitude = 0.0;  // radians
+    double Distance = 0.0;  // astronomical units
+};
 
 class Astronomy {
 public:
@@ -33,4 +47,44 @@ public:
     // Ecliptic longitude and latitude to equatorial (Meeus eqs. 13.3, 13.4); sets
     // EquatorialResult.
     void EclipticToEquatorial(double lambda, double beta, double epsilon);
+
+    // ---- nutation and the horizon (Meeus ch. 13, 14, 22, 48) ----
+    double NutationLongitude = 0.0; // delta psi, radians
+    double NutationObliquity = 0.0; // delta epsilon, radians
+    double Obliquity = 0.0;         // obliquity in force for the last conversion
+
+    // IAU 1980 nutation from all 63 terms of Table 22.A.
+    void ComputeNutation(double jd);
+    // Azimuth and altitude of (alpha, delta) at the place (degrees, west and north positive).
+    Horizontal HorizontalPosition(double jd, double alpha, double delta, double latitudeDeg,
+                                  double longitudeDeg);
+    // The parallactic angle q (Meeus eq. 14.1).
+    double ParallacticAngleNow(double jd, double alpha, double delta, double latitudeDeg,
+                               double longitudeDeg);
+
+    // ---- the Sun (Meeus ch. 25 with VSOP87) and the Moon (Meeus ch. 47, 48) ----
+    // Results of the position routines and the event search; see each routine.
+    std::array<double, 20> PositionResult{};
+    EclipticPoint SunEcliptic;
+    Equatorial SunEquatorial;
+
+    // Apparent lambda, beta, R, alpha, delta of the Sun in PositionResult[0..4].
+    void SunPosition(double jd);
+    // Geometric longitude and distance of the Sun, low precision, in SunEcliptic.
+    void SunLowPrecision(double jd);
+    // The Moon: lambda, beta, distance (km), parallax, illuminated fraction, bright limb in
+    // PositionResult[0..5]; alpha, delta, elongation in [7..9].
+    void MoonPosition(double jd);
+
+private:
+    // Local hour angle and latitude shared by the horizon and parallactic conversions.
+    struct HourAngle {
+        double H = 0.0;
+        double Phi = 0.0;
+    };
+    HourAngle LocalHourAngle(double jd, double alpha, double latitudeDeg, double longitudeDeg,
+                             double epsilon);
 };
+
+// Position angle of the Moon's bright limb (Meeus eq. 48.5).
+double BrightLimbAngle(double alphaMoon, double deltaMoon, double alphaSun, double deltaSun);
