@@ -1,0 +1,27 @@
+// Prints the engine's Sun and Moon for instants spread over 1900-2100 (argument taken as
+// dynamical time), one line each, for the comparison with an independent ephemeris:
+// jd, true obliquity, then lambda beta alpha delta of the Sun, then of the Moon (radians),
+// the Sun's distance (AU) and the Moon's (km).
+#include "astro/astronomy.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+int main(int argc, char** argv)
+{
+    const int count = argc > 1 ? std::atoi(argv[1]) : 1200;
+    const double first = CivilToJd(1900, 1, 1), last = CivilToJd(2100, 1, 1);
+    Astronomy a;
+    for (int i = 0; i < count; ++i) {
+        // An irrational step so that the instants fall at all times of day.
+        const double jd = first + (last - first) * (i + 0.5 * 0.6180339887) / count;
+        a.SunPosition(jd);
+        const auto& p = a.PositionResult;
+        std::printf("%.8f %.12f %.12f %.12f %.12f %.12f %.10f", jd, a.Obliquity, p[0], p[1], p[3],
+                    p[4], p[2]);
+        a.MoonPosition(jd);
+        std::printf(" %.12f %.12f %.12f %.12f %.4f %.12f\n", p[0], p[1], p[7], p[8], p[2],
+                    a.Obliquity);
+    }
+    return 0;
+}
