@@ -76,7 +76,41 @@ public:
     // PositionResult[0..5]; alpha, delta, elongation in [7..9].
     void MoonPosition(double jd);
 
+    // ---- rising, transit and setting (Meeus ch. 15) ----
+    // Inputs of FindEvents, set by the drivers: 0h UT of the day, the place (degrees, west and
+    // north positive), the body's apparent RA and declination at 0h of days -1, 0, +1 (entries
+    // 1..3), the altitude of the event, and the hours that turn local clock time into UT.
+    double EventDayJD = 0.0;
+    double EventLongitude = 0.0;
+    double EventLatitude = 0.0;
+    std::array<double, 4> EventRA{};
+    std::array<double, 4> EventDec{};
+    double EventAltitude = 0.0;
+    double EventZoneHours = 0.0;
+    // 0 crosses the altitude during the day, 1 stays above it, -1 stays below.
+    std::int16_t AboveHorizonState = 0;
+    double MoonRiseHour = 0.0, MoonTransitHour = 0.0, MoonSetHour = 0.0;
+
+    // Transit, rise and set in PositionResult[0..2] (hours UT from EventDayJD), transit
+    // altitude and azimuths in [3..5], statuses 0 (in the local day) or 2 in [9..11].
+    void FindEvents();
+    void MoonEventsForDay(double jd);
+    void SunEventsForDay(double jd);
+
+    // ---- the day forecast ----
+    DayForecast Forecast;
+    // The Sun's events, texts, day length and sky position for the day at 0h jd.
+    void ComputeSunDay(double jd);
+    // The Moon's events, the majors and minors, phase and sky position for the day at 0h jd.
+    void ComputeDay(double jd);
+    // Majors and minors around the transit hour T (Major1Text is the caller's).
+    void SetPeriods(double T);
+
 private:
+    double LocalHours(double utHours) const;
+    void PrepareEventSearch(double J0, double altitude, double zoneHours);
+    std::string Clock(double hours) const;
+
     // Local hour angle and latitude shared by the horizon and parallactic conversions.
     struct HourAngle {
         double H = 0.0;
@@ -85,6 +119,9 @@ private:
     HourAngle LocalHourAngle(double jd, double alpha, double latitudeDeg, double longitudeDeg,
                              double epsilon);
 };
+
+// 100 x the illuminated fraction, halves rounded to even.
+std::int16_t IllumPercentOf(double fraction);
 
 // Position angle of the Moon's bright limb (Meeus eq. 48.5).
 double BrightLimbAngle(double alphaMoon, double deltaMoon, double alphaSun, double deltaSun);

@@ -1,0 +1,81 @@
+// The two drivers of the rise/transit/set search: the Moon's and the Sun's events of one
+// local day, in local clock hours.
+#include "astro/astronomy.h"
+#include "astro/mathutil.h"
+
+namespace {
+// h0 for the Moon: 0.7275 x horizontal parallax - 0.57 degrees (Meeus ch. 15).
+constexpr double MoonRefraction = 0.009948376736367668;
+// h0 for sunrise and sunset: -50 arcminutes.
+constexpr double SunriseAltitude = -0.01454440461552189;
+} // namespace
+
+double Astronomy::LocalHours(double utHours) const
+{
+    return WrapInto(utHours - 24.0 * (Site.ZoneDays + Site.DstOffsetDays), 24.0);
+}
+
+void Astronomy::PrepareEventSearch(double J0, double altitude, double zoneHours)
+{
+    EventDayJD = J0;
+    EventLongitude = Site.CurLongitude;
+    EventLatitude = Site.CurLatitude;
+    EventAltitude = altitude;
+    EventZoneHours = zoneHours;
+}
+
+void Astronomy::MoonEventsForDay(double jd)
+{
+    const double J0 = JulianDay0(jd);
+    double parallax = 0.0;
+    for (int i = 1; i <= 3; ++i) {
+        MoonPosition(J0 + i - 2);
+        EventRA[std::size_t(i)] = PositionResult[7];
+        EventDec[std::size_t(i)] = PositionResult[8];
+        if (i == 2)
+            parallax = PositionResult[3];
+    }
+    PrepareEventSearch(J0, 0.7275 * parallax - MoonRefraction,
+                       Site.CurTimeZone + 24.0 * Site.DstOffsetDays);
+    FindEvents();
+    MoonRiseHour = LocalHours(PositionResult[1]);
+    MoonTransitHour = LocalHours(PositionResult[0]);
+    MoonSetHour = LocalHours(PositionResult[2]);
+    MoonEventRecord& e = Forecast.MoonEvents;
+    e.RiseTime = MoonRiseHour;
+    e.TransitTime = MoonTransitHour;
+    e.SetTime = MoonSetHour;
+    e.RiseAzimuth = PositionResult[4];
+    e.TransitAltitude = PositionResult[3];
+    e.SetAzimuth = PositionResult[5];
+    e.RiseFlag = static_cast<std::int16_t>(PositionResult[10]);
+    e.TransitFlag = static_cast<std::int16_t>(PositionResult[9]);
+    e.SetFlag = static_cast<std::int16_t>(PositionResult[11]);
+    e.AboveHorizonState = AboveHorizonState;
+}
+
+void Astronomy::SunEventsForDay(double jd)
+{
+    const double J0 = JulianDay0(jd);
+    for (int i = 1; i <= 3; ++i) {
+        SunPosition(J0 + i - 2);
+        EventRA[std::size_t(i)] = PositionResult[3];
+        EventDec[std::size_t(i)] = PositionResult[4];
+    }
+    SunEventTable& s = Forecast.SunEvents;
+    for (int r = 0; r <= 3; ++r) {
+        // Twilights decide the local day with the standard zone.
+        const double zone =
+            r == 0 ? Site.CurTimeZone + 24.0 * Site.DstOffsetDays : Site.CurTimeZone;
+        PrepareEventSearch(J0, r == 0 ? SunriseAltitude : -6.0 * r * DegToRad, zone);
+        FindEvents();
+        s(r, 0) = LocalHours(PositionResult[1]);
+        s(r, 1) = LocalHours(PositionResult[0]);
+        s(r, 2) = LocalHours(PositionResult[2]);
+        if (r == 0) {
+            s(0, 3) = PositionResult[4];
+            s(0, 4) = PositionResult[3];
+            s(0, 5) = PositionResult[5];
+        }
+    }
+}

@@ -1,0 +1,103 @@
+// One day's forecast at the observer: the Sun's events and sky position, the Moon's events,
+// the two major periods centred on the Moon's upper and lower transits and the two minor
+// periods between them, and the Moon's phase at the chosen hour.
+#include "astro/astronomy.h"
+#include "astro/mathutil.h"
+
+#include <cmath>
+
+namespace {
+// Half a lunar day, a quarter and three quarters of it, in hours.
+constexpr double HalfLunarDay = 12.4166;
+constexpr double QuarterLunarDay = 6.2083;
+constexpr double ThreeQuarterLunarDay = 18.6249;
+const char* const NoPeriod = "*******";
+} // namespace
+
+void Astronomy::ComputeSunDay(double jd)
+{
+    DayForecast& f = Forecast;
+    SunEventsForDay(jd);
+    f.SunriseText = Clock(f.SunEvents(0, 0));
+    f.SunsetText = Clock(f.SunEvents(0, 2));
+    f.DayLength = f.SunEvents(0, 2) - f.SunEvents(0, 0);
+
+    SunPosition(jd + Site.HourInstant);
+    const double alpha = PositionResult[3], delta = PositionResult[4];
+    const double t = jd + Site.HourInstant - Site.ZoneDays + Site.DstOffsetDays;
+    const Horizontal sky = HorizontalPosition(t, alpha, delta, Site.CurLatitude, Site.CurLongitude);
+    f.SkyPosition[0] = sky.Azimuth;
+    f.SkyPosition[2] = sky.Altitude;
+}
+
+void Astronomy::ComputeDay(double jd)
+{
+    DayForecast& f = Forecast;
+    MoonEventsForDay(jd);
+    double T = MoonTransitHour;
+    if (f.MoonEvents.TransitFlag != 0) {
+        // No transit of its own: the mean of the neighbouring days' transits.
+        const MoonEventRecord today = f.MoonEvents;
+        MoonEventsForDay(jd - 1.0);
+        const double previous = MoonTransitHour;
+        MoonEventsForDay(jd + 1.0);
+        const double next = MoonTransitHour;
+        f.MoonEvents = today;
+        T = T + ((next + 24.0) - previous) / 2.0;
+        MoonTransitHour = T;
+        f.Major1Text = "*" + Clock(T) + "*";
+    } else {
+        f.Major1Text = Clock(T);
+    }
+    SetPeriods(T);
+
+    MoonPosition(jd + Site.HourInstant);
+    f.IllumFraction = PositionResult[4];
+    f.BrightLimbAngle = PositionResult[5];
+    f.Waxing = f.BrightLimbAngle > 3.14159265358979 ? 1 : 0;
+    f.IllumPercent = IllumPercentOf(f.IllumFraction);
+    const double alpha = PositionResult[7], delta = PositionResult[8];
+    const double t = Site.TimeFormats == 2
+                         ? jd + Site.HourInstant - 15.0 / 1440.0
+                         : jd + Site.HourInstant - Site.ZoneDays + Site.DstOffsetDays;
+    const Horizontal sky = HorizontalPosition(t, alpha, delta, Site.CurLatitude, Site.CurLongitude);
+    f.SkyPosition[1] = sky.Azimuth;
+    f.SkyPosition[3] = sky.Altitude;
+    f.MoonParallacticAngle = ParallacticAngleNow(jd + Site.HourInstant + Site.DstOffsetDays, alpha,
+                                                 delta, Site.CurLatitude, Site.CurLongitude);
+}
+
+// The majors are centred on the upper transit T and half a lunar day from it; the minors a
+// quarter lunar day either side. A minor that would fall after midnight is dropped, not wrapped.
+void Astronomy::SetPeriods(double T)
+{
+    DayForecast& f = Forecast;
+    f.Major1 = T;
+    f.Major2 = WrapInto(T > HalfLunarDay ? T - HalfLunarDay : T + HalfLunarDay, 24.0);
+    f.Major2Text = Clock(f.Major2);
+    if (T < QuarterLunarDay) {
+        f.Minor1 = T + QuarterLunarDay;
+        f.Minor2 = T + ThreeQuarterLunarDay;
+    } else if (T < ThreeQuarterLunarDay) {
+        f.Minor1 = T - QuarterLunarDay;
+        f.Minor2 = T + QuarterLunarDay;
+    } else {
+        f.Minor1 = T - ThreeQuarterLunarDay;
+        f.Minor2 = T - QuarterLunarDay;
+    }
+    for (auto [minor, text] : {std::pair{&f.Minor2, &f.Minor2Text}, {&f.Minor1, &f.Minor1Text}}) {
+        if (*minor >= 24.0) {
+            *minor = -1.0;
+            *text = NoPeriod;
+        } else {
+            *text = Clock(*minor);
+        }
+    }
+}
+
+std::string Astronomy::Clock(double hours) const { return FormatClock(0, hours, Site.AMPM); }
+
+std::int16_t IllumPercentOf(double fraction)
+{
+    return static_cast<std::int16_t>(std::nearbyint(100.0 * fraction)); // halves to even
+}

@@ -1,0 +1,139 @@
+#include "astro/astronomy.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+Astronomy At(double lonWest, double latNorth, int zone)
+{
+    Astronomy a;
+    a.Site.CurLongitude = lonWest;
+    a.Site.CurLatitude = latNorth;
+    a.Site.CurTimeZone = static_cast<std::int16_t>(zone);
+    a.Site.ZoneDays = zone / 24.0;
+    a.Site.HourInstant = 0.5 + a.Site.ZoneDays;
+    return a;
+}
+} // namespace
+
+// The periods follow the transit by the fixed fractions of a lunar day.
+TEST(DayForecast, PeriodsAroundTransitsThroughTheDay)
+{
+    Astronomy a;
+    a.SetPeriods(3.0);
+    EXPECT_NEAR(a.Forecast.Major2, 15.4166, 1e-12);
+    EXPECT_EQ(a.Forecast.Major2Text, "03:24 PM");
+    EXPECT_NEAR(a.Forecast.Minor1, 9.2083, 1e-12);
+    EXPECT_NEAR(a.Forecast.Minor2, 21.6249, 1e-12);
+
+    a.SetPeriods(12.0);
+    EXPECT_NEAR(a.Forecast.Major2, 0.4166, 1e-12);
+    EXPECT_EQ(a.Forecast.Major2Text, "12:24 AM");
+    EXPECT_NEAR(a.Forecast.Minor1, 5.7917, 1e-12);
+    EXPECT_NEAR(a.Forecast.Minor2, 18.2083, 1e-12);
+
+    a.SetPeriods(17.0);
+    EXPECT_NEAR(a.Forecast.Minor2, 23.2083, 1e-12);
+
+    a.SetPeriods(18.0);
+    EXPECT_EQ(a.Forecast.Minor2, -1.0);
+    EXPECT_EQ(a.Forecast.Minor2Text, "*******");
+    EXPECT_NEAR(a.Forecast.Minor1, 11.7917, 1e-12);
+
+    a.SetPeriods(20.0);
+    EXPECT_NEAR(a.Forecast.Minor1, 1.3751, 1e-12);
+    EXPECT_NEAR(a.Forecast.Minor2, 13.7917, 1e-12);
+    EXPECT_NEAR(a.Forecast.Major2, 7.5834, 1e-12);
+    EXPECT_EQ(a.Forecast.Minor1Text, "01:22 AM");
+}
+
+TEST(DayForecast, IllumPercentRoundsHalvesToEven)
+{
+    EXPECT_EQ(IllumPercentOf(0.125), 12);
+    EXPECT_EQ(IllumPercentOf(0.135), 14);
+    EXPECT_EQ(IllumPercentOf(0.0), 0);
+    EXPECT_EQ(IllumPercentOf(1.0), 100);
+}
+
+// At the equator on an equinox the Sun is up for a little over 12 hours, symmetric about
+// its transit.
+TEST(RiseSet, EquatorAtEquinoxIsSymmetricAboutTransit)
+{
+    Astronomy a = At(0.0, 0.0, 0);
+    a.SunEventsForDay(CivilToJd(2024, 3, 20));
+    const SunEventTable& s = a.Forecast.SunEvents;
+    const double before = s(0, 1) - s(0, 0), after = s(0, 2) - s(0, 1);
+    EXPECT_NEAR(before, after, 1.0 / 60.0);
+    EXPECT_GT(before, 6.0);
+    EXPECT_LT(before, 6.0 + 4.0 / 60.0);
+    EXPECT_EQ(a.PositionResult[9], 0.0);
+    EXPECT_EQ(a.PositionResult[10], 0.0);
+    EXPECT_EQ(a.PositionResult[11], 0.0);
+    EXPECT_NEAR(s(0, 1), 12.0 + 7.5 / 60.0, 1.0 / 60.0); // the Sun runs 7.5 min slow
+    // Twilights widen outwards in order.
+    EXPECT_LT(s(3, 0), s(2, 0));
+    EXPECT_LT(s(2, 0), s(1, 0));
+    EXPECT_LT(s(1, 0), s(0, 0));
+    EXPECT_GT(s(3, 2), s(2, 2));
+}
+
+// At 70 degrees north at midsummer the Sun never sets: rise and set are the transit -/+ 12 h.
+TEST(RiseSet, MidnightSunAtSeventyNorth)
+{
+    Astronomy a = At(-20.0, 70.0, -1);
+    a.SunEventsForDay(CivilToJd(2024, 6, 21));
+    const SunEventTable& s = a.Forecast.SunEvents;
+    EXPECT_EQ(a.AboveHorizonState, 1); // last search: astronomical twilight row
+    a.ComputeSunDay(CivilToJd(2024, 6, 21));
+    // Only the transit is refined; rise and set stay half a day either side of its first guess.
+    EXPECT_NEAR(WrapInto(s(0, 1) - s(0, 0), 24.0), 12.0, 1.0 / 60.0);
+    EXPECT_NEAR(s(0, 2), s(0, 0), 1e-9); // a whole day apart, the same clock hour
+}
+
+TEST(RiseSet, DaylightSavingMovesLocalTimesOneHourLater)
+{
+    Astronomy standard = At(92.42, 31.25, 6);
+    Astronomy summer = At(92.42, 31.25, 6);
+    summer.Site.DstOffsetDays = -1.0 / 24.0;
+    const double jd = CivilToJd(2024, 7, 4);
+    standard.ComputeSunDay(jd);
+    summer.ComputeSunDay(jd);
+    standard.ComputeDay(jd);
+    summer.ComputeDay(jd);
+    for (int r = 0; r <= 3; ++r)
+        for (int c = 0; c <= 2; ++c)
+            EXPECT_NEAR(summer.Forecast.SunEvents(r, c),
+                        WrapInto(standard.Forecast.SunEvents(r, c) + 1.0, 24.0), 1e-6)
+                << "row " << r << " column " << c;
+    ASSERT_EQ(standard.Forecast.MoonEvents.TransitFlag, 0);
+    ASSERT_EQ(summer.Forecast.MoonEvents.TransitFlag, 0);
+    EXPECT_NEAR(summer.Forecast.Major1, standard.Forecast.Major1 + 1.0, 1e-6);
+}
+
+// A day without a transit of its own takes the mean of its neighbours' and marks it.
+TEST(DayForecast, DayWithoutTransitAveragesTheNeighbours)
+{
+    Astronomy a = At(92.42, 31.25, 6);
+    const double start = CivilToJd(2024, 1, 1);
+    int found = 0;
+    for (int d = 0; d < 60 && found == 0; ++d) {
+        a.ComputeDay(start + d);
+        if (a.Forecast.MoonEvents.TransitFlag == 0)
+            continue;
+        ++found;
+        const DayForecast f = a.Forecast;
+        ASSERT_EQ(f.Major1Text.front(), '*');
+        ASSERT_EQ(f.Major1Text.back(), '*');
+        Astronomy b = At(92.42, 31.25, 6);
+        b.MoonEventsForDay(start + d - 1);
+        const double previous = b.MoonTransitHour;
+        b.MoonEventsForDay(start + d + 1);
+        const double next = b.MoonTransitHour;
+        b.MoonEventsForDay(start + d);
+        const double own = b.MoonTransitHour;
+        EXPECT_NEAR(f.Major1, own + ((next + 24.0) - previous) / 2.0, 1e-12);
+        EXPECT_EQ(f.Major1Text, "*" + FormatClock(0, f.Major1, true) + "*");
+    }
+    EXPECT_EQ(found, 1); // about one day a month has no transit
+}
