@@ -31,17 +31,6 @@ QString PasswordHash(const QString& salt, const QString& password)
     return QString::fromLatin1(hash.toHex());
 }
 
-std::optional<double> NumberOf(const QVariant& value)
-{
-    bool ok = false;
-    const double number = value.typeId() == QMetaType::QString
-                              ? QLocale::c().toDouble(value.toString().trimmed(), &ok)
-                              : value.toDouble(&ok);
-    if (!ok || !std::isfinite(number))
-        return std::nullopt;
-    return number;
-}
-
 std::optional<QVariant> StoredText(std::optional<std::string> stored)
 {
     if (!stored)
@@ -85,6 +74,17 @@ bool IsBlank(const QVariant& value)
 }
 
 } // namespace
+
+std::optional<double> NumberOf(const QVariant& value)
+{
+    bool ok = false;
+    const double number = value.typeId() == QMetaType::QString
+                              ? QLocale::c().toDouble(value.toString().trimmed(), &ok)
+                              : value.toDouble(&ok);
+    if (!ok || !std::isfinite(number))
+        return std::nullopt;
+    return number;
+}
 
 ColumnKind KindOfDeclaredType(const QString& declaredType)
 {

@@ -48,6 +48,9 @@ struct RowSet {
 
 ColumnKind KindOfDeclaredType(const QString& declaredType);
 
+// The value as a number (a text read with the C locale), if it is one.
+std::optional<double> NumberOf(const QVariant& value);
+
 // The value in the column's stored form: "03/10/2024" into a DATE column is "2024-03-10",
 // "07:05 PM" into a TIME column "19:05:00", "3" into an integer column 3; an empty text is
 // NULL. Nothing when the value does not fit the column.

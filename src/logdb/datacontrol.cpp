@@ -2,8 +2,6 @@
 
 #include "logdb/jetcondition.h"
 
-#include <QLocale>
-
 #include <algorithm>
 
 namespace {
@@ -15,12 +13,7 @@ JetValue ConditionValue(const QVariant& value)
     JetValue v;
     v.Null = value.isNull();
     v.Text = value.toString().toStdString();
-    bool ok = false;
-    const double number = value.typeId() == QMetaType::QString
-                              ? QLocale::c().toDouble(value.toString(), &ok)
-                              : value.toDouble(&ok);
-    if (ok)
-        v.Number = number;
+    v.Number = NumberOf(value);
     return v;
 }
 
