@@ -1,0 +1,226 @@
+// The year files on disk: listing, creating, compacting, repairing and protecting them.
+#include "logdb/datacontrol.h"
+#include "logdb/logfiles.h"
+#include "logdb/logfixture.h"
+#include "support/testenv.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+using namespace logtest;
+
+namespace {
+
+QByteArray Checksum(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256);
+}
+
+QStringList FilesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files, QDir::Name);
+}
+
+QString FolderOf(const QString& path)
+{
+    return QFileInfo(path).absolutePath();
+}
+
+// Real file operations, except that the n-th rename fails.
+class FailingRename : public FileOps {
+  public:
+    explicit FailingRename(int failing) : failing_(failing) {}
+    bool Rename(const QString& from, const QString& to) override
+    {
+        return ++renames_ != failing_ && FileOps::Rename(from, to);
+    }
+
+  private:
+    int failing_;
+    int renames_ = 0;
+};
+
+} // namespace
+
+TEST(YearFiles, ListShowsOnlyFourCharacterMdbNames)
+{
+    const QString folder = testenv::FreshDir("listing");
+    for (const char* name : {"Default.mdb", "Encdb.MDB", "2004.mdb", "2005.mdb", "2006.MDB",
+                             "20071.mdb", "204.mdb", "2008.mdb.bak", "2009.BAK", "notes.txt"}) {
+        QFile file(QDir(folder).filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    QDir().mkpath(QDir(folder).filePath("2010.mdb")); // a folder, not a file
+    EXPECT_EQ(ListYearFiles(folder), QStringList({"2004.mdb", "2005.mdb", "2006.MDB"}));
+}
+
+TEST(YearFiles, CreateCopiesTheTemplateAndLeavesAnExistingYearAlone)
+{
+    const QString folder = testenv::FreshDir("create");
+    const CreateYearResult first = CreateYearFile(folder, 2004);
+    ASSERT_EQ(first.Outcome, CreateYearResult::Status::Created) << first.Message.toStdString();
+    EXPECT_EQ(first.Path, QDir(folder).filePath("2004.mdb"));
+    EXPECT_EQ(FilesIn(folder), QStringList({"2004.mdb", "Default.mdb"}));
+    EXPECT_EQ(CountRows(QDir(folder).filePath("Default.mdb"), "table1"), 0);
+
+    const QString path = MakeYearFile("create-existing", 20);
+    const QByteArray before = Checksum(path);
+    const CreateYearResult again = CreateYearFile(FolderOf(path), Year);
+    EXPECT_EQ(again.Outcome, CreateYearResult::Status::AlreadyExists);
+    EXPECT_EQ(again.Path, path);
+    EXPECT_EQ(Checksum(path), before);
+    EXPECT_EQ(CountRows(path, "table1"), 20);
+}
+
+TEST(YearFiles, TemplateLaysOutTheLogColumnsInTheirPlaces)
+{
+    const QString folder = testenv::FreshDir("template");
+    const QString path = QDir(folder).filePath("Default.mdb");
+    ASSERT_TRUE(CreateTemplateFile(path));
+    EXPECT_FALSE(CreateTemplateFile(path)); // never overwritten
+    Database db;
+    ASSERT_TRUE(db.Open(path));
+    const auto columns = db.Columns("TABLE1");
+    ASSERT_EQ(columns.size(), 25u);
+    const std::vector<std::pair<int, QString>> placed = {
+        {0, "DBID"},   {1, "JulianDate"}, {2, "IllumPercent"}, {3, "GraphicType"}, {4, "MoonAge"},
+        {5, "Waxing"}, {6, "Major1"},     {7, "Major2"},       {11, "SunRise"},    {12, "SunSet"}};
+    for (const auto& [index, name] : placed)
+        EXPECT_EQ(columns[std::size_t(index)].Name, name);
+    EXPECT_TRUE(columns[0].PrimaryKey);
+    EXPECT_EQ(columns[1].Kind, ColumnKind::Date);
+    EXPECT_EQ(columns[11].Kind, ColumnKind::Time);
+    EXPECT_EQ(columns[19].Name, "DayOfWeek_");
+    EXPECT_EQ(columns[19].Kind, ColumnKind::Integer);
+}
+
+TEST(Compaction, TwiceLeavesTheCompactedFileAndOneBackup)
+{
+    const QString path = MakeYearFile("compact");
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(path));
+        ASSERT_TRUE(db.Execute("delete from table1 where month > 6"));
+    }
+    const qint64 grown = QFileInfo(path).size();
+    ASSERT_TRUE(CompactDB(path));
+    EXPECT_LT(QFileInfo(path).size(), grown);
+    EXPECT_EQ(FilesIn(FolderOf(path)), QStringList({"2024.BAK", "2024.mdb", "Default.mdb"}));
+
+    const QByteArray beforeSecond = Checksum(path);
+    ASSERT_TRUE(CompactDB(path));
+    EXPECT_EQ(FilesIn(FolderOf(path)), QStringList({"2024.BAK", "2024.mdb", "Default.mdb"}));
+    EXPECT_EQ(Checksum(QDir(FolderOf(path)).filePath("2024.BAK")), beforeSecond);
+    EXPECT_EQ(CountRows(path, "table1"), 182);
+}
+
+TEST(Compaction, AFailureLeavesTheYearFileReadable)
+{
+    const QString path = MakeYearFile("compact-fail");
+    const QString folder = FolderOf(path);
+    for (const int failing : {1, 2}) { // the file to .BAK, the new copy to the file's name
+        FailingRename ops(failing);
+        EXPECT_FALSE(CompactDB(path, {}, ops));
+        EXPECT_EQ(CountRows(path, "table1"), DaysInYear) << "rename " << failing;
+        EXPECT_FALSE(QFileInfo::exists(QDir(folder).filePath("New2024.mdb")));
+    }
+    // A compacted copy that cannot be written: a folder stands in its place.
+    ASSERT_TRUE(QDir(folder).mkdir("New2024.mdb"));
+    EXPECT_FALSE(CompactDB(path));
+    EXPECT_EQ(CountRows(path, "table1"), DaysInYear);
+    EXPECT_FALSE(CompactDB(QDir(folder).filePath("1999.mdb")));
+}
+
+TEST(Repair, RebuildsADamagedFileKeepingTheReadableRecords)
+{
+    constexpr int Rows = 300;
+    const QString path = MakeYearFile("repair", Rows);
+    EXPECT_TRUE(RepairDB(path)); // a sound file is left as it is
+    EXPECT_FALSE(QFileInfo::exists(QDir(FolderOf(path)).filePath("2024.BAD")));
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(path));
+        ASSERT_TRUE(db.Execute("delete from table1 where dbid > 295"));
+    }
+
+    // Zero the page that holds the middle record.
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    const QByteArray bytes = file.readAll();
+    const qsizetype at = bytes.indexOf("row-150");
+    ASSERT_GT(at, 0);
+    const int pageSize = (uchar(bytes[16]) << 8) | uchar(bytes[17]);
+    ASSERT_TRUE(file.seek(at / pageSize * pageSize));
+    file.write(QByteArray(pageSize, '\0'));
+    file.close();
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(path));
+        ASSERT_FALSE(CheckIntegrity(db));
+    }
+
+    const DbResult repaired = RepairDB(path);
+    ASSERT_TRUE(repaired) << repaired.Message.toStdString();
+    Database db;
+    ASSERT_TRUE(db.Open(path));
+    EXPECT_TRUE(CheckIntegrity(db));
+    RowSet rows;
+    ASSERT_TRUE(db.Query("select notes from table1 order by dbid", rows));
+    const int kept = int(rows.Rows.size());
+    EXPECT_LT(kept, 295);
+    EXPECT_GT(kept, 295 - pageSize / 100); // only the records of one page are lost
+    EXPECT_EQ(rows.Rows.front().front(), QVariant("row-001"));
+    EXPECT_EQ(rows.Rows.back().front(), QVariant("row-295"));
+    EXPECT_TRUE(QFileInfo::exists(QDir(FolderOf(path)).filePath("2024.BAD")));
+
+    // Numbering goes on after the highest record number, not after the last one kept.
+    DataControl data;
+    data.SetDatabaseName(path);
+    data.SetRecordSource("select * from table1");
+    ASSERT_TRUE(data.Refresh());
+    ASSERT_TRUE(data.AddNew());
+    ASSERT_TRUE(data.Update());
+    EXPECT_EQ(data.LastModified().toInt(), Rows + 1);
+}
+
+TEST(Password, AProtectedFileOpensOnlyWithItsPassword)
+{
+    const QString path = MakeYearFile("password", 10);
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(path));
+        ASSERT_TRUE(db.SetPassword("Trout7"));
+    }
+    Database db;
+    const DbResult refused = db.Open(path);
+    EXPECT_FALSE(refused);
+    EXPECT_EQ(refused.Message, "Not a valid password.");
+    EXPECT_FALSE(db.IsOpen());
+    EXPECT_FALSE(db.Open(path, ";pwd=trout7"));
+    EXPECT_TRUE(db.Open(path, ";pwd=Trout7"));
+
+    DataControl data;
+    data.SetDatabaseName(path);
+    data.SetRecordSource("select * from table1");
+    EXPECT_FALSE(data.Refresh());
+    data.SetConnect(";pwd=Trout7");
+    ASSERT_TRUE(data.Refresh());
+    EXPECT_EQ(data.RecordCount(), 10);
+    data.Close();
+    db.Close();
+
+    // The compacted file keeps the protection.
+    EXPECT_FALSE(CompactDB(path));
+    ASSERT_TRUE(CompactDB(path, ";pwd=Trout7"));
+    EXPECT_FALSE(db.Open(path));
+    EXPECT_EQ(CountRows(path, "table1", ";pwd=Trout7"), 10);
+
+    ASSERT_TRUE(db.Open(path, ";pwd=Trout7"));
+    ASSERT_TRUE(db.SetPassword({}));
+    EXPECT_TRUE(db.Open(path));
+}
