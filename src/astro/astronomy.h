@@ -106,6 +106,17 @@ public:
     // Majors and minors around the transit hour T (Major1Text is the caller's).
     void SetPeriods(double T);
 
+    // ---- the year's events, local clock Julian days ----
+    std::array<double, 4> PhaseTimes{};       // new, first quarter, full, last quarter
+    std::array<double, 2> PerigeeTimes{};     // perigee, the apogee after it
+    std::array<double, 3> DeclinationTimes{}; // [1] greatest north, [2] greatest south
+    std::array<double, 5> SeasonTimes{};      // [1..4] equinoxes and solstices, dynamical time
+    // Each takes the cycle number k of its chapter (whole k: the cycle's first event).
+    void MoonPhases(double k);
+    void PerigeeApogee(double k);
+    void MaxDeclinations(double k);
+    void Seasons(double year);
+
 private:
     double LocalHours(double utHours) const;
     void PrepareEventSearch(double J0, double altitude, double zoneHours);

@@ -1,0 +1,95 @@
+// The calendar module: the shown month and year, the day-of-year tables, the year day table
+// with the year's events, ratings and holidays, and what each of the 37 grid cells shows.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+class Astronomy;
+
+// One day of the year day table.
+struct DayMarks {
+    std::string Text;             // holiday and event captions, the latest in front
+    bool Holiday = false;         // the day's number is drawn in red
+    std::int16_t Phase = 0;       // 1 new, 2 first quarter, 3 full, 4 last quarter
+    std::int16_t Perigee = 0;     // 1 perigee, 2 apogee, -1 the day before or after a perigee
+    std::int16_t Declination = 0; // 1 greatest north, 2 greatest south
+    std::int16_t MoonAge = 0;     // whole days since the last new moon
+    double PhaseJD = 0.0, PerigeeJD = 0.0, DeclinationJD = 0.0, SeasonJD = 0.0;
+    std::int16_t Season = 0; // 1 March equinox .. 4 December solstice
+    std::int16_t Rating = 0; // 0..4, 4 best
+};
+
+// What one cell of the month grid shows.
+struct DayCell {
+    enum class Kind { PreviousMonth, ThisMonth, NextMonth };
+    Kind Of = Kind::ThisMonth;
+    int Number = 0;               // day of its month
+    std::uint32_t Background = 0; // 0x00BBGGRR
+    std::uint32_t TextColor = 0;
+    bool Enabled = true;
+    int PhasePicture = 0;  // 20..23, 0 for none
+    int RatingPicture = 0; // 1..4, 0 for none
+    int Marks = 0;         // red "^^" marks
+    int DayOfYear = 0;     // index into YearDays (this month only)
+};
+
+extern const std::array<const char*, 8> DayNames;    // 1..7, Sunday first
+extern const std::array<const char*, 13> MonthNames; // 1..12
+extern const std::array<const char*, 5> PhaseNames;  // 1..4
+extern const std::array<const char*, 5> SeasonNames; // 1..4, padded to 16
+
+class Calendar {
+public:
+    std::int16_t CurMonth = 1;
+    std::int16_t CurYear = 2000;
+    std::int16_t LeapFlag = 0;
+    std::int16_t MonthDays = 31;
+    std::int16_t PrevMonthDays = 31;
+    std::int16_t FirstWeekday = 0;                // 0 Sunday .. 6 Saturday
+    std::int16_t YearSlots = 366;                 // days of the year + 1
+    std::array<std::int16_t, 13> MonthStartDoy{}; // 1..12
+    std::array<double, 13> MonthStartJD{};        // 1..12, Julian day at 0h
+    double YearStartJD = 0.0;
+    double YearEndJD = 0.0;
+    std::int16_t SelCell = 0;
+    std::int16_t TodayCell = 0;
+    std::vector<DayMarks> YearDays; // 0..YearSlots + 1, indexed by day of year
+    std::int16_t DstStartDay = 0, DstEndDay = 0;
+    double DstStartJD = 0.0, DstEndJD = 0.0;
+
+    void LeapYear();
+    static std::int16_t DaysInMonth(int month); // February 28
+    // Recomputes the tables for CurMonth/CurYear, then the year's events (with the engine at
+    // its observer), the ratings for the hemisphere (-1 south) and the holidays.
+    void SetYearTables(Astronomy& engine, std::int16_t southernHemisphere);
+    // Sets PrevMonthDays from the month before (leaves the tables at that month's year).
+    void ComputePrevMonthDays(Astronomy& engine, std::int16_t southernHemisphere);
+    // The 37 cells of the shown month; frames today when the shown month is the clock's,
+    // else day 1 (TodayCell, SelCell).
+    std::array<DayCell, 37> DrawMonth(Astronomy& engine, std::int16_t southernHemisphere,
+                                      int todayYear, int todayMonth, int todayDay);
+};
+
+bool IsLeapYear(int year);
+// 1 = Sunday .. 7 = Saturday.
+int WeekdayOf(int year, int month, int day);
+// The month's day numbers for the year calendar, in week rows of a word-wrapped label.
+std::string MonthDaysText(int firstWeekday, int monthDays);
+std::string MonthAbbrev(int month);
+// "6:05 PM" -> "6:05 P"; a text beginning "****" is returned unchanged.
+std::string ShortClock(const std::string& s);
+
+// Day of year (1-based) of a date.
+int DayOfYearOf(int year, int month, int day);
+
+// The year's perigees and apogees, seasons, greatest declinations and phases into YearDays
+// (local clock time of the engine's observer), then the ratings.
+void SetYearEvents(Calendar& cal, Astronomy& engine, std::int16_t southernHemisphere);
+// Rating and moon age of every day from the phases, perigees and declinations; southern
+// hemisphere -1, northern 0.
+void SetDayRatings(Calendar& cal, std::int16_t southernHemisphere);
+// Holiday captions and flags, and the daylight-saving days of CurYear.
+void SetHolidays(Calendar& cal);
