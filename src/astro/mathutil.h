@@ -55,3 +55,41 @@ inline double ArcTan2(double x, double y)
         return std::atan(y / x);
     return y >= 0.0 ? std::atan(y / x) + pi : std::atan(y / x) - pi;
 }
+
+// Cosine and sine of integer combinations k1 x1 + ... + kN xN of a few angles, |ki| <= K, from
+// the powers of each angle's unit phasor: one sincos per angle instead of one per term of a
+// periodic series (the sums agree with direct evaluation to about 1e-15).
+template <std::size_t N, int K> class MultipleAngles {
+public:
+    struct Phasor {
+        double Cos = 1.0, Sin = 0.0;
+        Phasor operator*(const Phasor& o) const
+        {
+            return {Cos * o.Cos - Sin * o.Sin, Sin * o.Cos + Cos * o.Sin};
+        }
+    };
+
+    explicit MultipleAngles(const std::array<double, N>& angles)
+    {
+        for (std::size_t i = 0; i < N; ++i) {
+            auto& p = Powers[i];
+            const Phasor unit{std::cos(angles[i]), std::sin(angles[i])};
+            p[K] = Phasor{};
+            for (int k = 1; k <= K; ++k) {
+                p[std::size_t(K + k)] = p[std::size_t(K + k - 1)] * unit;
+                p[std::size_t(K - k)] = {p[std::size_t(K + k)].Cos, -p[std::size_t(K + k)].Sin};
+            }
+        }
+    }
+
+    Phasor Of(const std::array<int, N>& multiples) const
+    {
+        Phasor r = Powers[0][std::size_t(K + multiples[0])];
+        for (std::size_t i = 1; i < N; ++i)
+            r = r * Powers[i][std::size_t(K + multiples[i])];
+        return r;
+    }
+
+private:
+    std::array<std::array<Phasor, 2 * K + 1>, N> Powers{};
+};

@@ -42,15 +42,16 @@ void Astronomy::MoonPosition(double jd)
     const double M1 = Radians(Mm, T), F = Radians(Fm, T);
     const double E = Poly2(Ecc, T);
 
+    const MultipleAngles<4, 4> args({D, M, M1, F});
     double sl = 0.0, sr = 0.0, sb = 0.0;
     for (const MoonLrTerm& t : MoonLongitudeDistanceTerms) {
-        const double arg = t.D * D + t.M * M + t.Mp * M1 + t.F * F;
+        const auto arg = args.Of({t.D, t.M, t.Mp, t.F});
         const double e = EFactor(t.M, E);
-        sl += e * t.L * std::sin(arg);
-        sr += e * t.R * std::cos(arg);
+        sl += e * t.L * arg.Sin;
+        sr += e * t.R * arg.Cos;
     }
     for (const MoonBTerm& t : MoonLatitudeTerms)
-        sb += EFactor(t.M, E) * t.B * std::sin(t.D * D + t.M * M + t.Mp * M1 + t.F * F);
+        sb += EFactor(t.M, E) * t.B * args.Of({t.D, t.M, t.Mp, t.F}).Sin;
     const double a1 = Radians(A1, T), a2 = Radians(A2, T), a3 = Radians(A3, T);
     sl += 0.003958 * std::sin(a1) + 0.001962 * std::sin(L1 - F) + 0.000318 * std::sin(a2);
     sb += -0.002235 * std::sin(L1) + 0.000382 * std::sin(a3) +

@@ -24,12 +24,12 @@ void Astronomy::ComputeNutation(double jd)
     const double Mp = Cubic(134.9629814, 477198.8673981, 0.0086972, 0.00001778, T) * DegToRad;
     const double F = Cubic(93.2719103, 483202.0175381, -0.0036825, 0.000003056, T) * DegToRad;
     const double Om = Cubic(125.0445222, -1934.1362608, 0.00207833, 0.00000222, T) * DegToRad;
+    const MultipleAngles<5, 4> args({D, M, Mp, F, Om});
     double dpsi = 0.0, deps = 0.0;
     for (const NutationTerm& t : NutationTerms) {
-        const double arg = t.D * D + t.M * M + t.Mp * Mp + t.F * F + t.Omega * Om;
-        dpsi += (t.S + t.ST * T) * std::sin(arg);
-        if (t.C != 0.0)
-            deps += (t.C + t.CT * T) * std::cos(arg);
+        const auto arg = args.Of({t.D, t.M, t.Mp, t.F, t.Omega});
+        dpsi += (t.S + t.ST * T) * arg.Sin;
+        deps += (t.C + t.CT * T) * arg.Cos;
     }
     NutationLongitude = dpsi * ArcsecToRad;
     NutationObliquity = deps * ArcsecToRad;

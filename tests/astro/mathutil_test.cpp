@@ -38,3 +38,18 @@ TEST(Poly, HornerMatchesPowers)
     EXPECT_NEAR(Poly4({1.0, -1.0, 0.5, 2.0, -3.0}, 1.5),
                 1.0 - 1.5 + 0.5 * 2.25 + 2.0 * 3.375 - 3.0 * 5.0625, 1e-12);
 }
+
+// Combinations of angles from the phasor powers agree with direct evaluation.
+TEST(MultipleAngles, AgreeWithDirectEvaluation)
+{
+    const std::array<double, 3> x = {5.123, -2.5, 100.75};
+    const MultipleAngles<3, 4> m(x);
+    for (int a = -4; a <= 4; ++a)
+        for (int b = -4; b <= 4; ++b)
+            for (int c = -4; c <= 4; c += 2) {
+                const double arg = a * x[0] + b * x[1] + c * x[2];
+                const auto p = m.Of({a, b, c});
+                EXPECT_NEAR(p.Cos, std::cos(arg), 1e-13);
+                EXPECT_NEAR(p.Sin, std::sin(arg), 1e-13);
+            }
+}
