@@ -118,6 +118,20 @@ public:
     void Seasons(double year);
 
 private:
+    // Positions at 0h of recent days for the event drivers: consecutive days share two of their
+    // three, so walking the days computes one new position of each body per day.
+    struct DayPosition {
+        double JD = 0.0; // 0 marks an empty entry
+        double Alpha = 0.0, Delta = 0.0, Parallax = 0.0;
+    };
+    struct DayPositionCache {
+        std::array<DayPosition, 4> Entries{};
+        std::size_t Next = 0;
+    };
+    DayPositionCache SunDays, MoonDays;
+    const DayPosition& SunAtDay(double jd);
+    const DayPosition& MoonAtDay(double jd);
+
     double LocalHours(double utHours) const;
     void PrepareEventSearch(double J0, double altitude, double zoneHours);
     std::string Clock(double hours) const;

@@ -8,7 +8,40 @@ namespace {
 constexpr double MoonRefraction = 0.009948376736367668;
 // h0 for sunrise and sunset: -50 arcminutes.
 constexpr double SunriseAltitude = -0.01454440461552189;
+
+// The cached entry for jd, or a fresh one filled by compute in place of the oldest.
+template <typename Cache, typename Compute>
+const auto& Cached(Cache& cache, double jd, Compute compute)
+{
+    for (const auto& e : cache.Entries)
+        if (e.JD == jd)
+            return e;
+    auto& e = cache.Entries[cache.Next];
+    cache.Next = (cache.Next + 1) % cache.Entries.size();
+    e.JD = jd;
+    compute(e);
+    return e;
+}
 } // namespace
+
+const Astronomy::DayPosition& Astronomy::SunAtDay(double jd)
+{
+    return Cached(SunDays, jd, [&](DayPosition& e) {
+        SunPosition(jd);
+        e.Alpha = PositionResult[3];
+        e.Delta = PositionResult[4];
+    });
+}
+
+const Astronomy::DayPosition& Astronomy::MoonAtDay(double jd)
+{
+    return Cached(MoonDays, jd, [&](DayPosition& e) {
+        MoonPosition(jd);
+        e.Alpha = PositionResult[7];
+        e.Delta = PositionResult[8];
+        e.Parallax = PositionResult[3];
+    });
+}
 
 double Astronomy::LocalHours(double utHours) const
 {
@@ -29,11 +62,11 @@ void Astronomy::MoonEventsForDay(double jd)
     const double J0 = JulianDay0(jd);
     double parallax = 0.0;
     for (int i = 1; i <= 3; ++i) {
-        MoonPosition(J0 + i - 2);
-        EventRA[std::size_t(i)] = PositionResult[7];
-        EventDec[std::size_t(i)] = PositionResult[8];
+        const DayPosition& p = MoonAtDay(J0 + i - 2);
+        EventRA[std::size_t(i)] = p.Alpha;
+        EventDec[std::size_t(i)] = p.Delta;
         if (i == 2)
-            parallax = PositionResult[3];
+            parallax = p.Parallax;
     }
     PrepareEventSearch(J0, 0.7275 * parallax - MoonRefraction,
                        Site.CurTimeZone + 24.0 * Site.DstOffsetDays);
@@ -58,9 +91,9 @@ void Astronomy::SunEventsForDay(double jd)
 {
     const double J0 = JulianDay0(jd);
     for (int i = 1; i <= 3; ++i) {
-        SunPosition(J0 + i - 2);
-        EventRA[std::size_t(i)] = PositionResult[3];
-        EventDec[std::size_t(i)] = PositionResult[4];
+        const DayPosition& p = SunAtDay(J0 + i - 2);
+        EventRA[std::size_t(i)] = p.Alpha;
+        EventDec[std::size_t(i)] = p.Delta;
     }
     SunEventTable& s = Forecast.SunEvents;
     for (int r = 0; r <= 3; ++r) {
