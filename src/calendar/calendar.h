@@ -40,6 +40,10 @@ extern const std::array<const char*, 8> DayNames;    // 1..7, Sunday first
 extern const std::array<const char*, 13> MonthNames; // 1..12
 extern const std::array<const char*, 5> PhaseNames;  // 1..4
 extern const std::array<const char*, 5> SeasonNames; // 1..4, padded to 16
+// The event captions of the year day table, by code - 1.
+extern const std::array<const char*, 2> PerigeeCaptions;
+extern const std::array<const char*, 4> SeasonCaptions;
+extern const std::array<const char*, 2> DeclinationCaptions;
 
 class Calendar {
 public:

@@ -7,13 +7,13 @@
 
 #include <cmath>
 
-namespace {
+const std::array<const char*, 2> PerigeeCaptions = {" Moon at Perigee ", " Moon at Apogee "};
+const std::array<const char*, 4> SeasonCaptions = {" Spring Eqinox ", " Summer Solstice ",
+                                                   " Fall Equinox ", " Winter Solstice "};
+const std::array<const char*, 2> DeclinationCaptions = {" Moon at Max North Declination ",
+                                                        " Moon at Max South Declination "};
 
-const char* const PerigeeCaptions[] = {" Moon at Perigee ", " Moon at Apogee "};
-const char* const SeasonCaptions[] = {" Spring Eqinox ", " Summer Solstice ", " Fall Equinox ",
-                                      " Winter Solstice "};
-const char* const DeclinationCaptions[] = {" Moon at Max North Declination ",
-                                           " Moon at Max South Declination "};
+namespace {
 
 // Walks whole cycles while the cycle's first event lies before the day after the year.
 template <typename Visit> void WalkCycles(double firstK, double endJD, Visit visit)

@@ -1,0 +1,46 @@
+// The command line of quillmere-forecast: three commands, a location either by its stored
+// number or by coordinates, daylight saving, the chosen hour and the output format.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+enum class Command { Days, Events, Month };
+enum class OutputFormat { Text, Csv, Json, Ics };
+
+struct CoordinateLocation {
+    double Longitude = 0.0; // degrees, west positive
+    double Latitude = 0.0;  // degrees, north positive
+    int TimeZone = 0;       // hours west of Greenwich
+    std::string Name = "Custom location";
+};
+
+struct ForecastRequest {
+    Command What = Command::Days;
+    int Year = 0, Month = 0, Day = 0; // --from, or --year/--month
+    int Days = 1;
+    std::optional<int> StoredLocation;               // --location N
+    std::optional<CoordinateLocation> AtCoordinates; // --lon/--lat/--zone
+    bool Dst = false;
+    int HourMinutes = 720; // --hour, minutes since midnight
+    OutputFormat Format = OutputFormat::Text;
+};
+
+struct UsageError {
+    std::string Message;
+};
+
+struct HelpRequested {};
+
+// Parses the arguments after the program name. `todayYear`/`todayMonth` fill in a month
+// command given without --year/--month.
+std::variant<ForecastRequest, UsageError, HelpRequested>
+ParseArguments(const std::vector<std::string>& args, int todayYear, int todayMonth);
+
+// "92.42W" -> 92.42, "31.25S" -> -31.25; nothing when malformed or out of range.
+std::optional<double> ParseCoordinate(const std::string& text, char positive, char negative,
+                                      double limit);
+
+extern const char* const UsageText;

@@ -1,0 +1,325 @@
+#include "cli/formats.h"
+
+#include "astro/timebase.h"
+
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+
+namespace {
+
+std::string Date(int y, int m, int d)
+{
+    char buf[16];
+    std::snprintf(buf, sizeof buf, "%04d-%02d-%02d", y, m, d);
+    return buf;
+}
+
+std::string JsonString(const std::string& s)
+{
+    std::string out = "\"";
+    for (const char c : s) {
+        if (c == '"' || c == '\\') {
+            out += '\\';
+            out += c;
+        } else if (static_cast<unsigned char>(c) < 0x20) {
+            char buf[8];
+            std::snprintf(buf, sizeof buf, "\\u%04x", c);
+            out += buf;
+        } else {
+            out += c;
+        }
+    }
+    return out + "\"";
+}
+
+std::string Optional(const std::optional<double>& v) { return v ? ExactNumber(*v) : "null"; }
+
+// The columns of CSV and JSON, in one place: key and the value's JSON text.
+using Field = std::pair<const char*, std::function<std::string(const DayRow&)>>;
+
+const std::vector<Field>& Fields()
+{
+    static const std::vector<Field> fields = {
+        {"date", [](const DayRow& r) { return JsonString(Date(r.Year, r.Month, r.Day)); }},
+        {"sunrise", [](const DayRow& r) { return ExactNumber(r.Sunrise); }},
+        {"sunset", [](const DayRow& r) { return ExactNumber(r.Sunset); }},
+        {"sun_transit", [](const DayRow& r) { return ExactNumber(r.SunTransit); }},
+        {"civil_dawn", [](const DayRow& r) { return ExactNumber(r.CivilDawn); }},
+        {"civil_dusk", [](const DayRow& r) { return ExactNumber(r.CivilDusk); }},
+        {"nautical_dawn", [](const DayRow& r) { return ExactNumber(r.NauticalDawn); }},
+        {"nautical_dusk", [](const DayRow& r) { return ExactNumber(r.NauticalDusk); }},
+        {"astronomical_dawn", [](const DayRow& r) { return ExactNumber(r.AstronomicalDawn); }},
+        {"astronomical_dusk", [](const DayRow& r) { return ExactNumber(r.AstronomicalDusk); }},
+        {"day_length", [](const DayRow& r) { return ExactNumber(r.DayLength); }},
+        {"moonrise", [](const DayRow& r) { return Optional(r.Moonrise); }},
+        {"moon_transit", [](const DayRow& r) { return Optional(r.MoonTransit); }},
+        {"moonset", [](const DayRow& r) { return Optional(r.Moonset); }},
+        {"major1", [](const DayRow& r) { return ExactNumber(r.Major1); }},
+        {"major2", [](const DayRow& r) { return ExactNumber(r.Major2); }},
+        {"minor1", [](const DayRow& r) { return Optional(r.Minor1); }},
+        {"minor2", [](const DayRow& r) { return Optional(r.Minor2); }},
+        {"major1_text", [](const DayRow& r) { return JsonString(r.Major1Text); }},
+        {"major2_text", [](const DayRow& r) { return JsonString(r.Major2Text); }},
+        {"minor1_text", [](const DayRow& r) { return JsonString(r.Minor1Text); }},
+        {"minor2_text", [](const DayRow& r) { return JsonString(r.Minor2Text); }},
+        {"sunrise_text", [](const DayRow& r) { return JsonString(r.SunriseText); }},
+        {"sunset_text", [](const DayRow& r) { return JsonString(r.SunsetText); }},
+        {"illum_percent", [](const DayRow& r) { return std::to_string(r.IllumPercent); }},
+        {"waxing", [](const DayRow& r) { return std::to_string(r.Waxing); }},
+        {"rating", [](const DayRow& r) { return std::to_string(r.Rating); }},
+        {"moon_age", [](const DayRow& r) { return std::to_string(r.MoonAge); }},
+        {"phase", [](const DayRow& r) { return std::to_string(r.Phase); }},
+        {"perigee", [](const DayRow& r) { return std::to_string(r.Perigee); }},
+        {"declination", [](const DayRow& r) { return std::to_string(r.Declination); }},
+        {"season", [](const DayRow& r) { return std::to_string(r.Season); }},
+        {"holiday", [](const DayRow& r) { return std::string(r.Holiday ? "true" : "false"); }},
+        {"text", [](const DayRow& r) { return JsonString(r.Text); }},
+        {"sun_azimuth", [](const DayRow& r) { return ExactNumber(r.SunAzimuth); }},
+        {"sun_altitude", [](const DayRow& r) { return ExactNumber(r.SunAltitude); }},
+        {"moon_azimuth", [](const DayRow& r) { return ExactNumber(r.MoonAzimuth); }},
+        {"moon_altitude", [](const DayRow& r) { return ExactNumber(r.MoonAltitude); }},
+        {"moon_parallactic_angle",
+         [](const DayRow& r) { return ExactNumber(r.MoonParallacticAngle); }},
+    };
+    return fields;
+}
+
+// The text of a JSON string (the forms JsonString writes).
+std::string Unescaped(const std::string& json)
+{
+    std::string plain;
+    for (std::size_t i = 1; i + 1 < json.size(); ++i) {
+        if (json[i] == '\\' && json[i + 1] == 'u') {
+            plain += char(std::stoi(json.substr(i + 2, 4), nullptr, 16));
+            i += 5;
+        } else {
+            plain += json[i] == '\\' ? json[++i] : json[i];
+        }
+    }
+    return plain;
+}
+
+// CSV cells: JSON text without the quotes of plain strings; strings holding a comma, quote or
+// line break are quoted with doubled quotes; null is an empty cell.
+std::string CsvCell(const std::string& json)
+{
+    if (json == "null")
+        return "";
+    if (json.empty() || json.front() != '"')
+        return json;
+    const std::string plain = Unescaped(json);
+    std::string quoted = "\"";
+    if (plain.find_first_of(",\"\r\n") == std::string::npos)
+        return plain;
+    for (const char c : plain)
+        quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
+    return quoted + "\"";
+}
+
+std::string Clock24(const std::optional<double>& h)
+{
+    if (!h)
+        return "  -  ";
+    const int minutes = static_cast<int>(std::floor(*h * 60.0));
+    char buf[8];
+    std::snprintf(buf, sizeof buf, "%02d:%02d", minutes / 60 % 24, minutes % 60);
+    return buf;
+}
+
+} // namespace
+
+std::string ExactNumber(double v)
+{
+    std::array<char, 32> buf{};
+    const auto [end, ec] = std::to_chars(buf.data(), buf.data() + buf.size(), v);
+    return ec == std::errc{} ? std::string(buf.data(), end) : "null";
+}
+
+std::string RatingName(int rating)
+{
+    static constexpr std::array<const char*, 5> names = {"", "Fair", "Good", "V.Good", "Best"};
+    return rating >= 1 && rating <= 4 ? names[std::size_t(rating)] : "";
+}
+
+std::string DaysAsJson(const std::vector<DayRow>& rows)
+{
+    std::string out = "[";
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        out += i ? ",\n {" : "\n {";
+        bool first = true;
+        for (const auto& [key, value] : Fields()) {
+            out += (first ? "\"" : ", \"") + std::string(key) + "\": " + value(rows[i]);
+            first = false;
+        }
+        out += "}";
+    }
+    return out + (rows.empty() ? "]\n" : "\n]\n");
+}
+
+std::string DaysAsCsv(const std::vector<DayRow>& rows)
+{
+    std::string out;
+    for (const auto& [key, value] : Fields())
+        out += (out.empty() ? "" : ",") + std::string(key);
+    out += "\n";
+    for (const DayRow& r : rows) {
+        std::string line;
+        for (const auto& [key, value] : Fields())
+            line += (&key == &Fields().front().first ? "" : ",") + CsvCell(value(r));
+        out += line + "\n";
+    }
+    return out;
+}
+
+std::string DaysAsText(const std::vector<DayRow>& rows, const std::string& locationCaption)
+{
+    std::string out = locationCaption + "\n\n";
+    out += "Date        Rating  Sunrise Sunset  Moonrise Transit Moonset  Major1  Major2  "
+           "Minor1  Minor2  Moon  Events\n";
+    for (const DayRow& r : rows) {
+        char line[200];
+        std::snprintf(
+            line, sizeof line, "%s  %-6s  %s   %s   %s    %s   %s    %s   %s   %s   %s   %3d%%  ",
+            Date(r.Year, r.Month, r.Day).c_str(), RatingName(r.Rating).c_str(),
+            Clock24(r.Sunrise).c_str(), Clock24(r.Sunset).c_str(), Clock24(r.Moonrise).c_str(),
+            Clock24(r.MoonTransit).c_str(), Clock24(r.Moonset).c_str(), Clock24(r.Major1).c_str(),
+            Clock24(r.Major2).c_str(), Clock24(r.Minor1).c_str(), Clock24(r.Minor2).c_str(),
+            r.IllumPercent);
+        std::string text = r.Text;
+        while (!text.empty() && text.front() == ' ')
+            text.erase(0, 1);
+        out += line + text + "\n";
+    }
+    return out;
+}
+
+namespace {
+
+// "YYYYMMDDTHHMMSSZ" of a local clock hour on the row's day, in universal time.
+std::string UtcStamp(const DayRow& r, double localHours)
+{
+    using namespace std::chrono;
+    const sys_days day0{year{r.Year} / month{unsigned(r.Month)} / unsigned(r.Day)};
+    const sys_seconds t = day0 + seconds{std::llround((localHours + r.UtcOffsetHours) * 3600.0)};
+    const sys_days day = floor<days>(t);
+    const year_month_day ymd{day};
+    const hh_mm_ss hms{t - day};
+    char buf[40];
+    std::snprintf(buf, sizeof buf, "%04d%02u%02uT%02d%02d%02dZ", int(ymd.year()),
+                  unsigned(ymd.month()), unsigned(ymd.day()), int(hms.hours().count()),
+                  int(hms.minutes().count()), int(hms.seconds().count()));
+    return buf;
+}
+
+// One content line, folded at 75 octets as RFC 5545 asks.
+std::string IcsLine(const std::string& line)
+{
+    std::string out;
+    for (std::size_t i = 0; i < line.size(); i += i == 0 ? 75 : 74)
+        out += (i ? " " : "") + line.substr(i, i == 0 ? 75 : 74) + "\r\n";
+    return out;
+}
+
+std::string IcsText(const std::string& s)
+{
+    std::string out;
+    for (const char c : s) {
+        if (c == ',' || c == ';' || c == '\\')
+            out += '\\';
+        out += c;
+    }
+    return out;
+}
+
+std::string TimedEvent(const DayRow& r, const std::string& what, double centre, double halfMinutes,
+                       const std::string& stamp, const std::string& place)
+{
+    const std::string day = Date(r.Year, r.Month, r.Day);
+    return IcsLine("BEGIN:VEVENT") + IcsLine("UID:" + day + "-" + what + "@quillmere") +
+           IcsLine("DTSTAMP:" + stamp) +
+           IcsLine("DTSTART:" + UtcStamp(r, centre - halfMinutes / 60.0)) +
+           IcsLine("DTEND:" + UtcStamp(r, centre + halfMinutes / 60.0)) +
+           IcsLine("SUMMARY:" + IcsText((what[1] == 'a' ? "Major period" : "Minor period") +
+                                        std::string(" (") + place + ")")) +
+           IcsLine("TRANSP:TRANSPARENT") + IcsLine("END:VEVENT");
+}
+
+} // namespace
+
+std::string DaysAsIcs(const std::vector<DayRow>& rows, const std::string& locationName,
+                      const std::string& stamp)
+{
+    std::string out = IcsLine("BEGIN:VCALENDAR") + IcsLine("VERSION:2.0") +
+                      IcsLine("PRODID:-//Quillmere//Fishing forecast//EN") +
+                      IcsLine("CALSCALE:GREGORIAN") +
+                      IcsLine("X-WR-CALNAME:" + IcsText("Fishing times, " + locationName));
+    for (const DayRow& r : rows) {
+        const std::string day = Date(r.Year, r.Month, r.Day);
+        if (r.Rating >= 1) {
+            char compact[9];
+            std::snprintf(compact, sizeof compact, "%04d%02d%02d", r.Year, r.Month, r.Day);
+            out += IcsLine("BEGIN:VEVENT") + IcsLine("UID:" + day + "-rating@quillmere") +
+                   IcsLine("DTSTAMP:" + stamp) +
+                   IcsLine("DTSTART;VALUE=DATE:" + std::string(compact)) + IcsLine("DURATION:P1D") +
+                   IcsLine("SUMMARY:" + RatingName(r.Rating)) + IcsLine("TRANSP:TRANSPARENT") +
+                   IcsLine("END:VEVENT");
+        }
+        out += TimedEvent(r, "major1", r.Major1, 60, stamp, locationName);
+        out += TimedEvent(r, "major2", r.Major2, 60, stamp, locationName);
+        if (r.Minor1)
+            out += TimedEvent(r, "minor1", *r.Minor1, 35, stamp, locationName);
+        if (r.Minor2)
+            out += TimedEvent(r, "minor2", *r.Minor2, 35, stamp, locationName);
+    }
+    return out + IcsLine("END:VCALENDAR");
+}
+
+namespace {
+// "YYYY-MM-DD HH:MM" of a local Julian day.
+std::string LocalText(double jd)
+{
+    const double shifted = jd + 0.5 + 0.5 / 1440.0; // to the nearest minute
+    const int minutes = int((shifted - std::floor(shifted)) * 1440.0);
+    const CivilDate c = JdToCivil(std::floor(shifted) - 0.5);
+    char buf[32];
+    std::snprintf(buf, sizeof buf, "%04d-%02d-%02d %02d:%02d", c.Year, c.Month, c.Day, minutes / 60,
+                  minutes % 60);
+    return buf;
+}
+
+std::string Trimmed(std::string s)
+{
+    while (!s.empty() && s.front() == ' ')
+        s.erase(0, 1);
+    while (!s.empty() && s.back() == ' ')
+        s.pop_back();
+    return s;
+}
+} // namespace
+
+std::string EventsAsJson(int year, const std::vector<EventRow>& events)
+{
+    std::string out = "{\"year\": " + std::to_string(year) + ", \"events\": [";
+    for (std::size_t i = 0; i < events.size(); ++i) {
+        const EventRow& e = events[i];
+        out += (i ? ",\n  " : "\n  ") + std::string("{\"type\": ") + JsonString(e.Type) +
+               ", \"jd\": " + ExactNumber(e.JD) +
+               ", \"local\": " + JsonString(LocalText(e.LocalJD)) +
+               ", \"date\": " + JsonString(Date(e.Year, e.Month, e.Day)) + "}";
+    }
+    return out + (events.empty() ? "]}\n" : "\n]}\n");
+}
+
+std::string EventsAsText(int year, const std::vector<EventRow>& events,
+                         const std::string& locationCaption)
+{
+    std::string out =
+        "Events of " + std::to_string(year) + ", " + locationCaption + " (local clock time)\n\n";
+    for (const EventRow& e : events)
+        out += LocalText(e.LocalJD) + "  " + Trimmed(e.Caption) + "\n";
+    return out;
+}

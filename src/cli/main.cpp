@@ -1,0 +1,160 @@
+// quillmere-forecast: the day forecasts, the year's events and the monthly list of the
+// program's engine, for scripts and the terminal.
+#include "app/settings.h"
+#include "app/settingsio.h"
+#include "calendar/calendar.h"
+#include "cli/arguments.h"
+#include "cli/forecastrun.h"
+#include "cli/formats.h"
+#include "platform/clock.h"
+#include "platform/settingsstore.h"
+#include "platform/systemlocale.h"
+#include "views/monthlylist.h"
+
+#include <QCoreApplication>
+
+#include <chrono>
+#include <cstdio>
+#include <iostream>
+
+namespace {
+
+struct NamedPlace {
+    ForecastPlace Place;
+    std::string Name;
+};
+
+// The location of the request: coordinates as given, or one of the ten stored locations
+// (the store gets the first-start values when the program has never run).
+NamedPlace PlaceOf(const ForecastRequest& r)
+{
+    NamedPlace p;
+    if (r.AtCoordinates) {
+        p.Place.Longitude = r.AtCoordinates->Longitude;
+        p.Place.Latitude = r.AtCoordinates->Latitude;
+        p.Place.TimeZone = r.AtCoordinates->TimeZone;
+        p.Name = r.AtCoordinates->Name;
+    } else {
+        SettingsStore store;
+        if (!store.Contains(QStringLiteral("Usr1Name")))
+            WriteFirstStartValues(store);
+        Settings s;
+        LoadSettings(s, store);
+        const Location& loc =
+            s.Locations[std::size_t(r.StoredLocation.value_or(s.DefaultLocation()))];
+        p.Place.Longitude = loc.Longitude;
+        p.Place.Latitude = loc.Latitude;
+        p.Place.TimeZone = loc.TimeZone;
+        p.Place.AmPm = s.AmPm();
+        p.Name = loc.Name;
+    }
+    p.Place.DstOffsetDays = r.Dst ? SystemDaylightBias() / 1440.0 : 0.0;
+    p.Place.HourMinutes = r.HourMinutes;
+    return p;
+}
+
+std::string Caption(const NamedPlace& p)
+{
+    char text[160];
+    std::snprintf(text, sizeof text, "%s  %.2f%c %.2f%c  zone %d%s", p.Name.c_str(),
+                  std::abs(p.Place.Longitude), p.Place.Longitude < 0 ? 'E' : 'W',
+                  std::abs(p.Place.Latitude), p.Place.Latitude < 0 ? 'S' : 'N', p.Place.TimeZone,
+                  p.Place.DstOffsetDays != 0.0 ? "  daylight saving" : "");
+    return text;
+}
+
+std::string UtcStampNow()
+{
+    const QDateTime now = Clock::Now().toUTC();
+    return now.toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'")).toStdString();
+}
+
+std::string Days(const ForecastRequest& r, const NamedPlace& p)
+{
+    ForecastRun run(p.Place);
+    std::vector<DayRow> rows;
+    rows.reserve(std::size_t(r.Days));
+    using namespace std::chrono;
+    sys_days day{year{r.Year} / month{unsigned(r.Month)} / unsigned(r.Day)};
+    for (int i = 0; i < r.Days; ++i, day += days{1}) {
+        const year_month_day ymd{day};
+        if (int(ymd.year()) > 2500)
+            break;
+        rows.push_back(
+            run.Day(int(ymd.year()), int(unsigned(ymd.month())), int(unsigned(ymd.day()))));
+    }
+    switch (r.Format) {
+    case OutputFormat::Csv:
+        return DaysAsCsv(rows);
+    case OutputFormat::Json:
+        return DaysAsJson(rows);
+    case OutputFormat::Ics:
+        return DaysAsIcs(rows, p.Name, UtcStampNow());
+    case OutputFormat::Text:
+        break;
+    }
+    return DaysAsText(rows, Caption(p));
+}
+
+std::string Events(const ForecastRequest& r, const NamedPlace& p)
+{
+    ForecastRun run(p.Place);
+    const auto events = run.Events(r.Year);
+    return r.Format == OutputFormat::Json ? EventsAsJson(r.Year, events)
+                                          : EventsAsText(r.Year, events, Caption(p));
+}
+
+std::string Month(const ForecastRequest& r, const NamedPlace& p)
+{
+    ForecastRun run(p.Place);
+    Calendar& cal = run.Cal;
+    cal.CurYear = std::int16_t(r.Year);
+    cal.CurMonth = std::int16_t(r.Month);
+    cal.SetYearTables(run.Engine, run.SouthernHemisphere);
+    std::string out = "Monthly Data for " + p.Name + "\n" + MonthAbbrev(r.Month) + " " +
+                      std::to_string(r.Year) + "\n\n" + MonthlyListHeadings[0] + "\n" +
+                      MonthlyListHeadings[1] + "\n";
+    for (const std::string& line : MonthlyListLines(
+             run.Engine, cal.MonthStartJD[std::size_t(r.Month)], cal.MonthDays, p.Place.AmPm))
+        out += line + "\n";
+    return out;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    const std::vector<std::string> args(argv + 1, argv + argc);
+    const QDate today = Clock::Now().date();
+    const auto parsed = ParseArguments(args, today.year(), today.month());
+    if (std::holds_alternative<HelpRequested>(parsed)) {
+        std::cout << UsageText;
+        return 0;
+    }
+    if (const auto* e = std::get_if<UsageError>(&parsed)) {
+        std::cerr << "quillmere-forecast: " << e->Message << "\n";
+        return 2;
+    }
+    const ForecastRequest& r = std::get<ForecastRequest>(parsed);
+    try {
+        const NamedPlace place = PlaceOf(r);
+        switch (r.What) {
+        case Command::Days:
+            std::cout << Days(r, place);
+            break;
+        case Command::Events:
+            std::cout << Events(r, place);
+            break;
+        case Command::Month:
+            std::cout << Month(r, place);
+            break;
+        }
+    } catch (const SettingError& e) {
+        std::cerr << "quillmere-forecast: the stored setting " << e.Key << " holds \"" << e.Text
+                  << "\", which is not " << e.Expected
+                  << "; start Quillmere with any argument to reset the settings\n";
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,21 @@
+// The text of the monthly data list: one fixed-width line per day with sunrise and sunset,
+// moonrise and moonset, the majors and the minors; a missing time shows as "XX:XX".
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+class Astronomy;
+
+// Headings 0 and 1 for the screen, 2 and 3 for the clipboard and the printer.
+extern const std::array<const char*, 4> MonthlyListHeadings;
+
+// One line per day of the month whose first day is at `monthStartJD` (0h), computed with the
+// engine at its observer; `ampm` selects the 12-hour layout.
+std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD, int monthDays,
+                                          bool ampm);
+
+// Appends one time column, "XX:XX" for a text that begins "****".
+void PRNTrue(std::string& line, const std::string& text);
+void PRNFalse(std::string& line, const std::string& text);

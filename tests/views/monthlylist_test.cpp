@@ -1,0 +1,71 @@
+#include "astro/astronomy.h"
+#include "astro/timebase.h"
+#include "calendar/calendar.h"
+#include "views/monthlylist.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+Astronomy AtAlexandria()
+{
+    Astronomy engine;
+    engine.Site.CurLongitude = 92.42;
+    engine.Site.CurLatitude = 31.25;
+    engine.Site.CurTimeZone = 6;
+    engine.Site.ZoneDays = 0.25;
+    return engine;
+}
+
+// February 2024 lists 29 lines, each starting with the day in two digits; the 12-hour layout
+// shortens "PM" to "P".
+TEST(MonthlyList, LeapFebruaryInTheTwelveHourLayout)
+{
+    Astronomy engine = AtAlexandria();
+    const auto lines = MonthlyListLines(engine, CivilToJd(2024, 2, 1), 29, true);
+    ASSERT_EQ(lines.size(), 29u);
+    EXPECT_EQ(lines[4].substr(0, 2), "05");
+    EXPECT_EQ(lines[28].substr(0, 2), "29");
+    // Sunrise about 7 AM and sunset about 5:45 PM, shortened.
+    EXPECT_EQ(lines[0].substr(0, 22), "01  07:02 A 05:44 P 12");
+    EXPECT_EQ(lines[0].find(" PM"), std::string::npos);
+}
+
+// A missing time reads "XX:XX": 2 February 2024 has its second minor after midnight.
+TEST(MonthlyList, MissingTimesReadXX)
+{
+    Astronomy engine = AtAlexandria();
+    for (const bool ampm : {true, false}) {
+        const auto lines = MonthlyListLines(engine, CivilToJd(2024, 2, 1), 29, ampm);
+        engine.ComputeDay(CivilToJd(2024, 2, 2));
+        ASSERT_EQ(engine.Forecast.Minor2Text, "*******");
+        EXPECT_NE(lines[1].find("XX:XX"), std::string::npos) << lines[1];
+        EXPECT_EQ(lines[2].find("XX:XX"), std::string::npos) << lines[2];
+    }
+    std::string line;
+    PRNTrue(line, "****");
+    EXPECT_EQ(line, " XX:XX   ");
+    line.clear();
+    PRNFalse(line, "*******");
+    EXPECT_EQ(line, " XX:XX   ");
+    PRNFalse(line, "06:05");
+    EXPECT_EQ(line, " XX:XX   06:05 ");
+}
+
+// A day without a transit of its own shows "XX:XX" in the first major column.
+TEST(MonthlyList, DayWithoutTransit)
+{
+    Astronomy engine = AtAlexandria();
+    for (int d = 1; d <= 31; ++d) {
+        const double J = CivilToJd(2024, 1, d);
+        engine.ComputeDay(J);
+        if (engine.Forecast.MoonEvents.TransitFlag == 0)
+            continue;
+        const auto lines = MonthlyListLines(engine, J, 1, false);
+        EXPECT_NE(lines[0].find("XX:XX"), std::string::npos) << lines[0];
+        return;
+    }
+    FAIL() << "January 2024 has a day without a transit at Alexandria";
+}
+
+} // namespace
