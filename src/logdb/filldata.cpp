@@ -1,0 +1,108 @@
+#include "logdb/filldata.h"
+
+#include "astro/astronomy.h"
+#include "calendar/calendar.h"
+#include "logdb/datacontrol.h"
+#include "platform/vbformat.h"
+
+#include <QAction>
+#include <QWidget>
+
+namespace {
+
+QVariant Text(const std::string& s) { return QVariant(QString::fromStdString(s)); }
+
+// An hour of the day, or -1 when the day has no such event.
+QVariant HourOrNone(double hours, bool none) { return none ? QVariant(-1) : QVariant(hours); }
+
+// Keeps the observer's zone and daylight-saving values across the fill's per-day changes.
+class ObserverRestore {
+public:
+    explicit ObserverRestore(Observer& site)
+        : site_(site), dstOffsetDays_(site.DstOffsetDays), zoneDays_(site.ZoneDays)
+    {
+    }
+    ~ObserverRestore()
+    {
+        site_.DstOffsetDays = dstOffsetDays_;
+        site_.ZoneDays = zoneDays_;
+    }
+    ObserverRestore(const ObserverRestore&) = delete;
+    ObserverRestore& operator=(const ObserverRestore&) = delete;
+
+private:
+    Observer& site_;
+    double dstOffsetDays_;
+    double zoneDays_;
+};
+
+} // namespace
+
+Calendar YearCalendar(Astronomy& engine, int year, std::int16_t south)
+{
+    Calendar cal;
+    cal.CurYear = std::int16_t(year);
+    cal.CurMonth = 1;
+    cal.SetYearTables(engine, south);
+    return cal;
+}
+
+FieldValues DayRecord(Astronomy& engine, const Calendar& cal, int d)
+{
+    const double J = cal.YearStartJD + d - 1;
+    const double T = J - SerialEpochJD; // the day as a date serial
+    const bool ampm = engine.Site.AMPM;
+    const auto clock = [ampm](double hours) { return FormatClock(0, hours, ampm); };
+    const DayForecast& f = engine.Forecast;
+
+    engine.ComputeSunDay(J);
+    const SunEventTable& sun = f.SunEvents;
+    FieldValues record{{"JulianDate", Text(VbFormatDate(T, "mm/dd/yyyy"))},
+                       {"SunRise", Text(clock(sun(0, 0)))},
+                       {"SunSet", Text(clock(sun(0, 2)))}};
+    for (const auto& [row, column] :
+         {std::pair{1, "CivilTwilight"}, {2, "NauticalTwilight"}, {3, "AstronomicalTwilight"}})
+        record.emplace_back(column, Text(clock(sun(row, 0)) + "/" + clock(sun(row, 2))));
+
+    engine.ComputeDay(J);
+    const DayMarks& marks = cal.YearDays[std::size_t(d)];
+    const FieldValues moon{
+        {"MoonRise", HourOrNone(f.MoonEvents.RiseTime, f.MoonEvents.RiseFlag == 2)},
+        {"MoonSet", HourOrNone(f.MoonEvents.SetTime, f.MoonEvents.SetFlag == 2)},
+        {"Major1", Text(clock(f.Major1))},
+        {"Major2", Text(clock(f.Major2))},
+        {"Minor1", HourOrNone(f.Minor1, f.Minor1 < 0)},
+        {"Minor2", HourOrNone(f.Minor2, f.Minor2 < 0)},
+        {"IllumPercent", QVariant(f.IllumPercent)},
+        {"GraphicType", QVariant(marks.Rating)},
+        {"MoonAge", QVariant(marks.MoonAge)},
+        {"Waxing", QVariant(f.Waxing)},
+        {"DaylightHours", QVariant(sun(0, 2) - sun(0, 0))},
+        {"Month", Text(VbFormatDate(T, "m"))},
+        {"DayOfWeek_", Text(VbFormatDate(T, "w"))},
+        {"Perigee", QVariant(marks.Perigee)}};
+    record.insert(record.end(), moon.begin(), moon.end());
+    return record;
+}
+
+DbResult FillYear(Astronomy& engine, const Calendar& cal, std::int32_t daylightBias,
+                  DataControl& data0, const FillProgress& progress)
+{
+    const ObserverRestore restore(engine.Site);
+    const int L = cal.YearSlots - 1;
+    const int S = cal.DstStartDay, E = cal.DstEndDay;
+    std::vector<FieldValues> records;
+    records.reserve(std::size_t(L));
+    for (int d = 1; d <= L; ++d) {
+        engine.Site.DstOffsetDays = S <= d && d <= E - 1 ? daylightBias / 1440.0 : 0.0;
+        if (progress)
+            progress(d, L);
+        records.push_back(DayRecord(engine, cal, d));
+    }
+    return data0.AddRecords(records);
+}
+
+void DisableControl(QWidget* control) { control->setEnabled(false); }
+void EnableControl(QWidget* control) { control->setEnabled(true); }
+void DisableControl(QAction* control) { control->setEnabled(false); }
+void EnableControl(QAction* control) { control->setEnabled(true); }
