@@ -1,9 +1,11 @@
-// The one application state: the settings, the store they come from, the message service and
-// the engine. main() owns it and hands references to the windows; tests build fresh ones.
+// The one application state: the settings, the store they come from, the message service,
+// the engine and the calendar. main() owns it and hands references to the windows; tests
+// build fresh ones.
 #pragma once
 
 #include "app/settings.h"
 #include "astro/astronomy.h"
+#include "calendar/calendar.h"
 #include "platform/messageservice.h"
 #include "platform/settingsstore.h"
 
@@ -12,4 +14,5 @@ struct AppState {
     SettingsStore Store;
     MessageService Messages;
     Astronomy Astro;
+    Calendar Cal;
 };

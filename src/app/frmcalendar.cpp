@@ -5,17 +5,23 @@
 #include "app/frmabout.h"
 #include "app/helpwindow.h"
 #include "app/settingsio.h"
+#include "app/stockpictures.h"
+#include "astro/moonpicture.h"
+#include "astro/timebase.h"
+#include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/twips.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShowEvent>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolTip>
@@ -29,6 +35,34 @@ constexpr int FormWidthTwips = 10200;
 constexpr int CellWidth = 57, CellHeight = 48, CellGap = 1, GridLeft = 6, GridTop = 50;
 
 QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+// The hourglass pointer while a handler works.
+struct BusyPointer {
+    BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyPointer() { QApplication::restoreOverrideCursor(); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+};
+
+QColor Colour(std::uint32_t bbggrr) { return VbColor(std::int32_t(bbggrr)); }
+
+// The weekday header: its text spaces the names for the grid, and it paints each name
+// centred over its column whatever the font.
+class WeekdayHeader : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter p(this);
+        const QStringList names = text().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        const int count = int(std::max<qsizetype>(1, names.size()));
+        const double column = double(width()) / count;
+        for (int i = 0; i < int(names.size()); ++i)
+            p.drawText(QRectF(i * column, 0, column, height()), Qt::AlignCenter, names[i]);
+    }
+};
 
 QAction* Item(QMenu* menu, const QString& caption, const QString& name, bool checkable = false)
 {
@@ -45,8 +79,28 @@ FrmCalendar::FrmCalendar(AppState& app, QWidget* parent) : QMainWindow(parent), 
     BuildControls();
     BuildMenus();
     BuildStatusBar();
+    ConnectHandlers();
     App.Messages.SetParent(this);
     Form_Load();
+}
+
+void FrmCalendar::ConnectHandlers()
+{
+    connect(IncMonth, &QPushButton::clicked, this, &FrmCalendar::IncMonth_Click);
+    connect(DecMonth, &QPushButton::clicked, this, &FrmCalendar::DecMonth_Click);
+    connect(CmdNOW, &QPushButton::clicked, this, &FrmCalendar::CmdNOW_Click);
+    connect(VsbYear, &QScrollBar::valueChanged, this, &FrmCalendar::VsbYear_Change);
+    connect(VsbYear, &QScrollBar::sliderMoved, this, &FrmCalendar::VsbYear_Scroll);
+    connect(VsbHour, &QScrollBar::valueChanged, this, &FrmCalendar::VsbHour_Change);
+    connect(VsbHour, &QScrollBar::sliderMoved, this, &FrmCalendar::VsbHour_Scroll);
+    connect(Timer1, &QTimer::timeout, this, &FrmCalendar::Timer1_Timer);
+    for (DayCellWidget* cell : txtpic) {
+        connect(cell, &DayCellWidget::Clicked, this, &FrmCalendar::txtpic_Click);
+        connect(cell, &DayCellWidget::MouseMoved, this, &FrmCalendar::txtpic_MouseMove);
+        connect(cell, &DayCellWidget::MousePressed, this,
+                [this](int i, Qt::MouseButton) { txtpic_MouseDown(i); });
+    }
+    Timer1->start();
 }
 
 QLabel* FrmCalendar::MakeLabel(int index, QWidget* parent, const QRect& geometry)
@@ -78,9 +132,12 @@ void FrmCalendar::BuildControls()
     CmdNOW = new QPushButton(QStringLiteral("Now"), central);
     CmdNOW->setGeometry(290, 4, 56, 26);
 
-    MakeLabel(1, central, {GridLeft, 32, 7 * (CellWidth + CellGap), 16})
-        ->setText(QStringLiteral("    Sun            Mon           Tue            Wed          Thu "
-                                 "            Fri             Sat"));
+    Label[1] = new WeekdayHeader(central);
+    Label[1]->setObjectName(QStringLiteral("Label1"));
+    Label[1]->setGeometry(GridLeft, 32, 7 * (CellWidth + CellGap), 16);
+    Label[1]->setText(
+        QStringLiteral("    Sun            Mon           Tue            Wed          Thu "
+                       "            Fri             Sat"));
     for (int i = 0; i < 37; ++i) {
         auto* cell = new DayCellWidget(i, central);
         cell->setGeometry(GridLeft + (i % 7) * (CellWidth + CellGap),
@@ -91,6 +148,7 @@ void FrmCalendar::BuildControls()
     VsbYear = new QScrollBar(Qt::Vertical, central);
     VsbYear->setGeometry(gridRight + 2, GridTop, 16, 6 * (CellHeight + CellGap) - CellGap);
     VsbYear->setRange(1900, 2500);
+    VsbYear->setTracking(false); // dragging scrolls; the change comes on release
     VsbYear->setToolTip(QStringLiteral(" Change the Year "));
     MakeLabel(3, central, {GridLeft, GridTop + 6 * (CellHeight + CellGap) + 2, 330, 18});
 
@@ -119,7 +177,11 @@ void FrmCalendar::BuildDetailsPanel(QWidget* central)
     MakeLabel(5, minors, {10, 38, 94, 18});
     for (int i : {0, 2, 4, 5}) {
         Label[std::size_t(i)]->setToolTip(QStringLiteral(" Moon is due South/North "));
+        // A mid grey behind the periods, so that both the black and the yellow text read.
         Label[std::size_t(i)]->setAutoFillBackground(true);
+        QPalette palette = Label[std::size_t(i)]->palette();
+        palette.setColor(QPalette::Window, QColor(128, 128, 128));
+        Label[std::size_t(i)]->setPalette(palette);
         Label[std::size_t(i)]->setAlignment(Qt::AlignCenter);
     }
     QGroupBox* sun = frame(QStringLiteral("Sun"), {left, 172, 112, 62});
@@ -146,11 +208,15 @@ void FrmCalendar::BuildDetailsPanel(QWidget* central)
     VsbHour->setGeometry(right + 92, 68, 18, 166);
     VsbHour->setRange(0, 1439);
     VsbHour->setPageStep(60);
+    VsbHour->setTracking(false);
     VsbHour->setToolTip(QStringLiteral(" Move the moment of the day "));
     MakeLabel(15, central, {right, 236, 118, 18})->setAlignment(Qt::AlignCenter);
     Label[15]->setToolTip(QStringLiteral(" Click to Reset Hour Bar "));
     Label[15]->installEventFilter(this);
-    connect(VsbHour, &QScrollBar::sliderMoved, this, &FrmCalendar::VsbHour_Scroll);
+    for (int i : {0, 2, 4, 5, 7, 14, 16}) {
+        Label[std::size_t(i)]->setMouseTracking(true);
+        Label[std::size_t(i)]->installEventFilter(this);
+    }
 }
 
 void FrmCalendar::BuildMenus()
@@ -213,6 +279,12 @@ void FrmCalendar::BuildStatusBar()
     StatusBar1->addWidget(StatusPanels[0]);
     static constexpr std::array<const char*, 4> legend = {"Best", "V.Good", "Good", "Fair"};
     for (std::size_t k = 0; k < legend.size(); ++k) {
+        // The legend's fish, then its word: the whole fish is "Best".
+        const int rating = int(4 - k);
+        Pic[std::size_t(rating)] = FishPicture(rating);
+        auto* fish = new QLabel(StatusBar1);
+        fish->setPixmap(Pic[std::size_t(rating)]);
+        StatusBar1->addWidget(fish);
         StatusPanels[k + 1] = new QLabel(QString::fromLatin1(legend[k]), StatusBar1);
         StatusBar1->addWidget(StatusPanels[k + 1]);
     }
@@ -223,7 +295,282 @@ void FrmCalendar::Form_Load()
     const int top = Twips(QString::fromStdString(App.Config.FormTop).toDouble());
     resize(Twips(FormWidthTwips), Twips(FormHeightTwips));
     move(Twips(App.Config.FormLeft), top);
+    ComputingSuppressed = true;
+    for (int phase = 1; phase <= 4; ++phase)
+        ImageA[std::size_t(phase == 1 ? 3 : 6 + phase)] = PhaseSymbol(phase);
     ApplyCurrentLocation();
+    SetHemispherePictures();
+    const QDate today = Clock::Now().date();
+    Calendar& cal = App.Cal;
+    cal.CurMonth = std::int16_t(today.month());
+    cal.CurYear = std::int16_t(today.year());
+    VsbYear->setValue(cal.CurYear);
+    RefreshMonth();
+    VsbHour->setValue(720);
+}
+
+void FrmCalendar::Form_Activate()
+{
+    Calendar& cal = App.Cal;
+    App.Config.SelectedJD = CellJD(cal.TodayCell);
+    ApplyCurrentLocation();
+    VsbHour->setValue(720);
+    ComputingSuppressed = false;
+    ComputeSelectedDay();
+}
+
+void FrmCalendar::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (!event->spontaneous())
+        Form_Activate();
+}
+
+double FrmCalendar::CellJD(int cell) const
+{
+    const Calendar& cal = App.Cal;
+    return cal.MonthStartJD[std::size_t(cal.CurMonth)] + cell - cal.FirstWeekday;
+}
+
+void FrmCalendar::RefreshMonth()
+{
+    if (SkipRefresh == 1) {
+        SkipRefresh = 0;
+        return;
+    }
+    Calendar& cal = App.Cal;
+    Label[12]->setText(" " + QString::number(cal.CurYear));
+    Label[11]->setText(QString::fromLatin1(MonthNames[std::size_t(cal.CurMonth)]));
+    DrawMonthCells();
+    SelDay = std::int16_t(cal.TodayCell - cal.FirstWeekday + 1);
+    App.Config.SelectedJD = CellJD(cal.TodayCell);
+    ComputeSelectedDay();
+}
+
+void FrmCalendar::DrawMonthCells()
+{
+    Calendar& cal = App.Cal;
+    const QDate today = Clock::Now().date();
+    cal.ComputePrevMonthDays(App.Astro, Here.SouthernHemisphere);
+    const auto cells =
+        cal.DrawMonth(App.Astro, Here.SouthernHemisphere, today.year(), today.month(), today.day());
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        const DayCell& c = cells[i];
+        DayCellWidget::Content content;
+        content.Background = Colour(c.Background);
+        content.TextColor = Colour(c.TextColor);
+        content.Number = QString::number(c.Number);
+        content.Marks = c.Marks;
+        content.Enabled = c.Enabled;
+        if (c.PhasePicture > 0)
+            content.Phase = Pic[std::size_t(c.PhasePicture)];
+        if (c.RatingPicture > 0)
+            content.Rating = Pic[std::size_t(c.RatingPicture)];
+        txtpic[i]->SetContent(content);
+        txtpic[i]->SetFramed(int(i) == cal.TodayCell);
+        txtpic[i]->setToolTip(c.Of == DayCell::Kind::ThisMonth
+                                  ? Q(cal.YearDays[std::size_t(c.DayOfYear)].Text)
+                                  : QString());
+    }
+}
+
+void FrmCalendar::ComputeSelectedDay()
+{
+    Astronomy& engine = App.Astro;
+    engine.ComputeSunDay(App.Config.SelectedJD);
+    engine.ComputeDay(App.Config.SelectedJD);
+    DoLabels();
+    DrawMoonPicture(App.Config.ParallacticOn());
+}
+
+void FrmCalendar::DoLabels()
+{
+    const DayForecast& f = App.Astro.Forecast;
+    Panel = ::DoLabels(f, f.SkyPosition[3], App.Config.AmPm());
+    for (const auto& [i, text] : Panel.Captions)
+        Label[std::size_t(i)]->setText(Q(text));
+    for (const auto& [i, colour] : Panel.Colors) {
+        QPalette palette = Label[std::size_t(i)]->palette();
+        palette.setColor(QPalette::WindowText, Colour(colour));
+        Label[std::size_t(i)]->setPalette(palette);
+    }
+}
+
+void FrmCalendar::ShowLabelToolTip(int index)
+{
+    Label[std::size_t(index)]->setToolTip(
+        Q(LabelToolTip(index, App.Astro.Forecast, App.Config.AmPm())));
+}
+
+void FrmCalendar::DrawMoonPicture(bool parallacticView)
+{
+    const DayForecast& f = App.Astro.Forecast;
+    MoonLook look;
+    look.IllumPercent = f.IllumPercent;
+    look.Waxing = f.Waxing;
+    look.SouthernHemisphere = Here.SouthernHemisphere;
+    look.MoonColor = std::uint32_t(App.Config.MoonColor);
+    look.BackColor = std::uint32_t(ToVbColor(PicM->palette().color(QPalette::Window)));
+    MoonTurn turn;
+    turn.MoonAltitude = f.SkyPosition[3];
+    turn.MoonParallacticAngle = f.MoonParallacticAngle;
+    turn.ParallacticAngle = parallacticView;
+    turn.ToPictSize = ToPict->size();
+    const MoonPictures pictures = DrawMoon(PicM->size(), look, turn);
+    PicM->setPixmap(QPixmap::fromImage(pictures.PicM));
+    ToPict->setVisible(!pictures.ToPict.isNull());
+    if (!pictures.ToPict.isNull())
+        ToPict->setPixmap(QPixmap::fromImage(pictures.ToPict));
+}
+
+void FrmCalendar::SetHemispherePictures()
+{
+    const bool south = Here.SouthernHemisphere == -1;
+    Pic[30] = Pic[1];
+    Pic[31] = Pic[2];
+    Pic[20] = ImageA[3];
+    Pic[22] = ImageA[9];
+    Pic[21] = south ? ImageA[10] : ImageA[8];
+    Pic[23] = south ? ImageA[8] : ImageA[10];
+}
+
+void FrmCalendar::IncMonth_Click()
+{
+    const BusyPointer busy;
+    Calendar& cal = App.Cal;
+    if (++cal.CurMonth == 13) {
+        SkipRefresh = 1;
+        cal.CurMonth = 1;
+        if (++cal.CurYear == 2501)
+            cal.CurYear = 1900;
+    }
+    VsbYear->setValue(cal.CurYear);
+    VsbHour->setValue(720);
+    RefreshMonth();
+}
+
+void FrmCalendar::DecMonth_Click()
+{
+    const BusyPointer busy;
+    Calendar& cal = App.Cal;
+    if (--cal.CurMonth == 0) {
+        SkipRefresh = 1;
+        cal.CurMonth = 12;
+        if (--cal.CurYear < 1900)
+            cal.CurYear = 2500;
+        VsbYear->setValue(cal.CurYear);
+    }
+    VsbHour->setValue(720);
+    RefreshMonth();
+}
+
+void FrmCalendar::CmdNOW_Click()
+{
+    const BusyPointer busy;
+    const QDate today = Clock::Now().date();
+    App.Cal.CurMonth = std::int16_t(today.month());
+    App.Cal.CurYear = std::int16_t(today.year());
+    VsbYear->setValue(App.Cal.CurYear);
+    VsbHour->setValue(720);
+    RefreshMonth();
+}
+
+void FrmCalendar::VsbYear_Change()
+{
+    const BusyPointer busy;
+    App.Cal.CurYear = std::int16_t(VsbYear->value());
+    VsbHour->setValue(720);
+    RefreshMonth();
+}
+
+void FrmCalendar::VsbYear_Scroll() { App.Cal.CurYear = std::int16_t(VsbYear->sliderPosition()); }
+
+void FrmCalendar::VsbHour_Change()
+{
+    const int minutes = VsbHour->value();
+    Label[15]->setText(Q(FormatClock(0, minutes / 60.0, App.Config.AmPm())));
+    App.Astro.Site.HourInstant = minutes / 1440.0 + App.Astro.Site.ZoneDays;
+    App.Config.SelectedJD = CellJD(App.Cal.TodayCell);
+    if (!ComputingSuppressed)
+        ComputeSelectedDay();
+}
+
+void FrmCalendar::Timer1_Timer()
+{
+    const QDateTime now = Clock::Now();
+    const QDate today = now.date();
+    const Calendar& cal = App.Cal;
+    if (cal.CurYear != today.year() || cal.CurMonth != today.month() || SelDay != today.day())
+        return;
+    const QTime t = now.time();
+    VsbHour->setValue(int(t.hour() * 60 + t.minute() + t.second() / 60.0));
+}
+
+void FrmCalendar::SelectCell(int index)
+{
+    Calendar& cal = App.Cal;
+    txtpic[std::size_t(cal.TodayCell)]->SetFramed(false);
+    cal.TodayCell = std::int16_t(index);
+    cal.SelCell = std::int16_t(index);
+    SelDay = std::int16_t(index - cal.FirstWeekday + 1);
+    App.Config.SelectedJD = CellJD(index);
+    txtpic[std::size_t(index)]->SetFramed(true);
+}
+
+void FrmCalendar::txtpic_Click(int index)
+{
+    SelectCell(index);
+    if (!App.Config.MouseClick)
+        return;
+    VsbHour->setValue(720);
+    ComputeSelectedDay();
+}
+
+void FrmCalendar::txtpic_MouseMove(int index)
+{
+    const Calendar& cal = App.Cal;
+    const double jd = CellJD(index);
+    const int doy = int(jd - cal.YearStartJD) + 1;
+    if (index != LastHoveredCell) {
+        const int daysInYear = cal.YearSlots - 1;
+        Label[3]->setText("Day " + QString(" %1").arg(doy) + "  " +
+                          QString(" %1").arg(daysInYear - doy) + " days remain");
+        LastHoveredCell = index;
+    }
+    const ComputedDay day{cal.CurYear, cal.CurMonth, index - cal.FirstWeekday + 1};
+    if (day == LastComputedDay)
+        return;
+    LastComputedDay = day;
+    if (App.Config.MouseClick)
+        return;
+    SelectCell(index);
+    VsbHour->setValue(720);
+    ComputeSelectedDay();
+}
+
+void FrmCalendar::Form_MouseMove()
+{
+    Label[3]->clear();
+    LastHoveredCell = -1;
+}
+
+void FrmCalendar::txtpic_MouseDown(int index)
+{
+    App.Config.SelectedJD = CellJD(index);
+    Timer1_Timer();
+}
+
+void FrmCalendar::PicM_Click()
+{
+    if (!App.Config.ParallacticOn())
+        DrawMoonPicture(true);
+}
+
+void FrmCalendar::PicM_MouseMove()
+{
+    PicM->setToolTip(App.Config.ParallacticOn()
+                         ? QString()
+                         : QStringLiteral(" Click to Show Parallactic Angle View "));
 }
 
 void FrmCalendar::ApplyCurrentLocation()
@@ -249,12 +596,14 @@ void FrmCalendar::ApplyCurrentLocation()
         Pangle[0]->setChecked(!s.ParallacticOn());
         Pangle[1]->setChecked(s.ParallacticOn());
     }
+    SetHemispherePictures();
 }
 
 void FrmCalendar::DST_Click(int index)
 {
     App.Config.TimeFormats = static_cast<std::int16_t>(index);
     ApplyCurrentLocation();
+    RefreshMonth();
     VsbHour->setValue(720);
     VsbHour->update();
 }
@@ -271,6 +620,8 @@ void FrmCalendar::Pangle_Click(int index)
     App.Config.ParallacticAngle = index == 1 ? "True" : "False";
     Pangle[0]->setChecked(index == 0);
     Pangle[1]->setChecked(index == 1);
+    SetHemispherePictures();
+    RefreshMonth();
     ApplyCurrentLocation();
 }
 
@@ -279,7 +630,9 @@ void FrmCalendar::DLoc_Click(int index)
     App.Config.CurLoc = static_cast<std::int16_t>(index);
     for (int i = 1; i <= LocationCount; ++i)
         DLoc[std::size_t(i)]->setChecked(i == index);
+    // The month redraw rebuilds the year's events for the new zone and hemisphere.
     ApplyCurrentLocation();
+    RefreshMonth();
 }
 
 void FrmCalendar::HelpContents_Click()
@@ -317,6 +670,16 @@ bool FrmCalendar::eventFilter(QObject* watched, QEvent* event)
             PixelsToTwips(static_cast<QMouseEvent*>(event)->position().toPoint().x()));
     } else if (watched == Label[15] && event->type() == QEvent::MouseButtonRelease) {
         Label15_Click();
+    } else if (watched == PicM && event->type() == QEvent::MouseMove) {
+        PicM_MouseMove();
+    } else if (watched == PicM && event->type() == QEvent::MouseButtonRelease) {
+        PicM_Click();
+    } else if (watched == centralWidget() && event->type() == QEvent::MouseMove) {
+        Form_MouseMove();
+    } else if (event->type() == QEvent::MouseMove) {
+        const auto it = std::find(Label.begin(), Label.end(), watched);
+        if (it != Label.end())
+            ShowLabelToolTip(int(it - Label.begin()));
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -344,5 +707,5 @@ void FrmCalendar::closeEvent(QCloseEvent* event)
     RecordPosition();
     SaveSettings(App.Config, App.Store);
     event->accept();
-    QCoreApplication::quit();
+    QApplication::quit();
 }

@@ -4,8 +4,10 @@
 #pragma once
 
 #include "app/currentlocation.h"
+#include "app/daypanel.h"
 
 #include <QMainWindow>
+#include <QPixmap>
 
 #include <array>
 
@@ -26,6 +28,20 @@ public:
 
     // Handlers, connected explicitly and callable from tests.
     void Form_Load();
+    void Form_Activate();
+    void Form_MouseMove();
+    void IncMonth_Click();
+    void DecMonth_Click();
+    void CmdNOW_Click();
+    void VsbYear_Change();
+    void VsbYear_Scroll();
+    void VsbHour_Change();
+    void Timer1_Timer();
+    void txtpic_Click(int index);
+    void txtpic_MouseMove(int index);
+    void txtpic_MouseDown(int index);
+    void PicM_Click();
+    void PicM_MouseMove();
     void mnuexit_Click();
     void DST_Click(int index);
     void Mouse_Click(int index);
@@ -37,8 +53,15 @@ public:
     void Label15_Click();
     void StatusBar1_MouseMove(int xTwips);
 
-    // The location-dependent parts of the window: captions, menus, status bar, hour label.
+    // The location-dependent parts of the window: captions, menus, status bar, hour label,
+    // hemisphere pictures.
     void ApplyCurrentLocation();
+    // Redraws the shown month and recomputes the selected day (skipped once after SkipRefresh).
+    void RefreshMonth();
+    // The month grid's moon-phase pictures for the current hemisphere.
+    void SetHemispherePictures();
+    // Fills the day details beside the grid from the selected day's forecast.
+    void DoLabels();
 
     // Controls, by their names.
     QPushButton* IncMonth = nullptr;
@@ -63,9 +86,28 @@ public:
     QAction* HelpContents = nullptr;
     QAction* MnuAbout = nullptr;
 
+    // Picture slots: ratings 1..4, phases 20..23 (quarters by hemisphere), 30..31; the stock
+    // phase images in ImageA 3, 8, 9, 10.
+    std::array<QPixmap, 34> Pic{};
+    std::array<QPixmap, 11> ImageA{};
+
     CurrentLocation Here;
+    // Navigation state.
+    std::int16_t SelDay = 1;
+    std::int16_t SkipRefresh = 0;
+    int LastHoveredCell = -1;
+    struct ComputedDay {
+        int Year = 0, Month = 0, Day = 0;
+        bool operator==(const ComputedDay&) const = default;
+    };
+    ComputedDay LastComputedDay;
+    bool ComputingSuppressed = true;
+    DayPanel Panel; // what DoLabels last showed
 
 protected:
+    // Each time the window is shown (at start and when it comes back from a window that hid
+    // it), it activates: the selected day at noon at the current location.
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -75,6 +117,14 @@ private:
     void BuildMenus();
     void BuildStatusBar();
     void RecordPosition();
+    void ConnectHandlers();
+    void DrawMonthCells();
+    double CellJD(int cell) const;
+    void SelectCell(int index);
+    // ComputeSunDay, ComputeDay, DoLabels and the moon picture for SelectedJD.
+    void ComputeSelectedDay();
+    void DrawMoonPicture(bool parallacticView);
+    void ShowLabelToolTip(int index);
     QLabel* MakeLabel(int index, QWidget* parent, const QRect& geometry);
 
     AppState& App;

@@ -1,0 +1,222 @@
+#include "app/appstate.h"
+#include "app/daycellwidget.h"
+#include "app/frmcalendar.h"
+#include "app/settingsio.h"
+#include "astro/timebase.h"
+
+#include <QLabel>
+#include <QScrollBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A window over the first-start settings at a fixed "now" (10 March 2024, 07:30), shown.
+class Window : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
+        SettingsStore().DeleteAll();
+        WriteFirstStartValues(App.Store);
+        LoadSettings(App.Config, App.Store);
+        App.Config.CurLoc = App.Config.DefaultLocation();
+        W = std::make_unique<FrmCalendar>(App);
+        W->show();
+    }
+    void TearDown() override { qunsetenv("QUILLMERE_NOW"); }
+
+    std::string Text(int label) const { return W->Label[std::size_t(label)]->text().toStdString(); }
+    int FramedCell() const
+    {
+        for (int i = 0; i < 37; ++i)
+            if (W->txtpic[std::size_t(i)]->Framed())
+                return i;
+        return -1;
+    }
+    void SetMonth(int year, int month)
+    {
+        App.Cal.CurYear = std::int16_t(year);
+        App.Cal.CurMonth = std::int16_t(month);
+        W->VsbYear->setValue(year);
+        W->RefreshMonth();
+    }
+
+    AppState App;
+    std::unique_ptr<FrmCalendar> W;
+};
+
+TEST_F(Window, OpensOnTodayAtNoon)
+{
+    EXPECT_EQ(Text(11), "March");
+    EXPECT_EQ(Text(12), " 2024");
+    EXPECT_EQ(W->VsbHour->value(), 720);
+    EXPECT_EQ(Text(15), "12:00 PM");
+    EXPECT_EQ(FramedCell(), 5 + 9); // 1 March 2024 is a Friday
+    EXPECT_EQ(W->SelDay, 10);
+    EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 10));
+    EXPECT_NEAR(App.Astro.Site.HourInstant, 0.5 + 0.25, 1e-12);
+    EXPECT_EQ(W->txtpic[14]->Shown().Number, "10");
+    EXPECT_FALSE(W->txtpic[0]->isEnabled());
+    EXPECT_EQ(W->txtpic[14]->toolTip(), " Moon at Perigee ");
+    EXPECT_EQ(W->txtpic[5 + 30]->toolTip(), " Easter Sunday ");
+}
+
+TEST_F(Window, MonthButtonsWrapTheYearRange)
+{
+    SetMonth(2500, 12);
+    W->IncMonth_Click();
+    EXPECT_EQ(App.Cal.CurYear, 1900);
+    EXPECT_EQ(App.Cal.CurMonth, 1);
+    EXPECT_EQ(W->VsbYear->value(), 1900);
+    EXPECT_EQ(Text(11), "January");
+    EXPECT_EQ(Text(12), " 1900");
+    EXPECT_EQ(W->SkipRefresh, 0);
+    W->DecMonth_Click();
+    EXPECT_EQ(App.Cal.CurYear, 2500);
+    EXPECT_EQ(App.Cal.CurMonth, 12);
+    EXPECT_EQ(Text(11), "December");
+    W->DecMonth_Click();
+    EXPECT_EQ(Text(11), "November");
+    EXPECT_EQ(FramedCell(), App.Cal.FirstWeekday); // not this month: day 1 is framed
+}
+
+TEST_F(Window, NowReturnsToTodayAtNoon)
+{
+    SetMonth(1999, 7);
+    W->VsbHour->setValue(100);
+    W->CmdNOW_Click();
+    EXPECT_EQ(Text(11), "March");
+    EXPECT_EQ(W->VsbYear->value(), 2024);
+    EXPECT_EQ(W->VsbHour->value(), 720);
+    EXPECT_EQ(FramedCell(), 14);
+}
+
+TEST_F(Window, YearBarChangesTheYearAndScrollingOnlyTheNumber)
+{
+    W->VsbYear->setValue(2030);
+    EXPECT_EQ(Text(12), " 2030");
+    EXPECT_EQ(App.Cal.CurYear, 2030);
+    W->VsbYear->setSliderPosition(2040);
+    W->VsbYear_Scroll();
+    EXPECT_EQ(App.Cal.CurYear, 2040);
+    EXPECT_EQ(Text(12), " 2030");
+}
+
+// The hour bar moves the moment: the Moon's altitude changes, the label follows, and the
+// click on the label resets to noon.
+TEST_F(Window, HourBarMovesTheMomentOfTheDay)
+{
+    const double noonAltitude = App.Astro.Forecast.SkyPosition[3];
+    W->VsbHour->setValue(18 * 60 + 45);
+    EXPECT_EQ(Text(15), "06:45 PM");
+    EXPECT_NE(App.Astro.Forecast.SkyPosition[3], noonAltitude);
+    W->Label15_Click();
+    EXPECT_EQ(W->VsbHour->value(), 720);
+    EXPECT_DOUBLE_EQ(App.Astro.Forecast.SkyPosition[3], noonAltitude);
+}
+
+// With "On Click", hovering shows the day counter but recomputes nothing; with "On Move" a
+// day is recomputed once when the mouse comes to it, not on every movement.
+TEST_F(Window, MouseOptionsDecideWhenADayIsRecomputed)
+{
+    W->Mouse_Click(1);
+    W->txtpic_MouseMove(20); // 16 March
+    EXPECT_EQ(Text(3), "Day  76   290 days remain");
+    EXPECT_EQ(FramedCell(), 14);
+    W->Mouse_Click(0);
+    W->txtpic_MouseMove(21); // 17 March
+    EXPECT_EQ(FramedCell(), 21);
+    EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 17));
+    App.Astro.Forecast.Major1Text = "marker";
+    W->txtpic_MouseMove(21);
+    EXPECT_EQ(App.Astro.Forecast.Major1Text, "marker");
+    W->txtpic_MouseMove(22);
+    EXPECT_NE(App.Astro.Forecast.Major1Text, "marker");
+    W->Form_MouseMove();
+    EXPECT_EQ(Text(3), "");
+    EXPECT_EQ(W->LastHoveredCell, -1);
+}
+
+TEST_F(Window, ClickSelectsAndRecomputesAtNoon)
+{
+    W->Mouse_Click(1);
+    W->VsbHour->setValue(300);
+    QTest::mouseClick(W->txtpic[25], Qt::LeftButton);
+    EXPECT_EQ(FramedCell(), 25);
+    EXPECT_FALSE(W->txtpic[14]->Framed());
+    EXPECT_EQ(W->VsbHour->value(), 720);
+    EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 21));
+    EXPECT_EQ(Text(0), App.Astro.Forecast.Major1Text);
+}
+
+TEST_F(Window, DayCounterOfTheLastDayOfALeapYear)
+{
+    SetMonth(2024, 12);
+    W->txtpic_MouseMove(App.Cal.FirstWeekday + 30);
+    EXPECT_EQ(Text(3), "Day  366   0 days remain");
+}
+
+// The hour bar follows the clock while today is selected, and stays put on another day.
+TEST_F(Window, TimerKeepsTodayOnTheClock)
+{
+    qputenv("QUILLMERE_NOW", "2024-03-10T16:20:40");
+    W->Timer1_Timer();
+    EXPECT_EQ(W->VsbHour->value(), 16 * 60 + 20);
+    W->Mouse_Click(1);
+    W->txtpic_Click(15);
+    W->Timer1_Timer();
+    EXPECT_EQ(W->VsbHour->value(), 720);
+}
+
+// A southern location swaps the quarter pictures of the grid; a northern one swaps them back.
+TEST_F(Window, SouthernLocationSwapsTheQuarterPictures)
+{
+    const QImage first = W->ImageA[8].toImage(), last = W->ImageA[10].toImage();
+    ASSERT_NE(first, last);
+    EXPECT_EQ(W->Pic[21].toImage(), first);
+    App.Config.Locations[3].Latitude = -33.87;
+    W->DLoc_Click(3);
+    EXPECT_EQ(W->Here.SouthernHemisphere, -1);
+    EXPECT_EQ(W->Pic[21].toImage(), last);
+    EXPECT_EQ(W->Pic[23].toImage(), first);
+    // The first quarter of March 2024 shows the southern first-quarter picture.
+    int quarters = 0;
+    for (int d = 1; d <= 31; ++d)
+        if (App.Cal.YearDays[std::size_t(App.Cal.MonthStartDoy[3] + d - 1)].Phase == 2) {
+            EXPECT_EQ(W->txtpic[std::size_t(5 + d - 1)]->Shown().Phase.toImage(), last);
+            ++quarters;
+        }
+    EXPECT_EQ(quarters, 1);
+    W->DLoc_Click(1);
+    EXPECT_EQ(W->Pic[21].toImage(), first);
+}
+
+// The moon picture: dark on the new-moon day; the parallactic view only on request.
+TEST_F(Window, MoonPictureAndItsParallacticView)
+{
+    EXPECT_EQ(Text(32), App.Astro.Forecast.SkyPosition[3] < 0 ? "Moon has Set" : "Moon is Up");
+    const QImage moon = W->PicM->pixmap().toImage();
+    const QPoint centre(moon.width() / 2, moon.height() / 3);
+    EXPECT_LT(qGray(moon.pixel(centre)), 80); // 10 March 2024 is a new moon
+    App.Config.ParallacticAngle = "False";
+    W->PicM_MouseMove();
+    EXPECT_EQ(W->PicM->toolTip(), " Click to Show Parallactic Angle View ");
+    App.Config.ParallacticAngle = "True";
+    W->PicM_MouseMove();
+    EXPECT_EQ(W->PicM->toolTip(), "");
+}
+
+TEST_F(Window, DaylightSavingMovesTheTimesOneHour)
+{
+    const std::string standard = Text(14);
+    W->DST_Click(0);
+    EXPECT_TRUE(W->DST[0]->isChecked());
+    EXPECT_NE(Text(14), standard);
+    EXPECT_NE(W->Here.LocationCaption.find("Time=DST"), std::string::npos);
+    W->DST_Click(1);
+    EXPECT_EQ(Text(14), standard);
+}
+
+} // namespace
