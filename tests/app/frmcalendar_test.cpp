@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -219,4 +220,37 @@ TEST_F(Window, DaylightSavingMovesTheTimesOneHour)
     EXPECT_EQ(Text(14), standard);
 }
 
+} // namespace
+
+namespace {
+TEST_F(Window, LocationMenusAndStatusBarCaption)
+{
+    App.Config.DefLoc = "4";
+    W->ApplyCurrentLocation();
+    EXPECT_EQ(W->DLoc[1]->text(), "# 1 Alexandria, LA");
+    EXPECT_TRUE(W->DLoc[4]->text().endsWith("  [Def]"));
+    EXPECT_TRUE(W->Loc[4]->text().endsWith("  [Def]"));
+    for (int i : {1, 2, 3, 5, 10})
+        EXPECT_FALSE(W->DLoc[std::size_t(i)]->text().contains("[Def]")) << i;
+    W->StatusBar1_MouseMove(1000);
+    EXPECT_EQ(W->StatusBar1->toolTip(), "Alexandria, LA  Long=92.42 W Lat=31.25 N TimeZone= 6 "
+                                        " Time=STD Hemisphere=Northern ");
+    W->StatusBar1_MouseMove(2100);
+    EXPECT_EQ(W->StatusBar1->toolTip(), "");
+}
+
+// Screenshots for a person to look at: this month at location 1, a southern location, and a
+// month with holidays and all four phases (March 2024).
+TEST_F(Window, SavesScreenshots)
+{
+    const QString dir = QStringLiteral(QUILLMERE_SCREENSHOTS);
+    W->resize(W->size()); // the window's own fixed size
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-location1.png"));
+    SetMonth(2024, 3);
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-march2024.png"));
+    App.Config.Locations[5] = {"Hobart, TAS", -147.33, -42.88, -10};
+    W->DLoc_Click(5);
+    EXPECT_EQ(W->StatusPanels[0]->text(), "Hobart, TAS");
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-southern.png"));
+}
 } // namespace
