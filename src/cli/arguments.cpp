@@ -1,5 +1,7 @@
 #include "cli/arguments.h"
 
+#include "calendar/calendar.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -61,12 +63,7 @@ std::optional<int> ToInt(const std::string& text)
 
 bool ValidYear(int y) { return y >= 1900 && y <= 2500; }
 
-int DaysIn(int y, int m)
-{
-    static constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    const bool leap = (y % 4 == 0 && y % 100 != 0) || y % 400 == 0;
-    return m == 2 && leap ? 29 : days[m - 1];
-}
+int DaysIn(int y, int m) { return Calendar::DaysInMonth(m) + (m == 2 && IsLeapYear(y) ? 1 : 0); }
 
 // "YYYY-MM-DD" into the request; false when malformed.
 bool ParseDate(const std::string& text, ForecastRequest& r)
