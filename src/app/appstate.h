@@ -4,6 +4,7 @@
 
 #include "app/settings.h"
 #include "astro/astronomy.h"
+#include "logdb/logstate.h"
 #include "platform/messageservice.h"
 #include "platform/settingsstore.h"
 
@@ -12,4 +13,5 @@ struct AppState {
     SettingsStore Store;
     MessageService Messages;
     Astronomy Astro;
+    LogState Log;
 };

@@ -5,6 +5,7 @@
 #include "app/frmabout.h"
 #include "app/helpwindow.h"
 #include "app/settingsio.h"
+#include "logdb/frmselectdb.h"
 #include "platform/programfolder.h"
 #include "platform/twips.h"
 
@@ -156,6 +157,9 @@ void FrmCalendar::BuildDetailsPanel(QWidget* central)
 void FrmCalendar::BuildMenus()
 {
     QMenuBar* bar = menuBar();
+    RunDataBase = bar->addAction(QStringLiteral("DataBase"));
+    RunDataBase->setObjectName(QStringLiteral("RunDataBase"));
+    connect(RunDataBase, &QAction::triggered, this, &FrmCalendar::RunDataBase_Click);
     QMenu* options = bar->addMenu(QStringLiteral("&Options"));
     options->setObjectName(QStringLiteral("SetOptions"));
     QMenu* formats = options->addMenu(QStringLiteral("Time Formats"));
@@ -292,6 +296,24 @@ void FrmCalendar::MnuAbout_Click()
 {
     FrmAbout about(this);
     about.exec();
+}
+
+// The log's "Database Functions" window, modal, with this window out of view meanwhile.
+void FrmCalendar::RunDataBase_Click()
+{
+    const LogContext context{App.Messages,
+                             App.Log,
+                             App.Astro,
+                             Here.SouthernHemisphere,
+                             App.Config.DaylightBias,
+                             std::uint32_t(App.Config.MoonColor),
+                             // the selected day lies in the shown year
+                             std::int16_t(JdToCivil(App.Config.SelectedJD).Year),
+                             ProgramFolder::Path()};
+    hide();
+    FrmSelectDB selectDB(context, this);
+    selectDB.exec();
+    show();
 }
 
 void FrmCalendar::VsbHour_Scroll()
