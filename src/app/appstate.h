@@ -6,6 +6,7 @@
 #include "app/settings.h"
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
+#include "logdb/logstate.h"
 #include "platform/messageservice.h"
 #include "platform/settingsstore.h"
 
@@ -15,4 +16,5 @@ struct AppState {
     MessageService Messages;
     Astronomy Astro;
     Calendar Cal;
+    LogState Log;
 };

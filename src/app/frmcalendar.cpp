@@ -9,6 +9,7 @@
 #include "astro/moonpicture.h"
 #include "astro/timebase.h"
 #include "platform/clock.h"
+#include "logdb/frmselectdb.h"
 #include "platform/programfolder.h"
 #include "platform/twips.h"
 
@@ -222,6 +223,9 @@ void FrmCalendar::BuildDetailsPanel(QWidget* central)
 void FrmCalendar::BuildMenus()
 {
     QMenuBar* bar = menuBar();
+    RunDataBase = bar->addAction(QStringLiteral("DataBase"));
+    RunDataBase->setObjectName(QStringLiteral("RunDataBase"));
+    connect(RunDataBase, &QAction::triggered, this, &FrmCalendar::RunDataBase_Click);
     QMenu* options = bar->addMenu(QStringLiteral("&Options"));
     options->setObjectName(QStringLiteral("SetOptions"));
     QMenu* formats = options->addMenu(QStringLiteral("Time Formats"));
@@ -645,6 +649,23 @@ void FrmCalendar::MnuAbout_Click()
 {
     FrmAbout about(this);
     about.exec();
+}
+
+// The log's "Database Functions" window, modal, with this window out of view meanwhile.
+void FrmCalendar::RunDataBase_Click()
+{
+    const LogContext context{App.Messages,
+                             App.Log,
+                             App.Astro,
+                             Here.SouthernHemisphere,
+                             App.Config.DaylightBias,
+                             std::uint32_t(App.Config.MoonColor),
+                             App.Cal.CurYear,
+                             ProgramFolder::Path()};
+    hide();
+    FrmSelectDB selectDB(context, this);
+    selectDB.exec();
+    show();
 }
 
 void FrmCalendar::VsbHour_Scroll()

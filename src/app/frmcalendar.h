@@ -52,6 +52,7 @@ public:
     void VsbHour_Scroll();
     void Label15_Click();
     void StatusBar1_MouseMove(int xTwips);
+    void RunDataBase_Click();
 
     // The location-dependent parts of the window: captions, menus, status bar, hour label,
     // hemisphere pictures.
@@ -77,6 +78,7 @@ public:
     std::array<QLabel*, 5> StatusPanels{}; // location, then the four legend panels
     QTimer* Timer1 = nullptr;
 
+    QAction* RunDataBase = nullptr;
     QAction* mnuexit = nullptr;
     std::array<QAction*, 2> DST{};
     std::array<QAction*, 2> Mouse{};

@@ -353,8 +353,14 @@ DbResult Database::Query(const QString& jetSql, RowSet& result, QString* sourceT
 DbResult Database::Prepare(const QString& table, const FieldValues& fields,
                            std::vector<std::pair<ColumnInfo, QVariant>>& prepared) const
 {
+    return Prepare(Columns(table), table, fields, prepared);
+}
+
+DbResult Database::Prepare(const std::vector<ColumnInfo>& columns, const QString& table,
+                           const FieldValues& fields,
+                           std::vector<std::pair<ColumnInfo, QVariant>>& prepared) const
+{
     prepared.clear();
-    const std::vector<ColumnInfo> columns = Columns(table);
     if (columns.empty())
         return DbResult::Failure(QStringLiteral("Could not find table '%1'.").arg(table));
     for (const auto& [name, value] : fields) {
@@ -407,8 +413,9 @@ DbResult Database::InsertRecords(const QString& table, const std::vector<FieldVa
         return DbResult::Failure(ErrorText(db.lastError()));
     QSqlQuery q(db);
     std::vector<std::pair<ColumnInfo, QVariant>> prepared;
+    const std::vector<ColumnInfo> columns = Columns(table); // read once for all the records
     for (std::size_t i = 0; i < records.size(); ++i) {
-        DbResult result = Prepare(table, records[i], prepared);
+        DbResult result = Prepare(columns, table, records[i], prepared);
         if (result && !ExecBound(q, InsertSql(table, prepared), prepared))
             result = DbResult::Failure(ErrorText(q.lastError()));
         if (!result) {

@@ -104,6 +104,9 @@ class Database {
     // that does not fit.
     DbResult Prepare(const QString& table, const FieldValues& fields,
                      std::vector<std::pair<ColumnInfo, QVariant>>& prepared) const;
+    DbResult Prepare(const std::vector<ColumnInfo>& columns, const QString& table,
+                     const FieldValues& fields,
+                     std::vector<std::pair<ColumnInfo, QVariant>>& prepared) const;
 
     QString connectionName_;
     QString path_;

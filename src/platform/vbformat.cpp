@@ -18,6 +18,14 @@ struct Decimal {
 
 Decimal ToDecimal(double magnitude, int decimals)
 {
+    // Whole numbers below 10^15 are exact in 15 digits: nothing to round, no text to parse.
+    // Clock texts format whole hours and minutes, so this is the common case.
+    if (magnitude < 1e15 && magnitude == std::floor(magnitude)) {
+        Decimal d;
+        d.IntDigits = magnitude == 0 ? "" : std::to_string(static_cast<long long>(magnitude));
+        d.FracDigits.assign(std::size_t(decimals), '0');
+        return d;
+    }
     char buf[40];
     std::snprintf(buf, sizeof buf, "%.14e", magnitude); // d.dddddddddddddde+XX
     std::string digits;

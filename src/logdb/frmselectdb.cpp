@@ -1,0 +1,238 @@
+#include "logdb/frmselectdb.h"
+
+#include "astro/astronomy.h"
+#include "calendar/calendar.h"
+#include "logdb/filldata.h"
+#include "logdb/frmtable1.h"
+#include "logdb/logfiles.h"
+#include "platform/messageservice.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QGridLayout>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace {
+
+QPushButton* Button(const QString& caption, const QString& name, const QString& tip,
+                    QWidget* parent)
+{
+    auto* button = new QPushButton(caption, parent);
+    button->setObjectName(name);
+    button->setToolTip(tip);
+    button->setAutoDefault(false);
+    return button;
+}
+
+// The hourglass for the length of a scope.
+class Hourglass {
+public:
+    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Hourglass() { QApplication::restoreOverrideCursor(); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+};
+
+} // namespace
+
+FrmSelectDB::FrmSelectDB(const LogContext& context, QWidget* parent) : QDialog(parent), Ctx(context)
+{
+    setWindowTitle(QStringLiteral("Database Functions"));
+    setModal(true);
+    BuildControls();
+    ShowBrowser = [this](const QString& path) {
+        frmTable1 browser(Ctx, parentWidget());
+        browser.Data1.SetDatabaseName(path);
+        browser.exec();
+    };
+    Form_Load();
+}
+
+void FrmSelectDB::BuildControls()
+{
+    DBFiles = new QListWidget(this);
+    DBFiles->setObjectName(QStringLiteral("DBFiles"));
+    DBFiles->setToolTip(QStringLiteral(" DoubleClick on Year of Interest "));
+    OpenDBFile = Button(QStringLiteral("Open"), QStringLiteral("OpenDBFile"),
+                        QStringLiteral(" Open Selected File "), this);
+    CmdCreate = Button(QStringLiteral("Create"), QStringLiteral("CmdCreate"), {}, this);
+    DeleteDBFile = Button(QStringLiteral("Delete"), QStringLiteral("DeleteDBFile"),
+                          QStringLiteral(" Delete Selected File "), this);
+    CmdCompact = Button(QStringLiteral("Compact"), QStringLiteral("CmdCompact"), {}, this);
+    CmdRepair = Button(QStringLiteral("Repair"), QStringLiteral("CmdRepair"), {}, this);
+    CloseSelectDB = Button(QStringLiteral("Close"), QStringLiteral("CloseSelectDB"),
+                           QStringLiteral(" Close and Exit "), this);
+    PBar1 = new QProgressBar(this);
+    PBar1->setObjectName(QStringLiteral("PBar1"));
+    PBar1->hide();
+
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(DBFiles, 0, 0, 7, 1);
+    int row = 0;
+    for (QPushButton* b : {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair})
+        grid->addWidget(b, row++, 1);
+    grid->setRowStretch(row++, 1);
+    grid->addWidget(CloseSelectDB, row, 1);
+    grid->addWidget(PBar1, 7, 0, 1, 2);
+    resize(300, 260);
+
+    connect(DBFiles, &QListWidget::itemSelectionChanged, this, &FrmSelectDB::DBFiles_Click);
+    connect(DBFiles, &QListWidget::itemDoubleClicked, this, &FrmSelectDB::DBFiles_DblClick);
+    connect(OpenDBFile, &QPushButton::clicked, this, &FrmSelectDB::OpenDBFile_Click);
+    connect(CmdCreate, &QPushButton::clicked, this, &FrmSelectDB::CmdCreate_Click);
+    connect(DeleteDBFile, &QPushButton::clicked, this, &FrmSelectDB::DeleteDBFile_Click);
+    connect(CmdCompact, &QPushButton::clicked, this, &FrmSelectDB::CmdCompact_Click);
+    connect(CmdRepair, &QPushButton::clicked, this, &FrmSelectDB::CmdRepair_Click);
+    connect(CloseSelectDB, &QPushButton::clicked, this, &FrmSelectDB::CloseSelectDB_Click);
+}
+
+void FrmSelectDB::Form_Load()
+{
+    RefreshList();
+    OpenDBFile->setEnabled(true);
+}
+
+void FrmSelectDB::RefreshList()
+{
+    DBFiles->clear();
+    DBFiles->addItems(ListYearFiles(Ctx.Folder));
+}
+
+void FrmSelectDB::DBFiles_Click()
+{
+    if (const QListWidgetItem* item = DBFiles->currentItem(); item && item->isSelected())
+        Ctx.State.DBPath = QDir(Ctx.Folder).filePath(item->text());
+}
+
+QString FrmSelectDB::SelectedOrComplain()
+{
+    const QListWidgetItem* item = DBFiles->currentItem();
+    if (!item || !item->isSelected()) {
+        Ctx.Messages.MsgBox(QStringLiteral("No File Selected! "), MsgButtons::OKCancel);
+        return {};
+    }
+    return QDir(Ctx.Folder).filePath(item->text());
+}
+
+void FrmSelectDB::DBFiles_DblClick() { OpenDBFile_Click(); }
+
+void FrmSelectDB::OpenDBFile_Click()
+{
+    const QString path = SelectedOrComplain();
+    if (path.isEmpty())
+        return;
+    Ctx.State.DBPath = path;
+    CloseAndBrowse();
+}
+
+void FrmSelectDB::CloseAndBrowse()
+{
+    close();
+    // With no year file chosen yet, or one deleted since, there is nothing to browse.
+    if (!Ctx.State.DBPath.isEmpty() && QFile::exists(Ctx.State.DBPath))
+        ShowBrowser(Ctx.State.DBPath);
+}
+
+void FrmSelectDB::CmdCreate_Click()
+{
+    const QString Y = QString::number(Ctx.CurYear).trimmed();
+    const MsgResult answer =
+        Ctx.Messages.MsgBox(QStringLiteral("Create DataBase for ") + Y, MsgButtons::YesNo);
+    if (answer == MsgResult::Yes && !CreateDB(Ctx.CurYear))
+        return; // the window stays, so that Create can be tried again
+    CloseAndBrowse();
+}
+
+bool FrmSelectDB::CreateDB(std::int16_t year)
+{
+    const QString Y = QString::number(year);
+    Ctx.State.DBPath = QDir(Ctx.Folder).filePath(YearFileName(year));
+    if (QFile::exists(Ctx.State.DBPath)) {
+        Ctx.Messages.MsgBox(QStringLiteral("DataBase already exists for ") + Y,
+                            MsgButtons::OKCancel);
+        return true;
+    }
+    const CreateYearResult created = CreateYearFile(Ctx.Folder, year);
+    if (created.Outcome != CreateYearResult::Status::Created) {
+        Ctx.Messages.MsgBox(
+            QStringLiteral("The DataBase for %1 could not be created: %2").arg(Y, created.Message),
+            MsgButtons::OK, QStringLiteral("Create DataBase"), MsgIcon::Critical);
+        Ctx.State.DBPath.clear();
+        return false;
+    }
+    return Fill(year);
+}
+
+bool FrmSelectDB::Fill(std::int16_t year)
+{
+    const Hourglass hourglass;
+    Data0.SetDatabaseName(Ctx.State.DBPath);
+    Data0.SetRecordSource(QStringLiteral("select * from table1"));
+    DbResult filled = Data0.Refresh();
+    if (filled) {
+        Astronomy engine = Ctx.Engine;
+        const Calendar cal = YearCalendar(engine, year, Ctx.SouthernHemisphere);
+        PBar1->setRange(1, cal.YearSlots - 1);
+        PBar1->show();
+        filled = FillYear(engine, cal, Ctx.DaylightBias, Data0,
+                          [this](int day, int) { PBar1->setValue(day); });
+    }
+    Data0.Close();
+    PBar1->hide();
+    if (parentWidget())
+        parentWidget()->show();
+    if (!filled) {
+        // The new file holds nothing of the angler's; without it Create works again.
+        QFile::remove(Ctx.State.DBPath);
+        Ctx.State.DBPath.clear();
+        Ctx.Messages.MsgBox(QStringLiteral("The DataBase for %1 could not be filled: %2\n"
+                                           "No file was kept; use Create to try again.")
+                                .arg(year)
+                                .arg(filled.Message),
+                            MsgButtons::OK, QStringLiteral("Create DataBase"), MsgIcon::Critical);
+    }
+    RefreshList();
+    return bool(filled);
+}
+
+void FrmSelectDB::DeleteDBFile_Click()
+{
+    const QString path = SelectedOrComplain();
+    if (path.isEmpty())
+        return;
+    const MsgResult answer =
+        Ctx.Messages.MsgBox(QStringLiteral("Confirm to Delete Selected File "), MsgButtons::YesNo);
+    if (answer != MsgResult::No)
+        QFile::remove(path);
+    RefreshList();
+}
+
+void FrmSelectDB::CmdCompact_Click()
+{
+    if (SelectedOrComplain().isEmpty())
+        return;
+    const QString title = QStringLiteral("Compact DataBases");
+    DbResult compacted;
+    {
+        const Hourglass hourglass;
+        compacted = CompactDB(Ctx.State.DBPath);
+    }
+    Ctx.Messages.MsgBox(compacted ? QStringLiteral("Compacting Completed!")
+                                  : QStringLiteral("Error Compacting Database!"),
+                        MsgButtons::OK, title);
+}
+
+void FrmSelectDB::CmdRepair_Click()
+{
+    if (SelectedOrComplain().isEmpty())
+        return;
+    const DbResult repaired = RepairDB(Ctx.State.DBPath);
+    Ctx.Messages.MsgBox(repaired ? QStringLiteral("Repair Completed!")
+                                 : QStringLiteral("Error Repairing Database!"),
+                        MsgButtons::OK, QStringLiteral("Repair DataBases"));
+}
+
+void FrmSelectDB::CloseSelectDB_Click() { close(); }
