@@ -8,8 +8,8 @@
 #include "app/stockpictures.h"
 #include "astro/moonpicture.h"
 #include "astro/timebase.h"
-#include "platform/clock.h"
 #include "logdb/frmselectdb.h"
+#include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/twips.h"
 

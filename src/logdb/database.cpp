@@ -165,10 +165,7 @@ QString QuotedName(const QString& name)
 
 Database::Database() = default;
 
-Database::~Database()
-{
-    Close();
-}
+Database::~Database() { Close(); }
 
 DbResult Database::Open(const QString& path, const QString& connect)
 {
@@ -205,15 +202,9 @@ void Database::Close()
     path_.clear();
 }
 
-bool Database::IsOpen() const
-{
-    return !connectionName_.isEmpty() && Connection().isOpen();
-}
+bool Database::IsOpen() const { return !connectionName_.isEmpty() && Connection().isOpen(); }
 
-QSqlDatabase Database::Connection() const
-{
-    return QSqlDatabase::database(connectionName_, false);
-}
+QSqlDatabase Database::Connection() const { return QSqlDatabase::database(connectionName_, false); }
 
 DbResult Database::CheckPassword(const QString& connect)
 {

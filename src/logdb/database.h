@@ -57,7 +57,7 @@ std::optional<double> NumberOf(const QVariant& value);
 std::optional<QVariant> ToStored(ColumnKind kind, const QVariant& value);
 
 class Database {
-  public:
+public:
     Database();
     ~Database();
     Database(const Database&) = delete;
@@ -97,7 +97,7 @@ class Database {
     // The connection, for the layer's own file operations.
     QSqlDatabase Connection() const;
 
-  private:
+private:
     DbResult CheckPassword(const QString& connect);
     DbResult RunInTransaction(const std::vector<QString>& statements);
     // The fields converted for the table's columns; fails on an unknown column or a value

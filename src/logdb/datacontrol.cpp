@@ -89,22 +89,10 @@ void DataControl::Close()
     openedConnect_.clear();
 }
 
-bool DataControl::HasCurrent() const
-{
-    return position_ >= 0 && position_ < RecordCount();
-}
-bool DataControl::IsBOF() const
-{
-    return rows_.empty() || position_ < 0;
-}
-bool DataControl::IsEOF() const
-{
-    return rows_.empty() || position_ >= RecordCount();
-}
-int DataControl::AbsolutePosition() const
-{
-    return HasCurrent() ? position_ : -1;
-}
+bool DataControl::HasCurrent() const { return position_ >= 0 && position_ < RecordCount(); }
+bool DataControl::IsBOF() const { return rows_.empty() || position_ < 0; }
+bool DataControl::IsEOF() const { return rows_.empty() || position_ >= RecordCount(); }
+int DataControl::AbsolutePosition() const { return HasCurrent() ? position_ : -1; }
 
 void DataControl::SetPosition(int index)
 {
@@ -130,14 +118,8 @@ DbResult DataControl::MoveTo(int index)
     return DbResult::Success();
 }
 
-DbResult DataControl::MoveFirst()
-{
-    return MoveTo(0);
-}
-DbResult DataControl::MoveLast()
-{
-    return MoveTo(RecordCount() - 1);
-}
+DbResult DataControl::MoveFirst() { return MoveTo(0); }
+DbResult DataControl::MoveLast() { return MoveTo(RecordCount() - 1); }
 
 DbResult DataControl::MoveNext()
 {

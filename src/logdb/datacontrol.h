@@ -18,7 +18,7 @@
 
 // What a window puts on a box bound to a column, without the layer knowing the widget.
 class BoundControl {
-  public:
+public:
     virtual ~BoundControl() = default;
     // Shows the column's value of the current record in its stored form (null when there is
     // no current record).
@@ -30,7 +30,7 @@ class BoundControl {
 class DataControl : public QObject {
     Q_OBJECT
 
-  public:
+public:
     enum class EditState { None, Editing, Adding };
 
     explicit DataControl(QObject* parent = nullptr);
@@ -106,11 +106,11 @@ class DataControl : public QObject {
     // then refreshes: the year fill's way of writing.
     DbResult AddRecords(const std::vector<FieldValues>& records);
 
-  signals:
+signals:
     // Another record became current, or there is none any more.
     void Reposition();
 
-  private:
+private:
     DbResult OpenIfNeeded();
     void Load(RowSet rows, const QString& sourceTable);
     DbResult MoveTo(int index);

@@ -41,7 +41,7 @@ using Node = JetCondition::Node;
 // factor := NOT factor | ( condition ) | field op value | field BETWEEN value AND value
 //         | field IS [NOT] NULL
 class Parser {
-  public:
+public:
     Parser(std::vector<Token> tokens, std::vector<std::string>& fields, std::string& error)
         : tokens_(std::move(tokens)), fields_(fields), error_(error)
     {
@@ -55,7 +55,7 @@ class Parser {
         return node;
     }
 
-  private:
+private:
     std::optional<Node> Fail(const std::string& message)
     {
         if (error_.empty())

@@ -18,7 +18,7 @@ struct JetValue {
 };
 
 class JetCondition {
-  public:
+public:
     // Nothing, with the reason in error, when the text is not a condition.
     static std::optional<JetCondition> Parse(std::string_view text, std::string& error);
 
@@ -29,7 +29,7 @@ class JetCondition {
 
     struct Node;
 
-  private:
+private:
     std::shared_ptr<const Node> root_;
     std::vector<std::string> fields_;
 };

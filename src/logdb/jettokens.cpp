@@ -9,18 +9,9 @@
 
 namespace {
 
-bool IsWordStart(char c)
-{
-    return std::isalpha(static_cast<unsigned char>(c)) || c == '_';
-}
-bool IsWordChar(char c)
-{
-    return std::isalnum(static_cast<unsigned char>(c)) || c == '_';
-}
-bool IsDigit(char c)
-{
-    return std::isdigit(static_cast<unsigned char>(c)) != 0;
-}
+bool IsWordStart(char c) { return std::isalpha(static_cast<unsigned char>(c)) || c == '_'; }
+bool IsWordChar(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
+bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
 // Reads a text enclosed in `close`, where a doubled closing character stands for itself.
 std::optional<std::string> ReadEnclosed(std::string_view sql, std::size_t& pos, char close)
@@ -147,10 +138,7 @@ bool IsSymbol(const Token& t, std::string_view symbol)
 {
     return t.Kind == TokenKind::Symbol && t.Text == symbol;
 }
-bool IsTableName(const Token& t)
-{
-    return t.Kind == TokenKind::Word || t.Kind == TokenKind::Name;
-}
+bool IsTableName(const Token& t) { return t.Kind == TokenKind::Word || t.Kind == TokenKind::Name; }
 
 bool SameName(std::string_view a, std::string_view b)
 {

@@ -79,23 +79,11 @@ DbResult Fail(FileOps& ops, const QString& leftover, const DbResult& failure)
 
 } // namespace
 
-bool FileOps::Exists(const QString& path) const
-{
-    return QFileInfo::exists(path);
-}
-bool FileOps::Remove(const QString& path)
-{
-    return QFile::remove(path);
-}
-bool FileOps::Rename(const QString& from, const QString& to)
-{
-    return QFile::rename(from, to);
-}
+bool FileOps::Exists(const QString& path) const { return QFileInfo::exists(path); }
+bool FileOps::Remove(const QString& path) { return QFile::remove(path); }
+bool FileOps::Rename(const QString& from, const QString& to) { return QFile::rename(from, to); }
 
-QString YearFileName(int year)
-{
-    return QString::number(year) + QStringLiteral(".mdb");
-}
+QString YearFileName(int year) { return QString::number(year) + QStringLiteral(".mdb"); }
 
 bool IsYearFileName(const QString& name)
 {

@@ -13,7 +13,7 @@ inline constexpr auto LogTableName = "table1";
 
 // The file operations compaction and repair are made of, so that a test can make one fail.
 class FileOps {
-  public:
+public:
     virtual ~FileOps() = default;
     virtual bool Exists(const QString& path) const;
     virtual bool Remove(const QString& path);

@@ -10,7 +10,7 @@ namespace {
 
 // A left-to-right reader over a value text.
 class Scanner {
-  public:
+public:
     explicit Scanner(std::string_view text) : text_(text) {}
 
     bool AtEnd() const { return pos_ == text_.size(); }
@@ -58,7 +58,7 @@ class Scanner {
         return true;
     }
 
-  private:
+private:
     std::string_view text_;
     std::size_t pos_ = 0;
 };

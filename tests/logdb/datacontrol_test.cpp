@@ -13,7 +13,7 @@ namespace {
 
 // A box as a window would bind it: shows what the control gives, offers what was typed.
 class FakeBox : public BoundControl {
-  public:
+public:
     void ShowValue(const QVariant& stored) override
     {
         shown = stored;
@@ -28,7 +28,7 @@ class FakeBox : public BoundControl {
 };
 
 class DataControlTest : public ::testing::Test {
-  protected:
+protected:
     void SetUp() override { path_ = MakeYearFile("datacontrol"); }
 
     void Open(DataControl& data, const QString& source = "Select * from table1 order by juliandate")

@@ -26,21 +26,18 @@ QStringList FilesIn(const QString& folder)
     return QDir(folder).entryList(QDir::Files, QDir::Name);
 }
 
-QString FolderOf(const QString& path)
-{
-    return QFileInfo(path).absolutePath();
-}
+QString FolderOf(const QString& path) { return QFileInfo(path).absolutePath(); }
 
 // Real file operations, except that the n-th rename fails.
 class FailingRename : public FileOps {
-  public:
+public:
     explicit FailingRename(int failing) : failing_(failing) {}
     bool Rename(const QString& from, const QString& to) override
     {
         return ++renames_ != failing_ && FileOps::Rename(from, to);
     }
 
-  private:
+private:
     int failing_;
     int renames_ = 0;
 };

@@ -16,7 +16,7 @@ const QString FirstStep = "Select table1.* into table2 from table1 where month b
 const QString NextStep = "Select table3.* into table2 from table3";
 
 class QueryChain : public ::testing::Test {
-  protected:
+protected:
     void SetUp() override { path_ = MakeYearFile("querychain"); }
 
     void Start(int fromMonth = 1, int toMonth = 12)
