@@ -111,7 +111,7 @@ std::string CsvCell(const std::string& json)
         return "";
     if (json.empty() || json.front() != '"')
         return json;
-    const std::string plain = Unescaped(json);
+    std::string plain = Unescaped(json);
     std::string quoted = "\"";
     if (plain.find_first_of(",\"\r\n") == std::string::npos)
         return plain;

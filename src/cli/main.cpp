@@ -122,7 +122,8 @@ std::string Month(const ForecastRequest& r, const NamedPlace& p)
 
 } // namespace
 
-int main(int argc, char** argv)
+namespace {
+int Run(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
     const std::vector<std::string> args(argv + 1, argv + argc);
@@ -137,24 +138,32 @@ int main(int argc, char** argv)
         return 2;
     }
     const ForecastRequest& r = std::get<ForecastRequest>(parsed);
+    const NamedPlace place = PlaceOf(r);
+    switch (r.What) {
+    case Command::Days:
+        std::cout << Days(r, place);
+        break;
+    case Command::Events:
+        std::cout << Events(r, place);
+        break;
+    case Command::Month:
+        std::cout << Month(r, place);
+        break;
+    }
+    return 0;
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
     try {
-        const NamedPlace place = PlaceOf(r);
-        switch (r.What) {
-        case Command::Days:
-            std::cout << Days(r, place);
-            break;
-        case Command::Events:
-            std::cout << Events(r, place);
-            break;
-        case Command::Month:
-            std::cout << Month(r, place);
-            break;
-        }
+        return Run(argc, argv);
     } catch (const SettingError& e) {
         std::cerr << "quillmere-forecast: the stored setting " << e.Key << " holds \"" << e.Text
                   << "\", which is not " << e.Expected
                   << "; start Quillmere with any argument to reset the settings\n";
-        return 1;
+    } catch (const std::exception& e) {
+        std::cerr << "quillmere-forecast: " << e.what() << "\n";
     }
-    return 0;
+    return 1;
 }

@@ -186,7 +186,7 @@ DbResult Database::Open(const QString& path, const QString& connect)
     }
     probe = QSqlQuery();
     db = QSqlDatabase();
-    const DbResult access = CheckPassword(connect);
+    DbResult access = CheckPassword(connect);
     if (!access)
         Close();
     return access;
@@ -330,6 +330,7 @@ DbResult Database::Query(const QString& jetSql, RowSet& result, QString* sourceT
         result.Fields.push_back(layout.fieldName(i));
     while (q.next()) {
         std::vector<QVariant> row;
+        row.reserve(std::size_t(layout.count()));
         for (int i = 0; i < layout.count(); ++i)
             row.push_back(q.value(i));
         result.Rows.push_back(std::move(row));
@@ -354,7 +355,9 @@ DbResult Database::Prepare(const std::vector<ColumnInfo>& columns, const QString
     prepared.clear();
     if (columns.empty())
         return DbResult::Failure(QStringLiteral("Could not find table '%1'.").arg(table));
-    for (const auto& [name, value] : fields) {
+    for (const auto& field : fields) {
+        const QString& name = field.first;
+        const QVariant& value = field.second;
         const auto column = std::find_if(columns.begin(), columns.end(), [&](const ColumnInfo& c) {
             return c.Name.compare(name, Qt::CaseInsensitive) == 0;
         });

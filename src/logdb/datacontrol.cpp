@@ -27,7 +27,7 @@ DbResult DataControl::OpenIfNeeded()
 {
     if (db_.IsOpen() && openedName_ == databaseName_ && openedConnect_ == connect_)
         return DbResult::Success();
-    const DbResult opened = db_.Open(databaseName_, connect_);
+    DbResult opened = db_.Open(databaseName_, connect_);
     openedName_ = opened ? databaseName_ : QString();
     openedConnect_ = opened ? connect_ : QString();
     return opened;
@@ -325,9 +325,8 @@ DbResult DataControl::Delete()
         return DbResult::Failure(QStringLiteral("Database or object is read-only."));
     if (!HasCurrent())
         return DbResult::Failure(NoCurrentRecord);
-    const DbResult deleted =
-        db_.DeleteRecord(sourceTable_, fields_[std::size_t(keyIndex_)],
-                         rows_[std::size_t(position_)][std::size_t(keyIndex_)]);
+    DbResult deleted = db_.DeleteRecord(sourceTable_, fields_[std::size_t(keyIndex_)],
+                                        rows_[std::size_t(position_)][std::size_t(keyIndex_)]);
     if (!deleted)
         return deleted;
     rows_.erase(rows_.begin() + position_);

@@ -194,7 +194,7 @@ struct RebuildLinks {
 };
 
 // Largest rowid the table may hold, from whatever can still be read; at least `floor`.
-qint64 RowIdCeiling(QSqlDatabase from, const QString& table, qint64 floor)
+qint64 RowIdCeiling(const QSqlDatabase& from, const QString& table, qint64 floor)
 {
     qint64 ceiling = floor + BlindProbeSpan;
     QSqlQuery q(from);
@@ -209,8 +209,8 @@ qint64 RowIdCeiling(QSqlDatabase from, const QString& table, qint64 floor)
 
 // The first rowid after `after` that can be read by looking it up, stepping over the rows
 // of a damaged page; nothing when there is none up to the ceiling.
-std::optional<qint64> NextReadableRowId(QSqlDatabase from, const QString& table, qint64 after,
-                                        qint64 ceiling)
+std::optional<qint64> NextReadableRowId(const QSqlDatabase& from, const QString& table,
+                                        qint64 after, qint64 ceiling)
 {
     QSqlQuery q(from);
     q.prepare(QStringLiteral("SELECT 1 FROM %1 WHERE rowid = ?").arg(QuotedName(table)));
@@ -224,7 +224,7 @@ std::optional<qint64> NextReadableRowId(QSqlDatabase from, const QString& table,
 
 // Rowids of every record of the table that can still be reached: a scan in rowid order,
 // which stops at a damaged page, resumed after each damaged stretch.
-std::vector<qint64> ReadableRowIds(QSqlDatabase from, const QString& table)
+std::vector<qint64> ReadableRowIds(const QSqlDatabase& from, const QString& table)
 {
     std::vector<qint64> ids;
     QSqlQuery scan(from);
@@ -275,7 +275,7 @@ struct SchemaEntry {
     QString Type, Name, Sql;
 };
 
-std::vector<SchemaEntry> ReadSchema(QSqlDatabase from, DbResult& result)
+std::vector<SchemaEntry> ReadSchema(const QSqlDatabase& from, DbResult& result)
 {
     std::vector<SchemaEntry> entries;
     QSqlQuery q(from);
