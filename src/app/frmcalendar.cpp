@@ -9,6 +9,7 @@
 #include "astro/moonpicture.h"
 #include "astro/timebase.h"
 #include "logdb/frmselectdb.h"
+#include "platform/busypointer.h"
 #include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/twips.h"
@@ -36,14 +37,6 @@ constexpr int FormWidthTwips = 10200;
 constexpr int CellWidth = 57, CellHeight = 48, CellGap = 1, GridLeft = 6, GridTop = 50;
 
 QString Q(const std::string& s) { return QString::fromStdString(s); }
-
-// The hourglass pointer while a handler works.
-struct BusyPointer {
-    BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~BusyPointer() { QApplication::restoreOverrideCursor(); }
-    BusyPointer(const BusyPointer&) = delete;
-    BusyPointer& operator=(const BusyPointer&) = delete;
-};
 
 QColor Colour(std::uint32_t bbggrr) { return VbColor(std::int32_t(bbggrr)); }
 

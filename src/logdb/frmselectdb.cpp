@@ -5,6 +5,7 @@
 #include "logdb/filldata.h"
 #include "logdb/frmtable1.h"
 #include "logdb/logfiles.h"
+#include "platform/busypointer.h"
 #include "platform/messageservice.h"
 
 #include <QApplication>
@@ -26,15 +27,6 @@ QPushButton* Button(const QString& caption, const QString& name, const QString& 
     button->setAutoDefault(false);
     return button;
 }
-
-// The hourglass for the length of a scope.
-class Hourglass {
-public:
-    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Hourglass() { QApplication::restoreOverrideCursor(); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-};
 
 } // namespace
 
@@ -168,7 +160,7 @@ bool FrmSelectDB::CreateDB(std::int16_t year)
 
 bool FrmSelectDB::Fill(std::int16_t year)
 {
-    const Hourglass hourglass;
+    const BusyPointer busy;
     Data0.SetDatabaseName(Ctx.State.DBPath);
     Data0.SetRecordSource(QStringLiteral("select * from table1"));
     DbResult filled = Data0.Refresh();
@@ -217,7 +209,7 @@ void FrmSelectDB::CmdCompact_Click()
     const QString title = QStringLiteral("Compact DataBases");
     DbResult compacted;
     {
-        const Hourglass hourglass;
+        const BusyPointer busy;
         compacted = CompactDB(Ctx.State.DBPath);
     }
     Ctx.Messages.MsgBox(compacted ? QStringLiteral("Compacting Completed!")
