@@ -19,10 +19,7 @@ namespace {
 Astronomy Pittsburgh()
 {
     Astronomy engine;
-    engine.Site.CurLongitude = 80.0;
-    engine.Site.CurLatitude = 40.44;
-    engine.Site.CurTimeZone = 5;
-    engine.Site.ZoneDays = 5 / 24.0;
+    engine.Site.SetPlace(80.0, 40.44, 5);
     return engine;
 }
 

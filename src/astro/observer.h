@@ -14,4 +14,13 @@ struct Observer {
     std::int16_t TimeFormats = 1;
     double HourInstant = 0.5; // hour bar / 1440 + ZoneDays
     bool AMPM = true;         // clock texts with " AM"/" PM"
+
+    // Moves to a place in standard time; daylight saving and the chosen hour stay as they are.
+    void SetPlace(double lonWest, double latNorth, std::int16_t zone)
+    {
+        CurLongitude = lonWest;
+        CurLatitude = latNorth;
+        CurTimeZone = zone;
+        ZoneDays = zone / 24.0;
+    }
 };

@@ -28,10 +28,7 @@ const char* const SeasonTypes[] = {"march_equinox", "june_solstice", "september_
 ForecastRun::ForecastRun(const ForecastPlace& place)
 {
     Observer& site = Engine.Site;
-    site.CurLongitude = place.Longitude;
-    site.CurLatitude = place.Latitude;
-    site.CurTimeZone = std::int16_t(place.TimeZone);
-    site.ZoneDays = place.TimeZone / 24.0;
+    site.SetPlace(place.Longitude, place.Latitude, std::int16_t(place.TimeZone));
     site.DstOffsetDays = place.DstOffsetDays;
     site.TimeFormats = place.DstOffsetDays != 0.0 ? 0 : 1;
     site.AMPM = place.AmPm;

@@ -8,10 +8,7 @@ namespace {
 Astronomy At(double lonWest, double latNorth, int zone)
 {
     Astronomy a;
-    a.Site.CurLongitude = lonWest;
-    a.Site.CurLatitude = latNorth;
-    a.Site.CurTimeZone = static_cast<std::int16_t>(zone);
-    a.Site.ZoneDays = zone / 24.0;
+    a.Site.SetPlace(lonWest, latNorth, static_cast<std::int16_t>(zone));
     a.Site.HourInstant = 0.5 + a.Site.ZoneDays;
     return a;
 }

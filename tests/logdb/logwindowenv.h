@@ -22,10 +22,7 @@ struct LogWindowEnv {
 
     explicit LogWindowEnv(QString folder) : Folder(std::move(folder))
     {
-        Engine.Site.CurLongitude = 80.0;
-        Engine.Site.CurLatitude = 40.44;
-        Engine.Site.CurTimeZone = 5;
-        Engine.Site.ZoneDays = 5 / 24.0;
+        Engine.Site.SetPlace(80.0, 40.44, 5);
         Engine.Site.DstOffsetDays = -60 / 1440.0;
         Messages.Script([this](const ShownMessage&) {
             if (Answers.empty())

@@ -10,10 +10,7 @@ namespace {
 Astronomy AtAlexandria()
 {
     Astronomy engine;
-    engine.Site.CurLongitude = 92.42;
-    engine.Site.CurLatitude = 31.25;
-    engine.Site.CurTimeZone = 6;
-    engine.Site.ZoneDays = 0.25;
+    engine.Site.SetPlace(92.42, 31.25, 6);
     return engine;
 }
 
