@@ -2,6 +2,7 @@
 
 #include "astro/timebase.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <chrono>
@@ -120,6 +121,15 @@ std::string CsvCell(const std::string& json)
     return quoted + "\"";
 }
 
+std::string Trimmed(std::string s)
+{
+    while (!s.empty() && s.front() == ' ')
+        s.erase(0, 1);
+    while (!s.empty() && s.back() == ' ')
+        s.pop_back();
+    return s;
+}
+
 std::string Clock24(const std::optional<double>& h)
 {
     if (!h)
@@ -189,10 +199,7 @@ std::string DaysAsText(const std::vector<DayRow>& rows, const std::string& locat
             Clock24(r.MoonTransit).c_str(), Clock24(r.Moonset).c_str(), Clock24(r.Major1).c_str(),
             Clock24(r.Major2).c_str(), Clock24(r.Minor1).c_str(), Clock24(r.Minor2).c_str(),
             r.IllumPercent);
-        std::string text = r.Text;
-        while (!text.empty() && text.front() == ' ')
-            text.erase(0, 1);
-        out += line + text + "\n";
+        out += line + Trimmed(r.Text) + "\n";
     }
     return out;
 }
@@ -215,12 +222,17 @@ std::string UtcStamp(const DayRow& r, double localHours)
     return buf;
 }
 
-// One content line, folded at 75 octets as RFC 5545 asks.
+// One content line, folded at 75 octets as RFC 5545 asks, never inside a UTF-8 character.
 std::string IcsLine(const std::string& line)
 {
     std::string out;
-    for (std::size_t i = 0; i < line.size(); i += i == 0 ? 75 : 74)
-        out += (i ? " " : "") + line.substr(i, i == 0 ? 75 : 74) + "\r\n";
+    for (std::size_t i = 0; i < line.size();) {
+        std::size_t n = std::min<std::size_t>(i == 0 ? 75 : 74, line.size() - i);
+        while (i + n < line.size() && (static_cast<unsigned char>(line[i + n]) & 0xC0) == 0x80)
+            --n;
+        out += (i ? " " : "") + line.substr(i, n) + "\r\n";
+        i += n;
+    }
     return out;
 }
 
@@ -235,15 +247,18 @@ std::string IcsText(const std::string& s)
     return out;
 }
 
-std::string TimedEvent(const DayRow& r, const std::string& what, double centre, double halfMinutes,
+// A major (two hours) or minor (70 minutes) period around its centre.
+std::string TimedEvent(const DayRow& r, const std::string& what, double centre,
                        const std::string& stamp, const std::string& place)
 {
+    const bool major = what.starts_with("major");
+    const double halfMinutes = major ? 60.0 : 35.0;
     const std::string day = Date(r.Year, r.Month, r.Day);
     return IcsLine("BEGIN:VEVENT") + IcsLine("UID:" + day + "-" + what + "@quillmere") +
            IcsLine("DTSTAMP:" + stamp) +
            IcsLine("DTSTART:" + UtcStamp(r, centre - halfMinutes / 60.0)) +
            IcsLine("DTEND:" + UtcStamp(r, centre + halfMinutes / 60.0)) +
-           IcsLine("SUMMARY:" + IcsText((what[1] == 'a' ? "Major period" : "Minor period") +
+           IcsLine("SUMMARY:" + IcsText((major ? "Major period" : "Minor period") +
                                         std::string(" (") + place + ")")) +
            IcsLine("TRANSP:TRANSPARENT") + IcsLine("END:VEVENT");
 }
@@ -268,12 +283,12 @@ std::string DaysAsIcs(const std::vector<DayRow>& rows, const std::string& locati
                    IcsLine("SUMMARY:" + RatingName(r.Rating)) + IcsLine("TRANSP:TRANSPARENT") +
                    IcsLine("END:VEVENT");
         }
-        out += TimedEvent(r, "major1", r.Major1, 60, stamp, locationName);
-        out += TimedEvent(r, "major2", r.Major2, 60, stamp, locationName);
+        out += TimedEvent(r, "major1", r.Major1, stamp, locationName);
+        out += TimedEvent(r, "major2", r.Major2, stamp, locationName);
         if (r.Minor1)
-            out += TimedEvent(r, "minor1", *r.Minor1, 35, stamp, locationName);
+            out += TimedEvent(r, "minor1", *r.Minor1, stamp, locationName);
         if (r.Minor2)
-            out += TimedEvent(r, "minor2", *r.Minor2, 35, stamp, locationName);
+            out += TimedEvent(r, "minor2", *r.Minor2, stamp, locationName);
     }
     return out + IcsLine("END:VCALENDAR");
 }
@@ -291,14 +306,6 @@ std::string LocalText(double jd)
     return buf;
 }
 
-std::string Trimmed(std::string s)
-{
-    while (!s.empty() && s.front() == ' ')
-        s.erase(0, 1);
-    while (!s.empty() && s.back() == ' ')
-        s.pop_back();
-    return s;
-}
 } // namespace
 
 std::string EventsAsJson(int year, const std::vector<EventRow>& events)

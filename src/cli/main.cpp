@@ -120,9 +120,6 @@ std::string Month(const ForecastRequest& r, const NamedPlace& p)
     return out;
 }
 
-} // namespace
-
-namespace {
 int Run(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);

@@ -5,6 +5,7 @@
 #include "logdb/databar.h"
 #include "logdb/filldata.h"
 #include "logdb/storedforms.h"
+#include "platform/busypointer.h"
 #include "platform/messageservice.h"
 #include "platform/twips.h"
 
@@ -372,14 +373,13 @@ void frmTable1::Form_Activate()
 
 void frmTable1::Data1_Reposition()
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const BusyPointer busy;
     Data1Bar->SetCaption(QStringLiteral("Record: ") +
                          QString::number(Data1.AbsolutePosition() + 1) + QStringLiteral(" of ") +
                          QString::number(Data1.RecordCount()) + QStringLiteral(" Record(s)"));
     ShowTimes();
     ShowNotes();
     ShowMoon();
-    QApplication::restoreOverrideCursor();
 }
 
 void frmTable1::ShowTimes()

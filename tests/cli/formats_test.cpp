@@ -112,6 +112,31 @@ TEST(ForecastFormats, IcsEventsInUniversalTime)
     EXPECT_NE(ics.find("DTEND:20240209T183000Z"), std::string::npos);
     // Major 2 at 23:54 local ends after midnight UT of the next day.
     EXPECT_NE(ics.find("DTEND:20240210T065400Z"), std::string::npos);
+    // Minor 1 at 05:15 local: 35 minutes either side of 11:15 UT.
+    EXPECT_NE(ics.find("DTSTART:20240209T104000Z"), std::string::npos);
+    EXPECT_NE(ics.find("DTEND:20240209T115000Z"), std::string::npos);
+}
+
+// A folded line breaks between characters, so that unfolding gives back the UTF-8 name.
+TEST(ForecastFormats, IcsFoldingKeepsCharactersWhole)
+{
+    std::string name = "x"; // shifts the acute e's (two octets each) so a fold falls inside one
+    for (int i = 0; i < 40; ++i)
+        name += "\xc3\xa9";
+    const std::string ics = DaysAsIcs({}, name, "20261123T000000Z");
+    const std::size_t from = ics.find("X-WR-CALNAME:");
+    const std::size_t to = ics.find("\r\nEND:VCALENDAR");
+    std::string unfolded;
+    for (std::size_t i = from; i < to; ++i) {
+        if (ics.compare(i, 3, "\r\n ") == 0) {
+            EXPECT_LE(i - (ics.rfind("\r\n", i - 1) + 2), 75u);
+            EXPECT_NE(static_cast<unsigned char>(ics[i + 3]) & 0xC0, 0x80) << i;
+            i += 2;
+            continue;
+        }
+        unfolded += ics[i];
+    }
+    EXPECT_EQ(unfolded, "X-WR-CALNAME:Fishing times\\, " + name);
 }
 
 TEST(ForecastFormats, TextTableAndRatingNames)
