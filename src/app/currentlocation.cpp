@@ -8,17 +8,15 @@ void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site)
 {
     const Location& loc = s.Locations[std::size_t(s.CurLoc)];
 
-    site.CurLongitude = loc.Longitude;
+    site.SetPlace(loc.Longitude, loc.Latitude, loc.TimeZone);
     std::string caption =
         " Long=" + VbFormat(std::fabs(loc.Longitude), "##0.#0") + (loc.Longitude < 0 ? " E" : " W");
 
-    site.CurLatitude = loc.Latitude;
     const bool south = loc.Latitude < 0;
     s.HemiSphere = south ? "South" : "North";
     cur.SouthernHemisphere = south ? -1 : 0;
     caption += " Lat=" + VbFormat(std::fabs(loc.Latitude), "#0.#0") + (south ? " S" : " N");
 
-    site.CurTimeZone = loc.TimeZone;
     cur.CurLocName = loc.Name;
     caption = cur.CurLocName + " " + caption;
 
@@ -30,7 +28,6 @@ void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site)
     }
     site.TimeFormats = s.TimeFormats;
     site.AMPM = s.AmPm();
-    site.ZoneDays = site.CurTimeZone / 24.0;
 
     caption += " TimeZone=" + std::string(site.CurTimeZone >= 0 ? " " : "") +
                std::to_string(site.CurTimeZone) + " " + " Time=" + mode +
