@@ -534,14 +534,17 @@ void FrmCalendar::txtpic_MouseMove(int index)
                           QString(" %1").arg(daysInYear - doy) + " days remain");
         LastHoveredCell = index;
     }
-    const ComputedDay day{cal.CurYear, cal.CurMonth, index - cal.FirstWeekday + 1};
+    // The hovered day is the selected day for the panel; the frame stays on the clicked cell.
+    App.Config.SelectedJD = jd;
+    SelDay = std::int16_t(index - cal.FirstWeekday + 1);
+    const ComputedDay day{cal.CurYear, cal.CurMonth, SelDay};
     if (day == LastComputedDay)
         return;
     LastComputedDay = day;
     if (App.Config.MouseClick)
         return;
-    SelectCell(index);
-    VsbHour->setValue(720);
+    VsbHour->setValue(720);     // its change event recomputes the framed day ...
+    App.Config.SelectedJD = jd; // ... but the panel shows the day under the pointer
     ComputeSelectedDay();
 }
 
@@ -574,8 +577,10 @@ void FrmCalendar::ApplyCurrentLocation()
 {
     Settings& s = App.Config;
     ApplyLocationValues(s, Here, App.Astro.Site);
-    DST[0]->setChecked(s.TimeFormats == 0);
-    DST[1]->setChecked(s.TimeFormats == 1);
+    if (s.TimeFormats == 0 || s.TimeFormats == 1) {
+        DST[0]->setChecked(s.TimeFormats == 0);
+        DST[1]->setChecked(s.TimeFormats == 1);
+    }
     Label[15]->setText(Q(FormatClock(0, VsbHour->value() / 60.0, s.AmPm())));
     VsbHour->update();
     StatusPanels[0]->setText(Q(Here.CurLocName));
