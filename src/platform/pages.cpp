@@ -76,7 +76,8 @@ double PlaceTwips(QPainter& painter, const QRectF& area, const QSizeF& contentTw
     const double fits = std::min(area.width() / (contentTwips.width() * perTwipX),
                                  area.height() / (contentTwips.height() * perTwipY));
     const double used = std::min(scale, fits);
-    painter.translate(area.topLeft());
+    const double spare = area.width() - contentTwips.width() * perTwipX * used;
+    painter.translate(area.left() + std::max(0.0, spare) / 2, area.top());
     painter.scale(used * perTwipX, used * perTwipY);
     return used;
 }

@@ -27,8 +27,8 @@ QString WritePdf(const QString& path, const QString& title, const QPageLayout& l
                  const PageDrawing& draw);
 
 // Sets the painter so that a drawing made in twips (1/1440 inch), `contentTwips` in size,
-// appears `scale` times its true size at the top left of `area`, made smaller when it would
-// not fit. Returns the scale used (`scale`, or less when shrunk to fit).
+// appears `scale` times its true size at the top of `area`, centred across it, made smaller
+// when it would not fit. Returns the scale used (`scale`, or less when shrunk to fit).
 double PlaceTwips(QPainter& painter, const QRectF& area, const QSizeF& contentTwips, double scale);
 
 // A font whose size is given in points, for drawings made in twips.

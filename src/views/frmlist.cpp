@@ -9,13 +9,14 @@
 
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QGridLayout>
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QShowEvent>
+#include <QVBoxLayout>
 
 namespace {
 QString Q(const std::string& s) { return QString::fromStdString(s); }
@@ -51,16 +52,20 @@ FrmList::FrmList(Astronomy& engine, const Calendar& cal, std::string locationNam
     Command2 =
         Button(QStringLiteral("ClipBoard"), QStringLiteral(" Copy text to clipboard "), this);
     Command3 = Button(QStringLiteral("Print"), QStringLiteral(" Print a Calendar "), this);
-    auto* grid = new QGridLayout(this);
-    grid->addWidget(Label[0], 0, 0);
-    grid->addWidget(Label[1], 0, 1);
-    grid->addWidget(Label[2], 1, 0, 1, 5);
-    grid->addWidget(Label[3], 2, 0, 1, 5);
-    grid->addWidget(Text1, 3, 0, 1, 5);
-    grid->addWidget(Command1, 4, 2);
-    grid->addWidget(Command2, 4, 3);
-    grid->addWidget(Command3, 4, 4);
-    grid->setColumnStretch(1, 1);
+    auto* month = new QHBoxLayout;
+    month->addWidget(Label[0]);
+    month->addWidget(Label[1]);
+    month->addStretch();
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    for (QPushButton* b : {Command1, Command2, Command3})
+        buttons->addWidget(b);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(month);
+    layout->addWidget(Label[2]);
+    layout->addWidget(Label[3]);
+    layout->addWidget(Text1);
+    layout->addLayout(buttons);
     connect(Command1, &QPushButton::clicked, this, &FrmList::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &FrmList::Command2_Click);
     connect(Command3, &QPushButton::clicked, this, &FrmList::Command3_Click);
@@ -71,7 +76,7 @@ void FrmList::Form_Load()
 {
     // Wide enough for a line of the list, and most of the screen's height.
     const QRect screen = this->screen()->availableGeometry();
-    resize(std::min(screen.width(), 640), std::min(screen.height() * 3 / 4, 720));
+    resize(std::min(screen.width(), 640), std::min(screen.height() * 9 / 10, 760));
 }
 
 void FrmList::Form_Activate()
@@ -82,6 +87,7 @@ void FrmList::Form_Activate()
     Label[1]->setText(QString::number(Cal.CurYear));
     Label[2]->setText(QString::fromLatin1(MonthlyListHeadings[0]));
     Label[3]->setText(QString::fromLatin1(MonthlyListHeadings[1]));
+    layout()->activate(); // the labels' new widths, before the list is painted
     Lines =
         MonthlyListLines(Engine, Cal.MonthStartJD[std::size_t(Cal.CurMonth)], Cal.MonthDays, AmPm);
     QString text;

@@ -76,7 +76,7 @@ TEST(Printer, AnUnwritablePdfIsReportedInOneLineAndAnEarlierFileStaysWhole)
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 }
 
-TEST(PlaceTwips, ScalesToTheAskedSizeAndShrinksToFitThePaper)
+TEST(PlaceTwips, ScalesToTheAskedSizeCentredAndShrinksToFitThePaper)
 {
     QImage device(10, 10, QImage::Format_RGB32);
     device.setDotsPerMeterX(int(300 / 0.0254 + 0.5)); // 300 dpi
@@ -85,7 +85,9 @@ TEST(PlaceTwips, ScalesToTheAskedSizeAndShrinksToFitThePaper)
     // 1440 twips = 1 inch = 300 device pixels at true size; 1.2 times gives 360.
     const QSizeF page(1440 * 7, 1440 * 5);
     EXPECT_DOUBLE_EQ(PlaceTwips(p, QRectF(0, 0, 3000, 3000), page, 1.2), 1.2);
-    EXPECT_NEAR(p.transform().map(QPointF(1440, 0)).x(), 360.0, 0.5);
+    // Centred across the 3000 pixels: 7 inches at 1.2 times take 2520.
+    EXPECT_NEAR(p.transform().map(QPointF(0, 0)).x(), 240.0, 0.5);
+    EXPECT_NEAR(p.transform().map(QPointF(1440, 0)).x(), 240.0 + 360.0, 0.5);
     p.resetTransform();
     // Letter's printable width at 300 dpi (7.5 in) cannot take 7 in at 1.2 times.
     const double used = PlaceTwips(p, QRectF(50, 60, 2250, 3000), page, 1.2);
