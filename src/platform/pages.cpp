@@ -9,6 +9,7 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 constexpr double TwipsPerInch = 1440.0;
@@ -85,7 +86,7 @@ double PlaceTwips(QPainter& painter, const QRectF& area, const QSizeF& contentTw
 QFont TwipsFont(const QString& family, double points, bool bold)
 {
     QFont font(family);
-    font.setPixelSize(int(points * TwipsPerPoint + 0.5));
+    font.setPixelSize(int(std::lround(points * TwipsPerPoint)));
     font.setBold(bold);
     return font;
 }
