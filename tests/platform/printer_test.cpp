@@ -4,9 +4,12 @@
 #include "support/pdftext.h"
 #include "support/testenv.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -74,6 +77,26 @@ TEST(Printer, AnUnwritablePdfIsReportedInOneLineAndAnEarlierFileStaysWhole)
     }
     QFile::setPermissions(dir,
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
+
+// Without $QUILLMERE_PRINT_PDF the print dialog opens; cancelling it prints nothing, calls no
+// drawing and says nothing.
+TEST(Printer, ACancelledDialogPrintsNothingAndSaysNothing)
+{
+    bool dialogShown = false;
+    QTimer::singleShot(0, [&dialogShown] {
+        if (auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            dialogShown = true;
+            d->reject();
+        }
+    });
+    MessageService messages;
+    bool drawn = false;
+    const auto draw = [&drawn](QPainter&, const QRectF&, int) { return drawn = true, false; };
+    EXPECT_EQ(PrintDocument(nullptr, messages, "x", draw), PrintOutcome::NotPrinted);
+    EXPECT_TRUE(dialogShown);
+    EXPECT_FALSE(drawn);
+    EXPECT_TRUE(messages.Shown().empty());
 }
 
 TEST(PlaceTwips, ScalesToTheAskedSizeCentredAndShrinksToFitThePaper)
