@@ -3,6 +3,7 @@
 #include "app/frmcalendar.h"
 #include "app/frmprint.h"
 #include "app/settingsio.h"
+#include "calendar/calendar.h"
 #include "support/pdftext.h"
 #include "support/testenv.h"
 #include "views/frmglance.h"
@@ -14,6 +15,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 
 #include <gtest/gtest.h>
@@ -133,8 +135,15 @@ TEST_F(Functions, PrintCalendarPreviewsAndPrints)
     EXPECT_TRUE(App.Messages.Shown().empty());
     EXPECT_EQ(testenv::PdfPages(pdf), 1);
     const QString text = testenv::PdfText(pdf);
-    EXPECT_TRUE(text.contains(" 2024")) << text.toStdString();
+    const QString month = QString::fromLatin1(MonthNames[2]);
+    EXPECT_TRUE(text.contains(QRegularExpression(month + "\\s+2024"))) << text.toStdString();
     EXPECT_TRUE(text.contains("04:57 A/")) << text.toStdString();
+    std::set<int> numbers;
+    for (const auto& m : QRegularExpression("(?:^|\\s)(\\d{1,2})(?=\\s|$)").globalMatch(text))
+        numbers.insert(m.captured(1).toInt());
+    for (int d = 1; d <= 29; ++d)
+        EXPECT_TRUE(numbers.count(d)) << d;
+    EXPECT_FALSE(numbers.count(30));
     for (const char* day : {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"})
         EXPECT_TRUE(text.contains(day)) << day;
     testenv::PdfToPng(pdf, Screenshots() + "/printed-calendar-feb2024");
