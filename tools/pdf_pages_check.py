@@ -23,10 +23,12 @@ def check(condition, what):
         failures.append(what)
 
 
-def make(program, folder, command):
+def make(program, folder, command, locale="C.UTF-8"):
+    """The month's page(s) for a locale's paper (en_US prints on Letter, others on A4)."""
     pdf = os.path.join(folder, f"{command}-feb2024.pdf")
+    env = dict(os.environ, LANG=locale, LC_ALL=locale)
     subprocess.run([program, command, "--year", "2024", "--month", "2", *PLACE, "--pdf", pdf],
-                   check=True)
+                   check=True, env=env)
     subprocess.run(["pdftoppm", "-png", "-singlefile", "-r", "60", pdf, pdf[:-4]], check=True)
     text = subprocess.run(["pdftotext", "-layout", pdf, "-"], check=True,
                           capture_output=True, text=True).stdout
@@ -62,10 +64,15 @@ def main(program, folder):
     check("30" not in numbers, "calendar: no day 30 in February 2024")
     transit = moon_transit_local(2024, 2, 1)
     check(transit + "/" in text, f"calendar: day 1's first major is the transit {transit}")
-    # Sun to Sat are six columns of 1325 twips apart; printed at 1.2 times: 477 points.
-    centres = word_centres(pdf, {"Sun", "Sat"})
-    span = centres.get("Sat", 0) - centres.get("Sun", 0)
-    check(abs(span - 6 * 1325 * 1.2 / 20) < 2.0, f"calendar: printed at 1.2 times ({span} pt)")
+    # Sun to Sat are six columns of 1325 twips apart; printed at 1.2 times: 477 points, on
+    # A4 and on Letter alike.
+    for locale, paper in (("C.UTF-8", "A4"), ("en_US.UTF-8", "letter")):
+        pdf, _ = make(program, folder, "calendar", locale)
+        info = subprocess.run(["pdfinfo", pdf], check=True, capture_output=True, text=True)
+        check(f"({paper})" in info.stdout, f"calendar: {paper} paper for {locale}")
+        centres = word_centres(pdf, {"Sun", "Sat"})
+        span = centres.get("Sat", 0) - centres.get("Sun", 0)
+        check(abs(span - 6 * 1325 * 1.2 / 20) < 2.0, f"calendar: 1.2 times on {paper} ({span})")
 
     _, text = make(program, folder, "glance")
     check("Lunar Events for Feb/2024" in text, "glance: its title")
