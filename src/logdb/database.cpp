@@ -311,7 +311,8 @@ DbResult Database::Execute(const QString& jetSql)
     return RunInTransaction(statements);
 }
 
-DbResult Database::Query(const QString& jetSql, RowSet& result, QString* sourceTable)
+DbResult Database::Query(const QString& jetSql, RowSet& result, QString* sourceTable,
+                         const QVariantList& parameters)
 {
     result = {};
     if (!IsOpen())
@@ -323,7 +324,11 @@ DbResult Database::Query(const QString& jetSql, RowSet& result, QString* sourceT
         return DbResult::Failure(QStringLiteral("A record source must be a select query."));
     QSqlQuery q(Connection());
     q.setForwardOnly(true);
-    if (!q.exec(QString::fromStdString(statement.Sql.front())))
+    if (!q.prepare(QString::fromStdString(statement.Sql.front())))
+        return DbResult::Failure(ErrorText(q.lastError()));
+    for (const QVariant& value : parameters)
+        q.addBindValue(value);
+    if (!q.exec())
         return DbResult::Failure(ErrorText(q.lastError()));
     const QSqlRecord layout = q.record();
     for (int i = 0; i < layout.count(); ++i)

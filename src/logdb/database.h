@@ -72,8 +72,10 @@ public:
     // Runs one action statement in the program's dialect (DROP TABLE [T];, select ... into).
     DbResult Execute(const QString& jetSql);
     // Runs one select statement in the program's dialect. The source table is set to the one
-    // table it reads, when it reads just one.
-    DbResult Query(const QString& jetSql, RowSet& result, QString* sourceTable = nullptr);
+    // table it reads, when it reads just one. Each "?" in the statement is bound to the next
+    // of the parameters.
+    DbResult Query(const QString& jetSql, RowSet& result, QString* sourceTable = nullptr,
+                   const QVariantList& parameters = {});
 
     // The table's columns in order; empty when there is no such table.
     std::vector<ColumnInfo> Columns(const QString& table) const;
