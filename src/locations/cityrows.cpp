@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
+#include <cstdlib>
 #include <map>
 #include <utility>
 
@@ -80,6 +81,9 @@ double Hundredths(double degrees) { return std::round(std::fabs(degrees) * 100.0
 
 std::string UsPostalCode(std::string_view stateName)
 {
+    constexpr std::string_view Formal = "State of "; // "State of Maine"
+    if (stateName.substr(0, Formal.size()) == Formal)
+        stateName.remove_prefix(Formal.size());
     for (const StateCode& s : UsStates) {
         if (s.Name == stateName)
             return std::string(s.Code);
@@ -89,7 +93,10 @@ std::string UsPostalCode(std::string_view stateName)
 
 std::optional<CityRow> CityRowFrom(const SourceCity& city)
 {
-    if (!city.StandardOffsetSeconds || *city.StandardOffsetSeconds % 3600 != 0)
+    // The location's zone list runs from 12 hours west to 12 east (Samoa's and Tonga's 13
+    // hours east do not fit).
+    const auto offset = city.StandardOffsetSeconds;
+    if (!offset || *offset % 3600 != 0 || std::abs(*offset / 3600) > 12)
         return std::nullopt;
     CityRow row;
     const std::string code = city.CountryCode == "US" ? UsPostalCode(city.Region) : "";

@@ -34,10 +34,12 @@ struct CityRow {
     std::int16_t Timezone = 0; // whole hours west of Greenwich (New York 5, Berlin -1)
 };
 
-// "FL" for "Florida", "DC" for "Washington, D.C."; empty for a name that is not a US state.
+// "FL" for "Florida", "ME" for "State of Maine", "DC" for "District of Columbia"; empty for a
+// name that is not a US state.
 std::string UsPostalCode(std::string_view stateName);
 
-// The row for a city; nothing when its zone is unknown or not a whole number of hours.
+// The row for a city; nothing when its zone is unknown, not a whole number of hours or beyond
+// 12 hours from Greenwich.
 std::optional<CityRow> CityRowFrom(const SourceCity& city);
 
 // Every city's row, ordered by State and then City without regard to case. Where two cities

@@ -66,7 +66,7 @@ EditDB::~EditDB()
 
 void EditDB::BuildControls()
 {
-    setFixedSize(430, 380);
+    setFixedSize(430, 336);
     for (std::size_t i = 0; i < Text.size(); ++i) {
         const int y = 10 + int(i) * 30;
         auto* label = new QLabel(QString::fromLatin1(Labels[i]), this);
