@@ -25,7 +25,6 @@ QScrollBar* DegreeBar(QWidget* parent, int maximum, const QRect& geometry)
 {
     auto* bar = new QScrollBar(Qt::Vertical, parent);
     bar->setRange(0, maximum);
-    bar->setInvertedAppearance(true); // the upper arrow counts up
     bar->setGeometry(geometry);
     return bar;
 }
