@@ -296,20 +296,17 @@ void EditDB::FilterCity()
 void EditDB::AddFromFile()
 {
     BusyPointer busy;
-    DbResult step = Data1.RecordCount() > 0 ? Data1.MoveFirst() : DbResult::Success();
-    while (step && !Data1.IsEOF()) {
-        step = Data1.Edit();
-        const QString city = Data1.Field(QStringLiteral("City")).toString();
-        step = step ? Data1.SetField(QStringLiteral("City"),
-                                     QString::fromStdString(ToLowerCase(city.toStdString())))
-                    : step;
-        step = step ? Data1.Update() : step;
-        step = step ? Data1.MoveNext() : step;
+    const int id = Data1.FieldIndex(QStringLiteral("LongLatID"));
+    const int city = Data1.FieldIndex(QStringLiteral("City"));
+    std::vector<RecordChange> changes;
+    for (DbResult step = Data1.MoveFirst(); step && !Data1.IsEOF(); step = Data1.MoveNext()) {
+        const QString name = Data1.Field(city).toString();
+        const QString changed = QString::fromStdString(ToLowerCase(name.toStdString()));
+        if (changed != name)
+            changes.push_back({Data1.Field(id), {{QStringLiteral("City"), changed}}});
     }
-    if (!step) {
-        Data1.CancelUpdate();
-        Report(step);
-    }
+    // One transaction for the whole walk: every city is changed, or on a failure none.
+    Report(Data1.UpdateRecords(changes));
 }
 
 void EditDB::Text_KeyPress(int index)

@@ -386,3 +386,16 @@ DbResult DataControl::AddRecords(const std::vector<FieldValues>& records)
         return added;
     return Refresh();
 }
+
+DbResult DataControl::UpdateRecords(const std::vector<RecordChange>& changes)
+{
+    if (DbResult can = CheckCanMove(); !can)
+        return can;
+    if (!Updatable())
+        return DbResult::Failure(QStringLiteral("Database or object is read-only."));
+    if (DbResult updated =
+            db_.UpdateRecords(sourceTable_, fields_[std::size_t(keyIndex_)], changes);
+        !updated)
+        return updated;
+    return Refresh();
+}

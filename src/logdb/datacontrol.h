@@ -113,6 +113,10 @@ public:
     // then refreshes: the year fill's way of writing.
     DbResult AddRecords(const std::vector<FieldValues>& records);
 
+    // Changes many records of the source table by their keys in one transaction (all or, on
+    // failure, none), then refreshes: for walks over a whole result.
+    DbResult UpdateRecords(const std::vector<RecordChange>& changes);
+
 signals:
     // Another record became current, or there is none any more.
     void Reposition();
