@@ -14,20 +14,26 @@
 #include <QSqlQuery>
 #include <QTimeZone>
 
+#include <algorithm>
 #include <cstdio>
 
 #include <geonames.h>
 
 namespace {
 
-// A zone's standard offset: taken on a fixed winter day of the northern hemisphere, which
-// is summer in the south, so only the standard-time rule of each zone is read.
+// A zone's standard offset: the smaller of its offsets in mid-January and mid-July, which is
+// its winter time in either hemisphere. Read this way rather than from the zone's own notion
+// of "standard", Dublin gets Greenwich time in winter (the rules write Irish summer time as
+// its standard and winter as a negative daylight saving).
 std::optional<int> StandardOffset(const char* zoneName)
 {
     const QTimeZone zone{QByteArray(zoneName)};
     if (!zone.isValid())
         return std::nullopt;
-    return zone.standardTimeOffset(QDateTime(QDate(2024, 1, 15), QTime(12, 0), Qt::UTC));
+    const auto offsetOn = [&zone](int month) {
+        return zone.offsetFromUtc(QDateTime(QDate(2024, month, 15), QTime(12, 0), Qt::UTC));
+    };
+    return std::min(offsetOn(1), offsetOn(7));
 }
 
 std::vector<SourceCity> ReadGeoNames()

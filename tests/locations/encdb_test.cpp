@@ -55,7 +55,7 @@ TEST(Encdb, KnownCitiesWithTheirStandardZones)
 {
     // Coordinates as published (Wikipedia / GNIS); zones from the IANA rules: New York, Denver,
     // London, Berlin, Sydney and Auckland keep daylight saving, Phoenix, Honolulu, Cape Town
-    // and Tokyo do not.
+    // and Tokyo do not; Dublin keeps Greenwich time in winter.
     const KnownCity cities[] = {{"NY", "New York", 74.006, 40.713, 5},
                                 {"CO", "Denver", 104.990, 39.739, 7},
                                 {"AZ", "Phoenix", 112.074, 33.448, 7},
@@ -67,7 +67,8 @@ TEST(Encdb, KnownCitiesWithTheirStandardZones)
                                 {"Australia", "Sydney", -151.209, -33.869, -10},
                                 {"New Zealand", "Auckland", -174.763, -36.848, -12},
                                 {"South Africa", "Cape Town", -18.424, -33.925, -2},
-                                {"Japan", "Tokyo", -139.692, 35.690, -9}};
+                                {"Japan", "Tokyo", -139.692, 35.690, -9},
+                                {"Ireland", "Dublin", 6.260, 53.350, 0}};
     for (const KnownCity& c : cities) {
         SCOPED_TRACE(c.City);
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), "encdb-known");
