@@ -4,6 +4,7 @@
 #include "astro/moonpicture.h"
 #include "logdb/databar.h"
 #include "logdb/filldata.h"
+#include "logdb/querybuilder.h"
 #include "logdb/storedforms.h"
 #include "platform/busypointer.h"
 #include "platform/messageservice.h"
@@ -132,15 +133,18 @@ void frmTable1::BuildControls()
     mnuExit = bar->addAction(QStringLiteral("Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
     connect(mnuExit, &QAction::triggered, this, &frmTable1::mnuExit_Click);
+    BuildQueryMenus(bar);
 
     Data1Bar = new DataBar(Data1, this);
     auto* layout = new QGridLayout(this);
     layout->setMenuBar(bar);
     layout->addWidget(BuildDayPanel(), 0, 0);
     layout->addWidget(BuildCatchPanel(), 0, 1);
+    layout->addWidget(BuildQueryPanel(), 0, 2, 2, 1);
     layout->addWidget(Data1Bar, 1, 0, 1, 2);
     layout->setColumnStretch(0, 3);
     layout->setColumnStretch(1, 2);
+    layout->setColumnStretch(2, 2);
 
     connect(&Data1, &DataControl::Reposition, this, &frmTable1::Data1_Reposition);
     connect(Data1Bar, &DataBar::Error, this, &frmTable1::Data1_Error);
@@ -341,6 +345,14 @@ void frmTable1::Form_Load()
         resize(screen->availableGeometry().size());
     PeakTimeCombo->addItems(HourTexts());
     Combo4->addItems(NumberTexts(0, 100));
+    TimeCombo->addItems(HourTexts());
+    Combo2->addItems(NumberTexts(0, 100));
+    MonthList->addItems(NumberTexts(1, 12));
+    DOWList->addItems(NumberTexts(1, 7) << QStringLiteral("Sat-Sun") << QStringLiteral("Fri-Sun"));
+    for (const Ordering& order : Orderings())
+        SortByCombo->addItem(QString::fromUtf8(order.Entry.data(), qsizetype(order.Entry.size())));
+    const QueryForm start;
+    ShowQueryValues(start);
     BindControls();
     SetBrowsing(true);
     FirstActivation = true;
@@ -368,6 +380,8 @@ void frmTable1::Form_Activate()
                 Data1.FindFirst(QStringLiteral("dbid = ") + QString::number(Ctx.State.FindDBID));
             !found)
             Data1_Error(found.Message);
+        // Found once: later activations (after the report, say) stay on the shown record.
+        Ctx.State.FindRecord = false;
     }
 }
 
@@ -457,6 +471,8 @@ void frmTable1::SetBrowsing(bool browsing)
     for (QWidget* w : std::initializer_list<QWidget*>{Data1Bar, cmdEdit})
         set(w, browsing);
     set(mnuExit, browsing);
+    set(Command1, browsing);
+    set(mnutableview, browsing);
     for (QWidget* w : std::initializer_list<QWidget*>{cmdUpdate, txtFields[17], txtFields[18],
                                                       Combo4, PeakTimeCombo, Text7})
         set(w, !browsing);
