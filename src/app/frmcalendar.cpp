@@ -3,6 +3,7 @@
 #include "app/appstate.h"
 #include "app/daycellwidget.h"
 #include "app/frmabout.h"
+#include "app/frmprint.h"
 #include "app/helpwindow.h"
 #include "app/settingsio.h"
 #include "app/stockpictures.h"
@@ -13,6 +14,8 @@
 #include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/twips.h"
+#include "views/frmglance.h"
+#include "views/frmlist.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -219,6 +222,14 @@ void FrmCalendar::BuildMenus()
     RunDataBase = bar->addAction(QStringLiteral("DataBase"));
     RunDataBase->setObjectName(QStringLiteral("RunDataBase"));
     connect(RunDataBase, &QAction::triggered, this, &FrmCalendar::RunDataBase_Click);
+    QMenu* functions = bar->addMenu(QStringLiteral("&Functions"));
+    functions->setObjectName(QStringLiteral("ProgFunctions"));
+    PrintCalendar = Item(functions, QStringLiteral("&Print"), QStringLiteral("PrintCalendar"));
+    AtAGlance = Item(functions, QStringLiteral("@Glance"), QStringLiteral("AtAGlance"));
+    ShowList = Item(functions, QStringLiteral("&Table"), QStringLiteral("ShowList"));
+    connect(PrintCalendar, &QAction::triggered, this, &FrmCalendar::PrintCalendar_Click);
+    connect(AtAGlance, &QAction::triggered, this, &FrmCalendar::AtAGlance_Click);
+    connect(ShowList, &QAction::triggered, this, &FrmCalendar::ShowList_Click);
     QMenu* options = bar->addMenu(QStringLiteral("&Options"));
     options->setObjectName(QStringLiteral("SetOptions"));
     QMenu* formats = options->addMenu(QStringLiteral("Time Formats"));
@@ -722,4 +733,27 @@ void FrmCalendar::closeEvent(QCloseEvent* event)
     SaveSettings(App.Config, App.Store);
     event->accept();
     QApplication::quit();
+}
+
+void FrmCalendar::PrintCalendar_Click()
+{
+    const BusyPointer busy;
+    if (!PrintWindow)
+        PrintWindow = new FrmPrint(App.Astro, App.Cal, App.Messages, this);
+    PrintWindow->PrintACalendar(Here.SouthernHemisphere);
+}
+
+void FrmCalendar::AtAGlance_Click()
+{
+    auto* glance = new FrmGlance(App.Cal, Here.SouthernHemisphere, App.Messages, this);
+    hide();
+    glance->show();
+}
+
+void FrmCalendar::ShowList_Click()
+{
+    auto* list =
+        new FrmList(App.Astro, App.Cal, Here.CurLocName, App.Config.AmPm(), App.Messages, this);
+    hide();
+    list->show();
 }
