@@ -4,6 +4,7 @@
 #include "logdb/reportlines.h"
 #include "platform/busypointer.h"
 #include "platform/messageservice.h"
+#include "platform/printer.h"
 #include "platform/twips.h"
 
 #include <QFontMetrics>
@@ -11,14 +12,11 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QProgressBar>
 #include <QRegularExpression>
 #include <QVBoxLayout>
 
 #include <array>
-#include <memory>
 
 namespace {
 
@@ -32,20 +30,6 @@ constexpr std::array<std::pair<const char*, int>, 9> Headings = {{{"Item #", 5},
                                                                   {" Rating", 6},
                                                                   {"Moon     %   ", 5},
                                                                   {"Moon    Age   ", 6}}};
-
-// The printer the user chooses, or the PDF named by QUILLMERE_PRINT_PDF without asking.
-std::unique_ptr<QPrinter> ChoosePrinter(QWidget* parent)
-{
-    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    const QString pdf = qEnvironmentVariable("QUILLMERE_PRINT_PDF");
-    if (!pdf.isEmpty()) {
-        printer->setOutputFormat(QPrinter::PdfFormat);
-        printer->setOutputFileName(pdf);
-        return printer;
-    }
-    QPrintDialog dialog(printer.get(), parent);
-    return dialog.exec() == QDialog::Accepted ? std::move(printer) : nullptr;
-}
 
 } // namespace
 
@@ -131,15 +115,9 @@ void frmReport::SetText(const QString& text)
 
 void frmReport::mnuPrint_Click()
 {
-    SetText(Text + QString::fromStdString(ReportDashLine()) +
-            QString::fromLatin1(ReportLineEnd.data(), qsizetype(ReportLineEnd.size())));
-    const std::unique_ptr<QPrinter> printer = ChoosePrinter(this);
-    if (!printer)
-        return;
-    const BusyPointer busy;
-    if (!PaintReportPages(*printer, Text))
-        Ctx.Messages.MsgBox(QStringLiteral("The report could not be printed: the printer did "
-                                           "not accept the pages."));
+    SetText(TextForPrinting(Text));
+    PrintDocument(this, Ctx.Messages, QString::fromLatin1(ReportDocumentTitle),
+                  ReportDrawing(Text));
 }
 
 void frmReport::mnuExit_Click() { close(); }

@@ -4,13 +4,11 @@
 #include "logdb/reportlines.h"
 #include "logdb/storedforms.h"
 
-#include <QFileInfo>
 #include <QFontMetricsF>
-#include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPdfWriter>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -63,37 +61,32 @@ QString BuildReportText(DataControl& data, bool ampm, const std::function<void(i
     return QString::fromStdString(text);
 }
 
-bool PaintReportPages(QPagedPaintDevice& device, const QString& text)
+QString TextForPrinting(const QString& text)
 {
-    QPainter painter;
-    if (!painter.begin(&device))
-        return false;
-    painter.setFont(ReportFont());
-    const QRectF page = painter.viewport();
-    // The font's own spacing, unless 61 lines would then not fit the page.
-    const double step = std::min(QFontMetricsF(painter.font(), &device).lineSpacing(),
-                                 page.height() / LinesPerPage);
-    const double ascent = QFontMetricsF(painter.font(), &device).ascent();
-    bool first = true;
-    for (const auto& lines : ReportPages(text.toStdString())) {
-        if (!first && !device.newPage())
-            return false;
-        first = false;
-        double y = ascent;
-        for (const std::string& line : lines) {
-            painter.drawText(QPointF(0, y), QString::fromStdString(line));
+    return text + QString::fromStdString(ReportDashLine()) +
+           QString::fromLatin1(ReportLineEnd.data(), qsizetype(ReportLineEnd.size()));
+}
+
+PageDrawing ReportDrawing(const QString& text)
+{
+    const auto pages = std::make_shared<const std::vector<std::vector<std::string>>>(
+        ReportPages(text.toStdString()));
+    return [pages](QPainter& painter, const QRectF& area, int page) {
+        painter.setFont(ReportFont());
+        const QFontMetricsF metrics(painter.font(), painter.device());
+        // The font's own spacing, unless 61 lines would then not fit the page.
+        const double step = std::min(metrics.lineSpacing(), area.height() / LinesPerPage);
+        double y = area.top() + metrics.ascent();
+        for (const std::string& line : pages->at(std::size_t(page))) {
+            painter.drawText(QPointF(area.left(), y), QString::fromStdString(line));
             y += step;
         }
-    }
-    return painter.end();
+        return std::size_t(page) + 1 < pages->size();
+    };
 }
 
 QString PrintReportToPdf(const QString& path, const QString& text)
 {
-    QPdfWriter pdf(path);
-    pdf.setTitle(QStringLiteral("Quillmere DataBase Report"));
-    pdf.setCreator(QStringLiteral("Quillmere"));
-    if (!PaintReportPages(pdf, text) || !QFileInfo(path).isFile())
-        return QStringLiteral("The report could not be printed to %1.").arg(path);
-    return {};
+    return WritePdf(path, QString::fromLatin1(ReportDocumentTitle), DefaultPageLayout(),
+                    ReportDrawing(text));
 }

@@ -2,13 +2,14 @@
 // (a printer or a PDF writer). No widgets: the report window and the command line share it.
 #pragma once
 
+#include "platform/pages.h"
+
 #include <QFont>
 #include <QString>
 
 #include <functional>
 
 class DataControl;
-class QPagedPaintDevice;
 
 // The report text of the control's records from the first to the last, in record-source
 // order; progress is told the number of lines made so far. The last record stays current.
@@ -18,9 +19,13 @@ QString BuildReportText(DataControl& data, bool ampm,
 // Courier 10 (or the system's fixed-pitch font when there is no Courier).
 QFont ReportFont();
 
-// Draws the pages of the report text (ReportPages) in Courier 10, starting on the device's
-// current page; the device's document is finished when its painter ends.
-bool PaintReportPages(QPagedPaintDevice& device, const QString& text);
+// The report text as a print makes it: the text with a dash line and a line end appended.
+QString TextForPrinting(const QString& text);
 
-// Prints the report text to a PDF file; the words of the failure, or nothing.
+// The pages of the report text (ReportPages) for the printer layer, in Courier 10.
+PageDrawing ReportDrawing(const QString& text);
+
+// Writes the pages of the report text to a PDF file; the words of the failure, or nothing.
 QString PrintReportToPdf(const QString& path, const QString& text);
+
+inline constexpr auto ReportDocumentTitle = "Quillmere DataBase Report";
