@@ -154,6 +154,16 @@ TEST(QueryBuilderWindow, MessagesForMissingAndRefusedValues)
 TEST(QueryBuilderWindow, EmptySelectionShowsAnEmptyBrowser)
 {
     Browser w(SharedYear());
+    // A click on the waxing note checks the moon condition of the day shown (1 January).
+    const bool waxing =
+        PlainColumn(SharedYear(), "SELECT Waxing FROM table1 WHERE DBID = 1").at(0).toInt() == 1;
+    w->Check1[waxing ? 11 : 10]->setChecked(true);
+    w->Label7_Click();
+    EXPECT_EQ(w->Check1[10]->isChecked(), waxing);
+    EXPECT_EQ(w->Check1[11]->isChecked(), !waxing);
+    w->Command3_Click();
+    EXPECT_FALSE(w->Check1[10]->isChecked() || w->Check1[11]->isChecked());
+
     w->Check1[6]->setChecked(true);
     w->Check1[7]->setChecked(true);
     w->cmdSelect_Click();
