@@ -5,6 +5,7 @@
 #include "logdb/databar.h"
 #include "logdb/filldata.h"
 #include "logdb/querybuilder.h"
+#include "logdb/queryrun.h"
 #include "logdb/storedforms.h"
 #include "platform/busypointer.h"
 #include "platform/messageservice.h"
@@ -350,7 +351,7 @@ void frmTable1::Form_Load()
     MonthList->addItems(NumberTexts(1, 12));
     DOWList->addItems(NumberTexts(1, 7) << QStringLiteral("Sat-Sun") << QStringLiteral("Fri-Sun"));
     for (const Ordering& order : Orderings())
-        SortByCombo->addItem(QString::fromUtf8(order.Entry.data(), qsizetype(order.Entry.size())));
+        SortByCombo->addItem(QStringOf(order.Entry));
     const QueryForm start;
     ShowQueryValues(start);
     BindControls();

@@ -8,6 +8,7 @@
 #include "logdb/frmtable2.h"
 #include "logdb/querybuilder.h"
 #include "logdb/queryrun.h"
+#include "logdb/storedforms.h"
 #include "platform/messageservice.h"
 
 #include <QCheckBox>
@@ -58,15 +59,6 @@ QPushButton* Button(const QString& text, const QString& tip, const QString& name
     return button;
 }
 
-QString Text(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
-}
-
-const std::array<const char*, 12> MonthCaptions = {"January",   "February", "March",    "April",
-                                                   "May",       "June",     "July",     "August",
-                                                   "September", "October",  "November", "December"};
-
 } // namespace
 
 QWidget* frmTable1::BuildQueryPanel()
@@ -91,13 +83,13 @@ QWidget* frmTable1::BuildQueryPanel()
     const auto& conditions = QueryConditions();
     for (std::size_t i = 0; i < conditions.size(); ++i) {
         const int row = int(i);
-        Check1[i] = new QCheckBox(Text(conditions[i].Caption), panel);
+        Check1[i] = new QCheckBox(QStringOf(conditions[i].Caption), panel);
         Check1[i]->setObjectName(QStringLiteral("Check1%1").arg(i));
         grid->addWidget(Check1[i], row, 0);
         for (std::size_t k = 0; k < conditions[i].Boxes.size(); ++k)
             grid->addWidget(ValueBox(conditions[i].Boxes[k]), row, 1 + int(k));
         if (!conditions[i].Hint.empty())
-            grid->addWidget(new QLabel(Text(conditions[i].Hint), panel), row, 3);
+            grid->addWidget(new QLabel(QStringOf(conditions[i].Hint), panel), row, 3);
     }
     const int rows = int(conditions.size());
     SortByCombo = new QComboBox(panel);
@@ -163,12 +155,15 @@ void frmTable1::BuildQueryMenus(QMenuBar* bar)
     connect(mnutableview, &QAction::triggered, this, &frmTable1::mnutableview_Click);
     QMenu* mnuMonth = bar->addMenu(QStringLiteral("Months"));
     for (std::size_t k = 0; k < mnuMonths.size(); ++k) {
-        mnuMonths[k] = mnuMonth->addAction(QString::fromLatin1(MonthCaptions[k]));
+        // "January" to "December", as the browser writes month names.
+        const auto name = FormatStored(
+            QStringLiteral("2001-%1-01").arg(k + 1, 2, 10, QChar('0')).toStdString(), "mmmm");
+        mnuMonths[k] = mnuMonth->addAction(QString::fromStdString(name.value_or("")));
         connect(mnuMonths[k], &QAction::triggered, this, [this, k] { mnuMonths_Click(int(k)); });
     }
     QMenu* mnuYear = bar->addMenu(QStringLiteral("Days"));
     for (std::size_t k = 0; k < mnuYears.size(); ++k) {
-        mnuYears[k] = mnuYear->addAction(Text(DaySelections()[k].Caption));
+        mnuYears[k] = mnuYear->addAction(QStringOf(DaySelections()[k].Caption));
         connect(mnuYears[k], &QAction::triggered, this, [this, k] { mnuYears_Click(int(k)); });
     }
 }
@@ -251,7 +246,7 @@ void frmTable1::mnuYears_Click(int index)
 void frmTable1::Command1_Click()
 {
     Data1_Validate();
-    ShowSource(Text(AllRecordsSource));
+    ShowSource(QStringOf(AllRecordsSource));
     if (const DbResult copied = CopyAllRecordsToWorkTable(Ctx.State.DBPath); !copied)
         Data1_Error(copied.Message);
 }

@@ -61,6 +61,17 @@ QString BuildReportText(DataControl& data, bool ampm, const std::function<void(i
     return QString::fromStdString(text);
 }
 
+DbResult ReadReportText(const QString& path, const QString& recordSource, bool ampm, QString& text)
+{
+    DataControl data;
+    data.SetDatabaseName(path);
+    data.SetRecordSource(recordSource);
+    if (DbResult read = data.Refresh(); !read)
+        return read;
+    text = BuildReportText(data, ampm);
+    return DbResult::Success();
+}
+
 QString TextForPrinting(const QString& text)
 {
     return text + QString::fromStdString(ReportDashLine()) +

@@ -2,6 +2,7 @@
 // (a printer or a PDF writer). No widgets: the report window and the command line share it.
 #pragma once
 
+#include "logdb/database.h"
 #include "platform/pages.h"
 
 #include <QFont>
@@ -18,6 +19,9 @@ QString BuildReportText(DataControl& data, bool ampm,
 
 // Courier 10 (or the system's fixed-pitch font when there is no Courier).
 QFont ReportFont();
+
+// The report text of the records of a record source on the file.
+DbResult ReadReportText(const QString& path, const QString& recordSource, bool ampm, QString& text);
 
 // The report text as a print makes it: the text with a dash line and a line end appended.
 QString TextForPrinting(const QString& text);

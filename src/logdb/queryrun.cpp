@@ -13,11 +13,6 @@ DbResult Remake(Database& db, const QString& table, const QString& statement)
     return db.Execute(statement);
 }
 
-QString Sql(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
-}
-
 } // namespace
 
 QStringList RunSelectionSteps(const QString& path, const std::vector<std::string>& steps)
@@ -32,8 +27,8 @@ QStringList RunSelectionSteps(const QString& path, const std::vector<std::string
     if (!chain.exec(QStringLiteral("SAVEPOINT selection")))
         return {ErrorText(chain.lastError())};
     for (const std::string& step : steps) {
-        for (const DbResult& made : {Remake(db, QStringLiteral("Table2"), Sql(step)),
-                                     Remake(db, QStringLiteral("Table3"), Sql(CopyStep))}) {
+        for (const DbResult& made : {Remake(db, QStringLiteral("Table2"), QStringOf(step)),
+                                     Remake(db, QStringLiteral("Table3"), QStringOf(CopyStep))}) {
             if (!made)
                 refused << made.Message;
         }
@@ -47,7 +42,7 @@ DbResult CopyAllRecordsToWorkTable(const QString& path)
 {
     Database db;
     const DbResult opened = db.Open(path);
-    return opened ? Remake(db, QStringLiteral("Table3"), Sql(AllRecordsStep)) : opened;
+    return opened ? Remake(db, QStringLiteral("Table3"), QStringOf(AllRecordsStep)) : opened;
 }
 
 Selection SelectDataWhere(const QString& path, const QueryForm& form, int sortIndex)
@@ -60,7 +55,7 @@ Selection SelectDataWhere(const QString& path, const QueryForm& form, int sortIn
     }
     selection.Refused = RunSelectionSteps(path, plan.Steps);
     const Ordering& order = OrderingOf(sortIndex);
-    selection.RecordSource = Sql(order.RecordSource);
-    selection.Caption = Sql(order.Caption);
+    selection.RecordSource = QStringOf(order.RecordSource);
+    selection.Caption = QStringOf(order.Caption);
     return selection;
 }

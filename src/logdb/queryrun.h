@@ -6,8 +6,16 @@
 
 #include <QStringList>
 
+#include <string_view>
+
 #include <string>
 #include <vector>
+
+// The query builder's texts (statements, captions) for Qt.
+inline QString QStringOf(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
 
 // Runs each step on the file: Table2 is dropped and made by the step, then Table3 is dropped
 // and made as a copy of Table2, so Table3 holds the records that passed every step so far.

@@ -69,3 +69,14 @@ std::vector<std::vector<std::string>> ReportPages(std::string_view text)
     }
     return pages;
 }
+
+std::string PagesAsText(const std::vector<std::vector<std::string>>& pages)
+{
+    std::string text;
+    for (std::size_t p = 0; p < pages.size(); ++p) {
+        text += p > 0 ? "\f" : "";
+        for (const std::string& line : pages[p])
+            text += line + "\n";
+    }
+    return text;
+}

@@ -37,3 +37,6 @@ std::string ReportDashLine();
 // dash line; every line of the text that ends in a line end follows, and a new page starts
 // as soon as a page's count, which starts at 3 for those three lines, passes 60.
 std::vector<std::vector<std::string>> ReportPages(std::string_view text);
+
+// The pages as plain text: their lines ended by line feeds, a form feed between pages.
+std::string PagesAsText(const std::vector<std::vector<std::string>>& pages);

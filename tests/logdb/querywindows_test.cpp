@@ -183,7 +183,10 @@ TEST(QueryBuilderWindow, MonthsAndDaysMenus)
     Browser w(SharedYear());
     w->Check1[6]->setChecked(true);
     w->Text6[0]->setText("12");
-    w->mnuMonths[1]->trigger(); // February
+    EXPECT_EQ(w->mnuMonths[0]->text(), "January");
+    EXPECT_EQ(w->mnuMonths[11]->text(), "December");
+    EXPECT_EQ(w->mnuMonths[1]->text(), "February");
+    w->mnuMonths[1]->trigger();
     EXPECT_EQ(w.ShownIds(), Plain("Month = 2"));
     EXPECT_EQ(w.ShownIds().size(), 29u);
     EXPECT_FALSE(w->Check1[6]->isChecked());

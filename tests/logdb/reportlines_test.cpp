@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr double March10 = 45361.0; // date serial of 10 March 2024
@@ -84,4 +86,11 @@ TEST(ReportPaging, FiftyEightLinesAPageAfterTheThreeTitleLines)
     ASSERT_EQ(full.size(), 3u);
     EXPECT_EQ(full[1].back(), "line 116");
     EXPECT_EQ(full[2].size(), 3u);
+
+    // As plain text: a form feed before each later page.
+    const std::string text = PagesAsText(two);
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\f'), 1);
+    EXPECT_EQ(text.substr(text.find('\f')), "\fQuillmere DataBase Report - Page # 2\n" +
+                                                std::string(ReportHeading) + "\n" +
+                                                std::string(76, '-') + "\nline 59\n");
 }
