@@ -116,6 +116,7 @@ TEST(EditSafety, TakenWithHoldsWhatItsColumnHoldsAndDaylightShowsFifteenDigits)
     QTest::keyClicks(w.txtFields[18], QString(900, QChar('w')));
     EXPECT_EQ(w.txtFields[18]->text().size(), 255);
     EXPECT_TRUE(w.txtFields[18]->toolTip().contains("255"));
+    Screenshot(w, "frmTable1-editing");
     QTest::mouseClick(w.cmdUpdate, Qt::LeftButton);
     EXPECT_EQ(StoredField(env.State.DBPath, "TakenWith"), QString(255, QChar('w')));
 }
