@@ -7,25 +7,6 @@
 #include <array>
 #include <ostream>
 
-const char* const QueryOptionsHelp =
-    R"(Conditions (query and report; each narrows the days, in this order):
-  --months M-M           months between, 1-12 (default: the whole year)
-  --major1 T-T           first major between two clock times, "5:00 PM-9:00 PM"
-  --weekdays D-D         days of the week between, sun..sat or 1-7 ("mon-fri");
-                         sat-sun and fri-sun are the weekends
-  --moon-age N-N         moon age between, 0-29 days
-  --illumination N-N     moon illumination between, in percent
-  --daylight N           at least N hours of daylight
-  --best                 best fishing days
-  --very-good            very good fishing days
-  --either-major T-T     either major between two clock times
-  --taken N              total taken at least N
-  --waxing, --waning     the moon waxing / waning
-  --perigee              the day of lunar perigee
-  --rated                every rated day
-  --sort S               date (default), major1, weekday, rating or taken
-)";
-
 namespace {
 
 struct RangeOption {

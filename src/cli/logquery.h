@@ -15,8 +15,6 @@
 #include <string>
 #include <vector>
 
-extern const char* const QueryOptionsHelp;
-
 // The condition and order options, each taking a value unless it is a flag.
 const std::vector<std::string>& QueryOptionNames();
 bool IsQueryFlag(const std::string& option);

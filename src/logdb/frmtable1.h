@@ -44,8 +44,9 @@ public:
     void mnuExit_Click();
     // A click on the waxing note checks the matching moon condition of the query builder.
     void Label7_Click();
-    // Before the records are replaced: an entry being edited is saved, not dropped.
-    void Data1_Validate();
+    // Before the records are replaced: an entry being edited is saved or discarded as the
+    // user answers; false when the user keeps editing.
+    bool Data1_Validate();
 
     // The query builder and the windows over the selection (frmtable1query.cpp).
     void cmdSelect_Click();
@@ -66,6 +67,11 @@ public:
     void TimeCombo_Click();
     // Shows TimeCombo over Text1 (1), Text2 (2), Text6(10) (3) or Text6(11) (4).
     void Calling_TimeCombo(int which);
+
+    // Every way out of the window while a record is being edited comes here first: asks
+    // "Save changes to this day?" and saves or discards the edit. False when the user chose
+    // Cancel or the save failed; the edit then stays open.
+    bool ConfirmLeaveEditing();
 
     DataControl Data1;
     DataBar* Data1Bar = nullptr;            // Data1's arrows and record counter
@@ -112,6 +118,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void reject() override; // Escape
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -119,6 +126,8 @@ private:
     QWidget* BuildDayPanel();
     QWidget* BuildCatchPanel();
     void BindControls();
+    // Makes the owner's closing and the program's end ask about an open edit too.
+    void WatchTheWayOut();
     void SetBrowsing(bool browsing);
     // Reposition's steps; each leaves its display alone when the record lacks its column.
     void ShowTimes();
@@ -138,6 +147,7 @@ private:
     LogContext Ctx;
     std::vector<std::unique_ptr<BoundControl>> Bindings;
     bool FirstActivation = true;
-    int TimeComboServes = 1; // the box TimeCombo fills, 1 to 4
-    int PickerBox = 0;       // the Text6 box MonthList, DOWList or Combo2 fills
+    int TimeComboServes = 1;  // the box TimeCombo fills, 1 to 4
+    int PickerBox = 0;        // the Text6 box MonthList, DOWList or Combo2 fills
+    QWidget* Owner = nullptr; // the window this one belongs to, whose closing asks too
 };

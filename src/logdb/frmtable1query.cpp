@@ -201,15 +201,12 @@ void frmTable1::ShowSource(const QString& recordSource)
         Data1_Error(shown.Message);
 }
 
-void frmTable1::Data1_Validate()
-{
-    if (Data1.EditMode() != DataControl::EditState::None)
-        cmdUpdate_Click();
-}
+bool frmTable1::Data1_Validate() { return ConfirmLeaveEditing(); }
 
 void frmTable1::cmdSelect_Click()
 {
-    Data1_Validate();
+    if (!Data1_Validate())
+        return;
     const Selection selection = SelectDataWhere(Ctx.State.DBPath, QueryFormOfBoxes(), SortIndex);
     if (!selection.Error.isEmpty()) {
         Ctx.Messages.MsgBox(selection.Error);
@@ -228,7 +225,8 @@ void frmTable1::SortByCombo_Click() { SortIndex = std::int16_t(SortByCombo->curr
 
 void frmTable1::mnuMonths_Click(int index)
 {
-    Data1_Validate();
+    if (!Data1_Validate())
+        return;
     Command2_Click();
     Command3_Click();
     ShowSource(QString::fromStdString(MonthSource(index + 1)));
@@ -239,13 +237,15 @@ void frmTable1::mnuMonths_Click(int index)
 
 void frmTable1::mnuYears_Click(int index)
 {
-    Data1_Validate();
+    if (!Data1_Validate())
+        return;
     ShowSource(QString::fromStdString(DaySelections()[std::size_t(index)].RecordSource));
 }
 
 void frmTable1::Command1_Click()
 {
-    Data1_Validate();
+    if (!Data1_Validate())
+        return;
     ShowSource(QStringOf(AllRecordsSource));
     if (const DbResult copied = CopyAllRecordsToWorkTable(Ctx.State.DBPath); !copied)
         Data1_Error(copied.Message);
@@ -267,7 +267,8 @@ void frmTable1::Command3_Click()
 
 void frmTable1::Command4_Click()
 {
-    Data1_Validate();
+    if (!Data1_Validate())
+        return;
     frmReport report(Ctx, Data1.RecordSource(), Ctx.Engine.Site.AMPM, this);
     report.exec();
     Form_Activate();

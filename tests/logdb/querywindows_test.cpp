@@ -233,11 +233,18 @@ TEST(QueryBuilderWindow, CatchEnteredOnASelectionReachesTheLog)
     w->Text6[9]->setText("42");
     w->cmdSelect_Click();
     EXPECT_EQ(w.ShownIds(), std::vector<int>{id});
-    // An entry left in the editing state is saved before a menu replaces the records.
+    // An entry left in the editing state: Cancel keeps the records and the edit, Save saves
+    // it before a menu replaces the records.
     w->cmdEdit_Click();
     w->txtFields[18]->setText("spinner");
     w->txtFields[18]->setModified(true);
+    w.Env.Answers = {MsgResult::Cancel, MsgResult::Save};
     w->mnuYears[1]->trigger();
+    EXPECT_EQ(w.ShownIds(), std::vector<int>{id});
+    EXPECT_FALSE(w->cmdEdit->isEnabled());
+    w->mnuYears[1]->trigger();
+    EXPECT_EQ(w.Env.ShownTexts(),
+              (QStringList{"Save changes to this day?", "Save changes to this day?"}));
     EXPECT_EQ(
         PlainColumn(SharedYear(), QString("SELECT TakenWith FROM table1 WHERE DBID = %1").arg(id))
             .at(0)
