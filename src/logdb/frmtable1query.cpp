@@ -77,6 +77,13 @@ QWidget* frmTable1::BuildQueryPanel()
     Text2->setObjectName(QStringLiteral("Text2"));
     for (QLineEdit* clock : {Text1, Text2})
         clock->setFixedWidth(84);
+    // Typed clock times are shown as the list writes them ("7:30 PM").
+    for (QLineEdit* clock : {Text1, Text2, Text6[10], Text6[11]}) {
+        connect(clock, &QLineEdit::editingFinished, this, [clock] {
+            if (const auto shown = ClockBoxText(clock->text().toStdString()))
+                clock->setText(QString::fromStdString(*shown));
+        });
+    }
     OnClick(Text1, [this] { Text1_Click(); });
     OnClick(Text2, [this] { Text2_Click(); });
 

@@ -197,6 +197,8 @@ std::string ConditionText(const QueryForm& form, int i, std::string& error, bool
 
 } // namespace
 
+std::optional<std::string> ClockBoxText(std::string_view typed) { return ClockTime(typed); }
+
 QueryForm::QueryForm()
 {
     Values[1] = "1";

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,10 @@ std::string PickedNumber(int box, int chosen);
 // 3 or 4: the picked box takes the entry and the other box follows so that the pair stays a
 // range from first to second, or names the same weekend in both.
 void PickDayOfWeek(QueryForm& form, int box, int entry);
+
+// A clock box's text in the form the boxes display ("07:30 pm" -> "7:30 PM"); nothing when
+// it is not a clock time.
+std::optional<std::string> ClockBoxText(std::string_view typed);
 
 struct SelectionPlan {
     std::string Error;              // what the user must correct; no step runs when set

@@ -112,6 +112,10 @@ TEST(QueryBuilderWindow, ConditionsPickersAndOrderInTheBrowser)
     w->TimeCombo->setCurrentIndex(0);
     w->TimeCombo_Click();
     EXPECT_EQ(w->Text6[11]->text(), "12:00 AM");
+    w->Text1->setText("07:30pm");
+    emit w->Text1->editingFinished();
+    EXPECT_EQ(w->Text1->text(), "7:30 PM");
+    w->Text1->clear();
 
     // Weekend days of the waxing moon from April to June, sorted by rating.
     w->Check1[2]->setChecked(true);
