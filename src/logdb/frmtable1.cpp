@@ -4,6 +4,7 @@
 #include "astro/moonpicture.h"
 #include "logdb/databar.h"
 #include "logdb/filldata.h"
+#include "logdb/frmstatistics.h"
 #include "logdb/storedforms.h"
 #include "platform/busypointer.h"
 #include "platform/messageservice.h"
@@ -132,6 +133,7 @@ void frmTable1::BuildControls()
     mnuExit = bar->addAction(QStringLiteral("Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
     connect(mnuExit, &QAction::triggered, this, &frmTable1::mnuExit_Click);
+    bar->addAction("Statistics", this, [this] { ShowStatistics(Ctx, Data1.DatabaseName(), this); });
 
     Data1Bar = new DataBar(Data1, this);
     auto* layout = new QGridLayout(this);
