@@ -2,15 +2,19 @@
 
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
+#include "logdb/backups.h"
 #include "logdb/filldata.h"
+#include "logdb/frmbackups.h"
 #include "logdb/frmtable1.h"
 #include "logdb/logfiles.h"
 #include "platform/busypointer.h"
+#include "platform/clock.h"
 #include "platform/messageservice.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QListWidget>
 #include <QProgressBar>
@@ -40,6 +44,10 @@ FrmSelectDB::FrmSelectDB(const LogContext& context, QWidget* parent) : QDialog(p
         browser.Data1.SetDatabaseName(path);
         browser.exec();
     };
+    ShowBackups = [this](const QString& path) {
+        FrmBackups backups(Ctx, path, this);
+        backups.exec();
+    };
     Form_Load();
 }
 
@@ -55,6 +63,8 @@ void FrmSelectDB::BuildControls()
                           QStringLiteral(" Delete Selected File "), this);
     CmdCompact = Button(QStringLiteral("Compact"), QStringLiteral("CmdCompact"), {}, this);
     CmdRepair = Button(QStringLiteral("Repair"), QStringLiteral("CmdRepair"), {}, this);
+    CmdBackups = Button(QStringLiteral("Backups"), QStringLiteral("CmdBackups"),
+                        QStringLiteral(" Restore an Earlier Copy of the Selected File "), this);
     CloseSelectDB = Button(QStringLiteral("Close"), QStringLiteral("CloseSelectDB"),
                            QStringLiteral(" Close and Exit "), this);
     PBar1 = new QProgressBar(this);
@@ -62,13 +72,13 @@ void FrmSelectDB::BuildControls()
     PBar1->hide();
 
     auto* grid = new QGridLayout(this);
-    grid->addWidget(DBFiles, 0, 0, 7, 1);
+    grid->addWidget(DBFiles, 0, 0, 8, 1);
     int row = 0;
-    for (QPushButton* b : {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair})
+    for (QPushButton* b : {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair, CmdBackups})
         grid->addWidget(b, row++, 1);
     grid->setRowStretch(row++, 1);
     grid->addWidget(CloseSelectDB, row, 1);
-    grid->addWidget(PBar1, 7, 0, 1, 2);
+    grid->addWidget(PBar1, 8, 0, 1, 2);
     resize(300, 260);
 
     connect(DBFiles, &QListWidget::itemSelectionChanged, this, &FrmSelectDB::DBFiles_Click);
@@ -79,6 +89,7 @@ void FrmSelectDB::BuildControls()
     connect(CmdCompact, &QPushButton::clicked, this, &FrmSelectDB::CmdCompact_Click);
     connect(CmdRepair, &QPushButton::clicked, this, &FrmSelectDB::CmdRepair_Click);
     connect(CloseSelectDB, &QPushButton::clicked, this, &FrmSelectDB::CloseSelectDB_Click);
+    connect(CmdBackups, &QPushButton::clicked, this, &FrmSelectDB::CmdBackups_Click);
 }
 
 void FrmSelectDB::Form_Load()
@@ -124,8 +135,19 @@ void FrmSelectDB::CloseAndBrowse()
 {
     close();
     // With no year file chosen yet, or one deleted since, there is nothing to browse.
-    if (!Ctx.State.DBPath.isEmpty() && QFile::exists(Ctx.State.DBPath))
+    if (!Ctx.State.DBPath.isEmpty() && QFile::exists(Ctx.State.DBPath)) {
+        KeepBackup(Ctx.State.DBPath);
         ShowBrowser(Ctx.State.DBPath);
+    }
+}
+
+void FrmSelectDB::KeepBackup(const QString& path)
+{
+    if (const DbResult kept = BackUpIfChanged(path, Clock::Now()); !kept)
+        Ctx.Messages.MsgBox(
+            QStringLiteral("No backup of %1 could be made: %2\nThe file opens as it is.")
+                .arg(QFileInfo(path).fileName(), kept.Message),
+            MsgButtons::OK, QStringLiteral("Backups"), MsgIcon::Exclamation);
 }
 
 void FrmSelectDB::CmdCreate_Click()
@@ -228,3 +250,9 @@ void FrmSelectDB::CmdRepair_Click()
 }
 
 void FrmSelectDB::CloseSelectDB_Click() { close(); }
+
+void FrmSelectDB::CmdBackups_Click()
+{
+    if (const QString path = SelectedOrComplain(); !path.isEmpty())
+        ShowBackups(path);
+}

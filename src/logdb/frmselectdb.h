@@ -31,6 +31,7 @@ public:
     void CmdCompact_Click();
     void CmdRepair_Click();
     void CloseSelectDB_Click();
+    void CmdBackups_Click();
 
     // Creates and fills the year's file, or leaves an existing one as it is. False when the
     // fill failed; the unfinished file is then gone and DBPath empty.
@@ -38,6 +39,8 @@ public:
 
     // Shows the record browser on a year file, modally; tests put their own in its place.
     std::function<void(const QString& path)> ShowBrowser;
+    // Shows the backups of a year file, modally.
+    std::function<void(const QString& path)> ShowBackups;
 
     QListWidget* DBFiles = nullptr;
     QPushButton* OpenDBFile = nullptr;
@@ -46,6 +49,7 @@ public:
     QPushButton* CmdCompact = nullptr;
     QPushButton* CmdRepair = nullptr;
     QPushButton* CloseSelectDB = nullptr;
+    QPushButton* CmdBackups = nullptr;
     QProgressBar* PBar1 = nullptr;
     DataControl Data0;
 
@@ -58,6 +62,8 @@ private:
     // Closes this window and browses DBPath when that file is there.
     void CloseAndBrowse();
     bool Fill(std::int16_t year);
+    // A copy of the year file before it is edited, when it changed since the last one.
+    void KeepBackup(const QString& path);
 
     LogContext Ctx;
 };
