@@ -6,6 +6,7 @@
 #include "logdb/filldata.h"
 #include "logdb/frmbackups.h"
 #include "logdb/frmtable1.h"
+#include "logdb/importcatches.h"
 #include "logdb/logfiles.h"
 #include "platform/busypointer.h"
 #include "platform/clock.h"
@@ -14,6 +15,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QListWidget>
@@ -48,6 +50,10 @@ FrmSelectDB::FrmSelectDB(const LogContext& context, QWidget* parent) : QDialog(p
         FrmBackups backups(Ctx, path, this);
         backups.exec();
     };
+    ChooseImportFile = [this] {
+        return QFileDialog::getOpenFileName(this, QStringLiteral("Import Catches"), QString(),
+                                            QStringLiteral("CSV files (*.csv);;All files (*)"));
+    };
     Form_Load();
 }
 
@@ -63,6 +69,9 @@ void FrmSelectDB::BuildControls()
                           QStringLiteral(" Delete Selected File "), this);
     CmdCompact = Button(QStringLiteral("Compact"), QStringLiteral("CmdCompact"), {}, this);
     CmdRepair = Button(QStringLiteral("Repair"), QStringLiteral("CmdRepair"), {}, this);
+    CmdImport =
+        Button(QStringLiteral("Import"), QStringLiteral("CmdImport"),
+               QStringLiteral(" Import Catches from a CSV File into the Selected Year "), this);
     CmdBackups = Button(QStringLiteral("Backups"), QStringLiteral("CmdBackups"),
                         QStringLiteral(" Restore an Earlier Copy of the Selected File "), this);
     CloseSelectDB = Button(QStringLiteral("Close"), QStringLiteral("CloseSelectDB"),
@@ -72,14 +81,15 @@ void FrmSelectDB::BuildControls()
     PBar1->hide();
 
     auto* grid = new QGridLayout(this);
-    grid->addWidget(DBFiles, 0, 0, 8, 1);
+    grid->addWidget(DBFiles, 0, 0, 9, 1);
     int row = 0;
-    for (QPushButton* b : {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair, CmdBackups})
+    for (QPushButton* b :
+         {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair, CmdImport, CmdBackups})
         grid->addWidget(b, row++, 1);
     grid->setRowStretch(row++, 1);
     grid->addWidget(CloseSelectDB, row, 1);
-    grid->addWidget(PBar1, 8, 0, 1, 2);
-    resize(300, 260);
+    grid->addWidget(PBar1, 9, 0, 1, 2);
+    resize(300, 300);
 
     connect(DBFiles, &QListWidget::itemSelectionChanged, this, &FrmSelectDB::DBFiles_Click);
     connect(DBFiles, &QListWidget::itemDoubleClicked, this, &FrmSelectDB::DBFiles_DblClick);
@@ -90,6 +100,7 @@ void FrmSelectDB::BuildControls()
     connect(CmdRepair, &QPushButton::clicked, this, &FrmSelectDB::CmdRepair_Click);
     connect(CloseSelectDB, &QPushButton::clicked, this, &FrmSelectDB::CloseSelectDB_Click);
     connect(CmdBackups, &QPushButton::clicked, this, &FrmSelectDB::CmdBackups_Click);
+    connect(CmdImport, &QPushButton::clicked, this, &FrmSelectDB::CmdImport_Click);
 }
 
 void FrmSelectDB::Form_Load()
@@ -255,4 +266,13 @@ void FrmSelectDB::CmdBackups_Click()
 {
     if (const QString path = SelectedOrComplain(); !path.isEmpty())
         ShowBackups(path);
+}
+
+void FrmSelectDB::CmdImport_Click()
+{
+    const QString path = SelectedOrComplain();
+    if (path.isEmpty())
+        return;
+    if (const QString csv = ChooseImportFile(); !csv.isEmpty())
+        ImportCatches(Ctx, path, csv);
 }

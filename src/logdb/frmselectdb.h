@@ -32,6 +32,7 @@ public:
     void CmdRepair_Click();
     void CloseSelectDB_Click();
     void CmdBackups_Click();
+    void CmdImport_Click();
 
     // Creates and fills the year's file, or leaves an existing one as it is. False when the
     // fill failed; the unfinished file is then gone and DBPath empty.
@@ -41,6 +42,8 @@ public:
     std::function<void(const QString& path)> ShowBrowser;
     // Shows the backups of a year file, modally.
     std::function<void(const QString& path)> ShowBackups;
+    // Asks for the CSV file to import; empty when the user cancels.
+    std::function<QString()> ChooseImportFile;
 
     QListWidget* DBFiles = nullptr;
     QPushButton* OpenDBFile = nullptr;
@@ -50,6 +53,7 @@ public:
     QPushButton* CmdRepair = nullptr;
     QPushButton* CloseSelectDB = nullptr;
     QPushButton* CmdBackups = nullptr;
+    QPushButton* CmdImport = nullptr;
     QProgressBar* PBar1 = nullptr;
     DataControl Data0;
 
