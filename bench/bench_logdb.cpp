@@ -1,6 +1,7 @@
 // Cost of filling a year file of the fishing log: a year of day forecasts saved in one
-// transaction, the computing part alone, and the whole Create (copy of the template, the year
-// tables and the fill).
+// transaction, the computing part alone, the whole Create as the program makes it (template
+// copied under a temporary name, year tables, fill, sync, rename into place), and compacting
+// a filled year (compacted copy synced, the old file copied to .BAK, renamed into place).
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
 #include "logdb/datacontrol.h"
@@ -66,19 +67,40 @@ void BM_CreateAndFillYear(benchmark::State& state)
     CreateTemplateFile(QDir(folder.path()).filePath(TemplateFileName));
     DataControl data0;
     for (auto _ : state) {
+        state.PauseTiming();
+        DeleteYearFile(QDir(folder.path()).filePath(YearFileName(2024)));
+        state.ResumeTiming();
         Astronomy engine = Pittsburgh();
-        FreshYearFile(folder.path(), data0);
         const Calendar cal = YearCalendar(engine, 2024, 0);
-        if (!FillYear(engine, cal, -60, data0))
-            state.SkipWithError("fill failed");
+        const CreateYearResult created =
+            CreateYearFile(folder.path(), 2024, [&](const QString& path) {
+                return FillYearFile(data0, path, engine, cal, -60);
+            });
+        if (created.Outcome != CreateYearResult::Status::Created)
+            state.SkipWithError("create failed");
     }
 }
 
+void BM_CompactYear(benchmark::State& state)
+{
+    QTemporaryDir folder;
+    Astronomy engine = Pittsburgh();
+    const Calendar cal = YearCalendar(engine, 2024, 0);
+    DataControl data0;
+    const CreateYearResult created = CreateYearFile(folder.path(), 2024, [&](const QString& path) {
+        return FillYearFile(data0, path, engine, cal, -60);
+    });
+    for (auto _ : state) {
+        if (!CompactDB(created.Path))
+            state.SkipWithError("compaction failed");
+    }
+}
 } // namespace
 
 BENCHMARK(BM_FillYear)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_YearOfDayRecords)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_CreateAndFillYear)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_CompactYear)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv)
 {

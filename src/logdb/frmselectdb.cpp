@@ -105,7 +105,9 @@ void FrmSelectDB::BuildControls()
 
 void FrmSelectDB::Form_Load()
 {
+    CleanLeftovers(Ctx.Folder);
     RefreshList();
+    OfferRestore(0);
     OpenDBFile->setEnabled(true);
 }
 
@@ -180,47 +182,65 @@ bool FrmSelectDB::CreateDB(std::int16_t year)
                             MsgButtons::OKCancel);
         return true;
     }
-    const CreateYearResult created = CreateYearFile(Ctx.Folder, year);
-    if (created.Outcome != CreateYearResult::Status::Created) {
-        Ctx.Messages.MsgBox(
-            QStringLiteral("The DataBase for %1 could not be created: %2").arg(Y, created.Message),
-            MsgButtons::OK, QStringLiteral("Create DataBase"), MsgIcon::Critical);
-        Ctx.State.DBPath.clear();
-        return false;
+    if (OfferRestore(year))
+        return true;
+    CreateYearResult created;
+    {
+        const BusyPointer busy;
+        created = CreateYearFile(Ctx.Folder, year,
+                                 [this, year](const QString& path) { return Fill(path, year); });
+        PBar1->hide();
     }
-    return Fill(year);
-}
-
-bool FrmSelectDB::Fill(std::int16_t year)
-{
-    const BusyPointer busy;
-    Data0.SetDatabaseName(Ctx.State.DBPath);
-    Data0.SetRecordSource(QStringLiteral("select * from table1"));
-    DbResult filled = Data0.Refresh();
-    if (filled) {
-        Astronomy engine = Ctx.Engine;
-        const Calendar cal = YearCalendar(engine, year, Ctx.SouthernHemisphere);
-        PBar1->setRange(1, cal.YearSlots - 1);
-        PBar1->show();
-        filled = FillYear(engine, cal, Ctx.DaylightBias, Data0,
-                          [this](int day, int) { PBar1->setValue(day); });
-    }
-    Data0.Close();
-    PBar1->hide();
     if (parentWidget())
         parentWidget()->show();
-    if (!filled) {
-        // The new file holds nothing of the angler's; without it Create works again.
-        QFile::remove(Ctx.State.DBPath);
-        Ctx.State.DBPath.clear();
-        Ctx.Messages.MsgBox(QStringLiteral("The DataBase for %1 could not be filled: %2\n"
-                                           "No file was kept; use Create to try again.")
-                                .arg(year)
-                                .arg(filled.Message),
-                            MsgButtons::OK, QStringLiteral("Create DataBase"), MsgIcon::Critical);
-    }
     RefreshList();
-    return bool(filled);
+    if (created.Outcome == CreateYearResult::Status::Failed) {
+        Ctx.State.DBPath.clear();
+        Ctx.Messages.MsgBox(QStringLiteral("The DataBase for %1 could not be created: %2\n"
+                                           "No file was kept; use Create to try again.")
+                                .arg(Y, created.Message),
+                            MsgButtons::OK, QStringLiteral("Create DataBase"), MsgIcon::Critical);
+        return false;
+    }
+    return true;
+}
+
+DbResult FrmSelectDB::Fill(const QString& path, std::int16_t year)
+{
+    Astronomy engine = Ctx.Engine;
+    const Calendar cal = YearCalendar(engine, year, Ctx.SouthernHemisphere);
+    PBar1->setRange(1, cal.YearSlots - 1);
+    PBar1->show();
+    return FillYearFile(Data0, path, engine, cal, Ctx.DaylightBias,
+                        [this](int day, int) { PBar1->setValue(day); });
+}
+
+bool FrmSelectDB::OfferRestore(int year)
+{
+    for (const RestorableYear& kept : RestorableYears(Ctx.Folder)) {
+        if (kept.Year != year && year != 0)
+            continue;
+        const QString name = YearFileName(kept.Year);
+        const MsgResult answer = Ctx.Messages.MsgBox(
+            QStringLiteral("%1 is missing, but a copy of it is kept as %2.\n"
+                           "Restore %1 from that copy?")
+                .arg(name, QFileInfo(kept.Copy).fileName()),
+            MsgButtons::YesNo, QStringLiteral("Restore DataBase"), MsgIcon::Question);
+        if (answer != MsgResult::Yes)
+            continue;
+        if (const DbResult restored = RestoreYearFile(Ctx.Folder, kept); !restored) {
+            Ctx.Messages.MsgBox(QStringLiteral("%1 could not be restored: %2\n"
+                                               "The copy is kept as it was.")
+                                    .arg(name, restored.Message),
+                                MsgButtons::OK, QStringLiteral("Restore DataBase"),
+                                MsgIcon::Critical);
+            continue;
+        }
+        RefreshList();
+        if (kept.Year == year)
+            return true;
+    }
+    return false;
 }
 
 void FrmSelectDB::DeleteDBFile_Click()
@@ -231,7 +251,7 @@ void FrmSelectDB::DeleteDBFile_Click()
     const MsgResult answer =
         Ctx.Messages.MsgBox(QStringLiteral("Confirm to Delete Selected File "), MsgButtons::YesNo);
     if (answer != MsgResult::No)
-        QFile::remove(path);
+        DeleteYearFile(path);
     RefreshList();
 }
 
@@ -254,9 +274,16 @@ void FrmSelectDB::CmdRepair_Click()
 {
     if (SelectedOrComplain().isEmpty())
         return;
-    const DbResult repaired = RepairDB(Ctx.State.DBPath);
-    Ctx.Messages.MsgBox(repaired ? QStringLiteral("Repair Completed!")
-                                 : QStringLiteral("Error Repairing Database!"),
+    RepairReport repaired;
+    {
+        const BusyPointer busy;
+        repaired = RepairYearFile(Ctx.State.DBPath);
+    }
+    Ctx.Messages.MsgBox(repaired.Result
+                            ? QStringLiteral("Repair Completed!\n") + repaired.Summary()
+                            : QStringLiteral("Error Repairing Database!\n%1\nThe file is kept "
+                                             "as it was.")
+                                  .arg(repaired.Result.Message),
                         MsgButtons::OK, QStringLiteral("Repair DataBases"));
 }
 

@@ -65,7 +65,11 @@ private:
     QString SelectedOrComplain();
     // Closes this window and browses DBPath when that file is there.
     void CloseAndBrowse();
-    bool Fill(std::int16_t year);
+    // Writes the year's forecasts into the file being created, showing the progress.
+    DbResult Fill(const QString& path, std::int16_t year);
+    // Asks, for the year (0: every year) whose file is missing while a copy is kept, whether
+    // to restore it, and restores it. True when the year's file is back.
+    bool OfferRestore(int year);
     // A copy of the year file before it is edited, when it changed since the last one.
     void KeepBackup(const QString& path);
 

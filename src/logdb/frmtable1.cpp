@@ -23,10 +23,15 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QSessionManager>
+#include <QToolTip>
 
 #include <functional>
 
 namespace {
+
+constexpr int TakenWithLength = 255;
+const QString TakenWithLimitText = QStringLiteral("Taken With holds at most 255 characters.");
 
 // A bound box: how it shows a stored value, and the entry it has for Update, if any.
 class BoundBox : public BoundControl {
@@ -118,6 +123,27 @@ frmTable1::frmTable1(const LogContext& context, QWidget* parent) : QDialog(paren
     setModal(true);
     BuildControls();
     Form_Load();
+    WatchTheWayOut();
+}
+
+void frmTable1::WatchTheWayOut()
+{
+    if (parentWidget()) {
+        Owner = parentWidget()->window();
+        Owner->installEventFilter(this);
+    }
+    // A desktop session that ends asks first and can be stopped; a program that is quitting
+    // cannot, so its Cancel keeps the entry by saving it.
+    if (auto* app = qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+        connect(app, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
+            if (!ConfirmLeaveEditing())
+                session.cancel();
+        });
+    }
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
+        if (!ConfirmLeaveEditing())
+            cmdUpdate_Click();
+    });
 }
 
 frmTable1::~frmTable1()
@@ -242,6 +268,13 @@ QWidget* frmTable1::BuildCatchPanel()
     Text7->setObjectName(QStringLiteral("Text7"));
     txtFields[17]->setParent(catchBox);
     txtFields[18]->setParent(catchBox);
+    // The column holds 255 characters; the box takes no more and says so when it refuses.
+    txtFields[18]->setMaxLength(TakenWithLength);
+    txtFields[18]->setToolTip(TakenWithLimitText);
+    connect(txtFields[18], &QLineEdit::inputRejected, this, [this] {
+        QToolTip::showText(txtFields[18]->mapToGlobal(QPoint(0, txtFields[18]->height())),
+                           TakenWithLimitText, txtFields[18]);
+    });
     txtFields[17]->installEventFilter(this);
     form->addWidget(Caption(QStringLiteral("Total Taken:"), catchBox), 0, 0);
     form->addWidget(txtFields[17], 0, 1);
@@ -303,7 +336,9 @@ void frmTable1::BindControls()
     bindBox(18, QStringLiteral("TakenWith"));
 
     Bindings.push_back(std::make_unique<BoundBox>([this](const QVariant& v) {
-        Text4->setText(v.toString());
+        // 15 significant digits, as the log has always shown a double.
+        const auto hours = NumberOf(v);
+        Text4->setText(hours ? QString::number(*hours, 'g', 15) : v.toString());
         Text4->setCursorPosition(0);
     }));
     Data1.Bind(QStringLiteral("DaylightHours"), Bindings.back().get());
@@ -507,6 +542,10 @@ bool frmTable1::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == txtFields[17] && event->type() == QEvent::MouseButtonRelease)
         txtFields_Click(17);
+    if (watched == Owner && event->type() == QEvent::Close && !ConfirmLeaveEditing()) {
+        event->ignore();
+        return true;
+    }
     return QDialog::eventFilter(watched, event);
 }
 
@@ -516,8 +555,37 @@ void frmTable1::mnuExit_Click()
     close();
 }
 
+bool frmTable1::ConfirmLeaveEditing()
+{
+    if (Data1.EditMode() == DataControl::EditState::None)
+        return true;
+    const MsgResult answer =
+        Ctx.Messages.MsgBox(QStringLiteral("Save changes to this day?"),
+                            MsgButtons::SaveDiscardCancel, windowTitle(), MsgIcon::Question);
+    if (answer == MsgResult::Save) {
+        cmdUpdate_Click();
+        return Data1.EditMode() == DataControl::EditState::None;
+    }
+    if (answer != MsgResult::Discard)
+        return false;
+    Data1.CancelUpdate();
+    Combo4->hide();
+    SetBrowsing(true);
+    return true;
+}
+
+void frmTable1::reject()
+{
+    if (ConfirmLeaveEditing())
+        QDialog::reject();
+}
+
 void frmTable1::closeEvent(QCloseEvent* event)
 {
+    if (!ConfirmLeaveEditing()) {
+        event->ignore();
+        return;
+    }
     Form_Unload();
     QDialog::closeEvent(event);
 }

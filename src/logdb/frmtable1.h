@@ -40,6 +40,11 @@ public:
     void Combo4_Click();
     void mnuExit_Click();
 
+    // Every way out of the window while a record is being edited comes here first: asks
+    // "Save changes to this day?" and saves or discards the edit. False when the user chose
+    // Cancel or the save failed; the edit then stays open.
+    bool ConfirmLeaveEditing();
+
     DataControl Data1;
     DataBar* Data1Bar = nullptr;            // Data1's arrows and record counter
     std::array<QLineEdit*, 19> txtFields{}; // the indices the window uses; 16 stays null
@@ -67,6 +72,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void reject() override; // Escape
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -74,6 +80,8 @@ private:
     QWidget* BuildDayPanel();
     QWidget* BuildCatchPanel();
     void BindControls();
+    // Makes the owner's closing and the program's end ask about an open edit too.
+    void WatchTheWayOut();
     void SetBrowsing(bool browsing);
     // Reposition's steps; each leaves its display alone when the record lacks its column.
     void ShowTimes();
@@ -83,4 +91,5 @@ private:
     LogContext Ctx;
     std::vector<std::unique_ptr<BoundControl>> Bindings;
     bool FirstActivation = true;
+    QWidget* Owner = nullptr; // the window this one belongs to, whose closing asks too
 };
