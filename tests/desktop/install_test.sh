@@ -13,7 +13,7 @@ fail() { echo "FAIL: $*" >&2; exit 1; }
 
 cmake --install "$build" --prefix "$work/prefix" >/dev/null
 share=$work/prefix/share
-for f in bin/quillmere bin/quillmere-forecast share/applications/$id.desktop \
+for f in bin/quillmere bin/quillmere-forecast bin/quillmere-log share/applications/$id.desktop \
          share/metainfo/$id.metainfo.xml share/icons/hicolor/scalable/apps/$id.svg \
          share/quillmere/seed/Quillmere.html share/quillmere/default_schema.sql; do
   [ -f "$work/prefix/$f" ] || fail "$f is not installed"
