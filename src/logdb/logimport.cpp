@@ -5,7 +5,7 @@
 #include "logdb/storedforms.h"
 
 #include <QSqlQuery>
-#include <QSqlRecord>
+#include <algorithm>
 
 #include <map>
 #include <set>
