@@ -6,16 +6,20 @@
 #include "cli/arguments.h"
 #include "cli/forecastrun.h"
 #include "cli/logquery.h"
+#include "logdb/backups.h"
 #include "logdb/datacontrol.h"
 #include "logdb/filldata.h"
 #include "logdb/logexport.h"
 #include "logdb/logfiles.h"
 #include "logdb/logreport.h"
+#include "logdb/logimport.h"
+#include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -38,6 +42,7 @@ Usage:
   quillmere-log export --year YYYY [--format csv|json]
   quillmere-log query --year YYYY [CONDITIONS] [--sort S] [--format text|csv|json]
   quillmere-log report --year YYYY [CONDITIONS] [--sort S] [--pdf FILE]
+  quillmere-log import --year YYYY FILE.csv [--skip|--overwrite]
 
 Commands:
   list     the year files of the program's folder (YYYY.mdb), one name a line.
@@ -73,6 +78,13 @@ Conditions (query and report; each narrows the days, in this order):
   --perigee              the day of lunar perigee
   --rated                every rated day
   --sort S               date (default), major1, weekday, rating or taken
+  import   the catch entries of a CSV file with the columns of export (JulianDate,
+           TotalTaken, TakenWith, PeakTime, Notes; the others are ignored) into the days of
+           YYYY.mdb, all in one step, after a copy of the file goes to backups/. Every line
+           that cannot be imported (a date outside the year, an unknown column, a bad number
+           or time) and every day that already holds an entry is listed first; when there
+           is any, nothing is written unless --skip (keep those entries, import the rest)
+           or --overwrite (replace them) says what to do.
 
 Location (create only; default: the default one of your ten stored locations):
   --location N              one of the ten stored locations, 1..10
@@ -86,6 +98,8 @@ Options:
   --format F       csv (default; a header line, CR LF line ends) or json; query also
                    takes text, its default
   --pdf FILE       report only: print the report into FILE
+  --skip           import: leave the days that hold an entry, import the other lines
+  --overwrite      import: replace the entries of those days too
   --help           this text
 
 The program's folder is $QUILLMERE_HOME, else ~/.local/share/Quillmere. Years run from
@@ -98,6 +112,7 @@ Examples:
   quillmere-log compact --year 2024
   quillmere-log query --year 2024 --months 3-5 --best --weekdays sat-sun --sort major1
   quillmere-log report --year 2024 --either-major "5:00 PM-9:00 PM" --taken 1 --pdf catch.pdf
+  quillmere-log import --year 2024 catches.csv --skip
 )";
 
 namespace {
@@ -377,6 +392,39 @@ std::vector<std::string> WithConditions(std::vector<std::string> own)
     return own;
 }
 
+// Reports every problem of the file first, then imports when there is none or the user chose
+// what to do with them.
+int Import(const LogRequest& r, const Streams& io)
+{
+    if (!YearFileThere(r.Year, io))
+        return 1;
+    const QString path = io.YearPath(r.Year);
+    const QString source = QString::fromStdString(r.Options.at("FILE"));
+    QFile csv(source);
+    if (!csv.open(QIODevice::ReadOnly))
+        return io.Fail("cannot read " + Std(source) + ": " + Std(csv.errorString()) +
+                       "; nothing was imported");
+    ImportPlan plan;
+    if (const DbResult planned = PlanImport(path, r.Year, csv.readAll(), plan); !planned)
+        return io.Fail("cannot import " + Std(source) + ": " + Std(planned.Message) +
+                       "; nothing was imported");
+    for (const QString& line : IssueLines(plan))
+        io.Out << Std(source) << ": " << Std(line) << "\n";
+    const bool overwrite = r.Options.count("--overwrite") > 0;
+    if (!plan.Issues.empty() && !overwrite && !r.Options.count("--skip"))
+        return io.Fail("nothing was imported: choose --skip to keep the entries already there "
+                       "and leave out the lines above, or --overwrite to replace those entries");
+    if (const DbResult kept = BackUpIfChanged(path, Clock::Now()); !kept)
+        return io.Fail("cannot back up " + Std(path) + ": " + Std(kept.Message) +
+                       "; nothing was imported");
+    int written = 0;
+    const ImportChoice choice = overwrite ? ImportChoice::Overwrite : ImportChoice::Skip;
+    if (const DbResult done = ApplyImport(path, plan, choice, written); !done)
+        return io.Fail("cannot import into " + Std(path) + ": " + Std(done.Message));
+    io.Out << "Imported " << written << " day(s) into " << Std(path) << "\n";
+    return 0;
+}
+
 struct LogCommand {
     const char* Name;
     std::vector<std::string> Options; // besides --help
@@ -394,13 +442,15 @@ const std::vector<LogCommand>& Commands()
         {"export", {"--year", "--format"}, Export},
         {"query", WithConditions({"--year", "--format"}), Query},
         {"report", WithConditions({"--year", "--pdf"}), Report},
+        {"import", {"--year", "FILE", "--skip", "--overwrite"}, Import},
     };
     return commands;
 }
 
 bool IsFlag(const std::string& option)
 {
-    return option == "--dst" || option == "--help" || IsQueryFlag(option);
+    return option == "--dst" || option == "--help" || option == "--skip" ||
+           option == "--overwrite" || IsQueryFlag(option);
 }
 
 // The options of the command line, each allowed by the command and given once.
@@ -410,6 +460,11 @@ std::optional<std::string> CollectOptions(const std::vector<std::string>& args,
     for (std::size_t i = 1; i < args.size(); ++i) {
         const std::string& name = args[i];
         const auto& own = command.Options;
+        const bool takesFile = std::find(own.begin(), own.end(), "FILE") != own.end();
+        if (takesFile && name.rfind("--", 0) != 0 && !r.Options.count("FILE")) {
+            r.Options["FILE"] = name;
+            continue;
+        }
         if (name != "--help" && std::find(own.begin(), own.end(), name) == own.end())
             return "option '" + name + "' does not apply to " + command.Name + " (see --help)";
         if (r.Options.count(name))
@@ -438,6 +493,10 @@ std::optional<std::string> CheckRequest(const LogCommand& command, LogRequest& r
         if (r.Year < 1900 || r.Year > 2500)
             return "--year takes a year from 1900 to 2500, not '" + text + "'";
     }
+    if (std::find(own.begin(), own.end(), "FILE") != own.end() && !r.Options.count("FILE"))
+        return std::string(command.Name) + " needs the FILE.csv to read";
+    if (r.Options.count("--skip") && r.Options.count("--overwrite"))
+        return "choose one of --skip and --overwrite";
     if (const auto f = r.Options.find("--format"); f != r.Options.end() && f->second != "csv" &&
                                                    f->second != "json" &&
                                                    (r.Command != "query" || f->second != "text"))
@@ -474,8 +533,8 @@ int RunLogCommand(const std::vector<std::string>& args, std::ostream& out, std::
         return 2;
     };
     if (args.empty())
-        return usage("no command given: list, create, compact, repair, restore, export, query "
-                     "or report (see --help)");
+        return usage("no command given: list, create, compact, repair, restore, export, import, "
+                     "query or report (see --help)");
     if (args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
         out << LogUsageText;
         return 0;

@@ -2,15 +2,20 @@
 
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
+#include "logdb/backups.h"
 #include "logdb/filldata.h"
+#include "logdb/frmbackups.h"
 #include "logdb/frmtable1.h"
+#include "logdb/importcatches.h"
 #include "logdb/logfiles.h"
 #include "platform/busypointer.h"
+#include "platform/clock.h"
 #include "platform/messageservice.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QListWidget>
@@ -41,6 +46,14 @@ FrmSelectDB::FrmSelectDB(const LogContext& context, QWidget* parent) : QDialog(p
         browser.Data1.SetDatabaseName(path);
         browser.exec();
     };
+    ShowBackups = [this](const QString& path) {
+        FrmBackups backups(Ctx, path, this);
+        backups.exec();
+    };
+    ChooseImportFile = [this] {
+        return QFileDialog::getOpenFileName(this, QStringLiteral("Import Catches"), QString(),
+                                            QStringLiteral("CSV files (*.csv);;All files (*)"));
+    };
     Form_Load();
 }
 
@@ -56,6 +69,11 @@ void FrmSelectDB::BuildControls()
                           QStringLiteral(" Delete Selected File "), this);
     CmdCompact = Button(QStringLiteral("Compact"), QStringLiteral("CmdCompact"), {}, this);
     CmdRepair = Button(QStringLiteral("Repair"), QStringLiteral("CmdRepair"), {}, this);
+    CmdImport =
+        Button(QStringLiteral("Import"), QStringLiteral("CmdImport"),
+               QStringLiteral(" Import Catches from a CSV File into the Selected Year "), this);
+    CmdBackups = Button(QStringLiteral("Backups"), QStringLiteral("CmdBackups"),
+                        QStringLiteral(" Restore an Earlier Copy of the Selected File "), this);
     CloseSelectDB = Button(QStringLiteral("Close"), QStringLiteral("CloseSelectDB"),
                            QStringLiteral(" Close and Exit "), this);
     PBar1 = new QProgressBar(this);
@@ -63,14 +81,15 @@ void FrmSelectDB::BuildControls()
     PBar1->hide();
 
     auto* grid = new QGridLayout(this);
-    grid->addWidget(DBFiles, 0, 0, 7, 1);
+    grid->addWidget(DBFiles, 0, 0, 9, 1);
     int row = 0;
-    for (QPushButton* b : {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair})
+    for (QPushButton* b :
+         {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair, CmdImport, CmdBackups})
         grid->addWidget(b, row++, 1);
     grid->setRowStretch(row++, 1);
     grid->addWidget(CloseSelectDB, row, 1);
-    grid->addWidget(PBar1, 7, 0, 1, 2);
-    resize(300, 260);
+    grid->addWidget(PBar1, 9, 0, 1, 2);
+    resize(300, 300);
 
     connect(DBFiles, &QListWidget::itemSelectionChanged, this, &FrmSelectDB::DBFiles_Click);
     connect(DBFiles, &QListWidget::itemDoubleClicked, this, &FrmSelectDB::DBFiles_DblClick);
@@ -80,6 +99,8 @@ void FrmSelectDB::BuildControls()
     connect(CmdCompact, &QPushButton::clicked, this, &FrmSelectDB::CmdCompact_Click);
     connect(CmdRepair, &QPushButton::clicked, this, &FrmSelectDB::CmdRepair_Click);
     connect(CloseSelectDB, &QPushButton::clicked, this, &FrmSelectDB::CloseSelectDB_Click);
+    connect(CmdBackups, &QPushButton::clicked, this, &FrmSelectDB::CmdBackups_Click);
+    connect(CmdImport, &QPushButton::clicked, this, &FrmSelectDB::CmdImport_Click);
 }
 
 void FrmSelectDB::Form_Load()
@@ -127,8 +148,19 @@ void FrmSelectDB::CloseAndBrowse()
 {
     close();
     // With no year file chosen yet, or one deleted since, there is nothing to browse.
-    if (!Ctx.State.DBPath.isEmpty() && QFile::exists(Ctx.State.DBPath))
+    if (!Ctx.State.DBPath.isEmpty() && QFile::exists(Ctx.State.DBPath)) {
+        KeepBackup(Ctx.State.DBPath);
         ShowBrowser(Ctx.State.DBPath);
+    }
+}
+
+void FrmSelectDB::KeepBackup(const QString& path)
+{
+    if (const DbResult kept = BackUpIfChanged(path, Clock::Now()); !kept)
+        Ctx.Messages.MsgBox(
+            QStringLiteral("No backup of %1 could be made: %2\nThe file opens as it is.")
+                .arg(QFileInfo(path).fileName(), kept.Message),
+            MsgButtons::OK, QStringLiteral("Backups"), MsgIcon::Exclamation);
 }
 
 void FrmSelectDB::CmdCreate_Click()
@@ -256,3 +288,18 @@ void FrmSelectDB::CmdRepair_Click()
 }
 
 void FrmSelectDB::CloseSelectDB_Click() { close(); }
+
+void FrmSelectDB::CmdBackups_Click()
+{
+    if (const QString path = SelectedOrComplain(); !path.isEmpty())
+        ShowBackups(path);
+}
+
+void FrmSelectDB::CmdImport_Click()
+{
+    const QString path = SelectedOrComplain();
+    if (path.isEmpty())
+        return;
+    if (const QString csv = ChooseImportFile(); !csv.isEmpty())
+        ImportCatches(Ctx, path, csv);
+}

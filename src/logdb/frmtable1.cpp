@@ -6,6 +6,7 @@
 #include "logdb/filldata.h"
 #include "logdb/querybuilder.h"
 #include "logdb/queryrun.h"
+#include "logdb/frmstatistics.h"
 #include "logdb/storedforms.h"
 #include "platform/busypointer.h"
 #include "platform/messageservice.h"
@@ -161,6 +162,7 @@ void frmTable1::BuildControls()
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
     connect(mnuExit, &QAction::triggered, this, &frmTable1::mnuExit_Click);
     BuildQueryMenus(bar);
+    bar->addAction("Statistics", this, [this] { ShowStatistics(Ctx, Data1.DatabaseName(), this); });
 
     Data1Bar = new DataBar(Data1, this);
     auto* layout = new QGridLayout(this);

@@ -1,6 +1,7 @@
 // quillmere-log end to end: the built program on a folder of the test's own, its output read
 // back by Python's strict CSV and JSON readers and compared with the file through Python's
 // own SQLite module.
+#include "logdb/backups.h"
 #include "logdb/logfiles.h"
 #include "support/testenv.h"
 
@@ -8,6 +9,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QSqlQuery>
 
 #include <gtest/gtest.h>
 
@@ -212,4 +214,79 @@ TEST(LogCommand, QueryAndReportTheSelectedDays)
     const LogRun report = RunLog(home, {"report", "--year", "2024", "--months", "1-2"});
     EXPECT_EQ(report.Out.count('\f'), 1);
     EXPECT_TRUE(RunLog(home, {"--help"}).Out.contains("--weekdays D-D"));
+}
+
+namespace {
+
+// Every day's catch columns, in date order, asked of the file.
+QStringList CatchEntries(const QString& path)
+{
+    Database db;
+    EXPECT_TRUE(db.Open(path));
+    QSqlQuery q(db.Connection());
+    EXPECT_TRUE(q.exec("SELECT JulianDate, TotalTaken, TakenWith, PeakTime, Notes FROM table1 "
+                       "ORDER BY JulianDate"));
+    QStringList rows;
+    while (q.next()) {
+        QStringList fields;
+        for (int i = 0; i < 5; ++i)
+            fields << (q.value(i).isNull() ? "<null>" : q.value(i).toString());
+        rows << fields.join('|');
+    }
+    return rows;
+}
+
+QString CreatedYear(const QString& folderName)
+{
+    const QString home = testenv::FreshDir(folderName);
+    const LogRun created = RunLog(home, {"create", "--year", "2024", "--location", "1"});
+    EXPECT_EQ(created.Status, 0) << created.Err.toStdString();
+    return home;
+}
+
+} // namespace
+
+TEST(LogCommand, ExportThenImportIntoAFreshYearGivesTheSameEntries)
+{
+    const QString from = CreatedYear("log-import-from");
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(YearPath(from)));
+        const std::vector<std::pair<int, FieldValues>> entries = {
+            {3, {{"TotalTaken", 4}, {"TakenWith", "jig, chartreuse"}, {"PeakTime", "7:00 AM"}}},
+            {60, {{"TotalTaken", 0}, {"Notes", "wind \"30 knots\"\nno bites"}}},
+            {61, {{"PeakTime", "11:00 PM"}}},
+            {366, {{"TotalTaken", 12}, {"TakenWith", "worms"}, {"Notes", "last day"}}},
+        };
+        for (const auto& [dbid, fields] : entries)
+            ASSERT_TRUE(db.UpdateRecord({"table1"}, "DBID", dbid, fields));
+    }
+    const LogRun exported = RunLog(from, {"export", "--year", "2024"});
+    ASSERT_EQ(exported.Status, 0) << exported.Err.toStdString();
+    const QString into = CreatedYear("log-import-into");
+    const QString csv = QDir(into).filePath("catches.csv");
+    QFile out(csv);
+    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+    out.write(exported.Out.toUtf8());
+    out.close();
+
+    const LogRun imported = RunLog(into, {"import", "--year", "2024", csv});
+    ASSERT_EQ(imported.Status, 0) << imported.Err.toStdString() << imported.Out.toStdString();
+    EXPECT_EQ(imported.Out, "Imported 4 day(s) into " + YearPath(into) + "\n");
+    EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(YearPath(from)));
+    EXPECT_EQ(ListBackups(YearPath(into)).size(), 1);
+
+    // Again: every day now holds its entry, so nothing is written without a choice.
+    const LogRun refused = RunLog(into, {"import", "--year", "2024", csv});
+    EXPECT_EQ(refused.Status, 1);
+    EXPECT_EQ(refused.Out.count('\n'), 4) << refused.Out.toStdString();
+    EXPECT_TRUE(refused.Out.startsWith(csv + ": Line 4: 01/03/2024 already holds an entry\n"))
+        << refused.Out.toStdString();
+    EXPECT_TRUE(refused.Err.startsWith("quillmere-log: nothing was imported: choose --skip"));
+    EXPECT_EQ(RunLog(into, {"import", "--year", "2024", csv, "--skip"}).Status, 0);
+    EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(YearPath(from)));
+    for (const QStringList& args :
+         {QStringList{"import", "--year", "2024"},
+          QStringList{"import", "--year", "2024", csv, "--skip", "--overwrite"}})
+        ExpectOneLineRefusal(RunLog(into, args), 2, args.join(' ').toStdString());
 }
