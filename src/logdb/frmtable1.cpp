@@ -134,8 +134,9 @@ void frmTable1::WatchTheWayOut()
         Owner = parentWidget()->window();
         Owner->installEventFilter(this);
     }
-    // A desktop session that ends asks first and can be stopped; a program that is quitting
-    // cannot, so its Cancel keeps the entry by saving it.
+    // Quitting closes the windows first, so closeEvent asks and Cancel stops it; so does a
+    // desktop session that ends. An end that cannot be refused still asks, and a Cancel
+    // there keeps the entry the only way left: saved.
     if (auto* app = qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
         connect(app, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
             if (!ConfirmLeaveEditing())

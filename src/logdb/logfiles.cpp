@@ -643,8 +643,8 @@ QString RepairReport::Summary() const
         return QStringLiteral("The file is sound: all %1 records are kept as they were.").arg(Kept);
     const QString marked =
         Marked == 0 ? QString()
-                    : QStringLiteral(" %1 values that could not be right were emptied, each "
-                                     "noted in its day's Notes.")
+                    : QStringLiteral(" Values that could not be right: %1, emptied and noted in "
+                                     "their day's Notes.")
                           .arg(Marked);
     return QStringLiteral("%1 records kept, %2 could not be read.%3 The damaged file is kept as "
                           "%4.")

@@ -9,10 +9,12 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 
 using namespace logtest;
 
@@ -119,4 +121,43 @@ TEST(EditSafety, TakenWithHoldsWhatItsColumnHoldsAndDaylightShowsFifteenDigits)
     Screenshot(w, "frmTable1-editing");
     QTest::mouseClick(w.cmdUpdate, Qt::LeftButton);
     EXPECT_EQ(StoredField(env.State.DBPath, "TakenWith"), QString(255, QChar('w')));
+}
+
+TEST(EditSafety, TheProgramsEndAsksAndCannotDropTheEntry)
+{
+    const auto editing = [](LogWindowEnv& env, const char* name) {
+        env.State.DBPath = MakeYearFile(name, 5);
+        auto w = std::make_unique<frmTable1>(env.Context());
+        w->show();
+        QTest::mouseClick(w->cmdEdit, Qt::LeftButton);
+        w->Text7->moveCursor(QTextCursor::End);
+        QTest::keyClicks(w->Text7, " and a perch");
+        return w;
+    };
+    for (const MsgResult answer : {MsgResult::Discard, MsgResult::Save}) {
+        LogWindowEnv env(QString{});
+        const auto w = editing(env, "edit-safety-quit");
+        env.Answers = {answer};
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QCoreApplication::exec();
+        EXPECT_EQ(env.ShownTexts(), QStringList{"Save changes to this day?"});
+        EXPECT_EQ(StoredField(env.State.DBPath, "Notes"),
+                  answer == MsgResult::Save ? "row-001 and a perch" : "row-001");
+    }
+    // Cancel keeps the program running with the edit open; an end that cannot be refused
+    // asks again and, refused, keeps the entry the only way left: saved.
+    LogWindowEnv env(QString{});
+    const auto w = editing(env, "edit-safety-quit-cancel");
+    env.Answers = {MsgResult::Cancel, MsgResult::Cancel};
+    bool stillEditing = false;
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QTimer::singleShot(200, qApp, [&] {
+        stillEditing = w->isVisible() && w->cmdUpdate->isEnabled();
+        QCoreApplication::exit(0);
+    });
+    QCoreApplication::exec();
+    EXPECT_TRUE(stillEditing);
+    EXPECT_EQ(env.ShownTexts(),
+              QStringList({"Save changes to this day?", "Save changes to this day?"}));
+    EXPECT_EQ(StoredField(env.State.DBPath, "Notes"), "row-001 and a perch");
 }

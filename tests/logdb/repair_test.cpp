@@ -198,7 +198,7 @@ TEST(Repair, AValueDamagedInsideARecordIsEmptiedAndNoted)
     const RepairReport report = RepairAndCheck(path, "value");
     EXPECT_EQ(report.Kept, DaysInYear);
     EXPECT_EQ(report.Marked, 1);
-    EXPECT_TRUE(report.Summary().contains("1 values that could not be right were emptied"));
+    EXPECT_TRUE(report.Summary().contains("Values that could not be right: 1, emptied"));
     EXPECT_EQ(NotesByDay(path).at(250), "row-250 [repair: DaylightHours could not be read]");
     EXPECT_EQ(CountRows(path, "table1"), DaysInYear);
 }
