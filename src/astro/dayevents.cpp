@@ -81,8 +81,10 @@ void Astronomy::SearchMoonEvents(double J0)
 void Astronomy::SettleMoonEventsAtMidnight(double J0)
 {
     const double Z = EventZoneHours / 24.0;
+    // Rise and set are events only where the search refined them (the Moon crosses h0).
     const auto nearEnd = [&](std::size_t k) {
-        return std::fabs(PositionResult[k] / 24.0 - Z - 1.0) < 2.0 * EventTolerance;
+        return (k == 0 || AboveHorizonState == 0) &&
+               std::fabs(PositionResult[k] / 24.0 - Z - 1.0) < 2.0 * EventTolerance;
     };
     if (!nearEnd(0) && !nearEnd(1) && !nearEnd(2))
         return;
@@ -90,11 +92,12 @@ void Astronomy::SettleMoonEventsAtMidnight(double J0)
     const std::int16_t state = AboveHorizonState;
     SearchMoonEvents(J0 + 1.0);
     const std::array<double, 20> next = PositionResult;
+    const bool nextCrosses = AboveHorizonState == 0;
     PositionResult = today;
     AboveHorizonState = state;
     for (std::size_t k = 0; k < 3; ++k) {
         const double d = next[k] / 24.0 - Z; // from the start of the next day
-        if (!nearEnd(k) || std::fabs(d) >= 2.0 * EventTolerance)
+        if (!nearEnd(k) || (k != 0 && !nextCrosses) || std::fabs(d) >= 2.0 * EventTolerance)
             continue;
         PositionResult[k] = next[k] + 24.0;
         PositionResult[3 + k] = next[3 + k];

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace {
 Astronomy At(double lonWest, double latNorth, int zone)
@@ -193,4 +195,24 @@ TEST(RiseSet, ResultsDoNotDependOnEarlierDays)
         outside += x.TransitFlag + x.RiseFlag + x.SetFlag;
     }
     EXPECT_GT(outside, 0);
+}
+
+// Moonrises within seconds of midnight (PyEphem: Oslo 1 July 2024 23:59:58, Singapore
+// 1 April 2024 00:00:08) are reported on exactly one of the two days, next to that midnight.
+TEST(RiseSet, EventAtMidnightIsReportedOnce)
+{
+    for (const auto& [lon, lat, zone, day] :
+         {std::tuple{-10.75, 59.91, -1, 1.0 + 182}, std::tuple{-103.85, 1.29, -8, 1.0 + 90}}) {
+        Astronomy a = At(lon, lat, zone);
+        int reported = 0;
+        for (double d : {day, day + 1.0}) {
+            a.ComputeDay(CivilToJd(2024, 1, d));
+            const MoonEventRecord& m = a.Forecast.MoonEvents;
+            if (m.RiseFlag != 0)
+                continue;
+            ++reported;
+            EXPECT_LT(std::min(m.RiseTime, 24.0 - m.RiseTime), 1.0 / 60.0) << lat;
+        }
+        EXPECT_EQ(reported, 1) << lat;
+    }
 }
