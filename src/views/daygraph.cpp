@@ -93,7 +93,13 @@ void DayTimeLine::paintEvent(QPaintEvent*)
         p.fillRect(mark, VbColor(m.Color));
         p.setPen(Qt::black);
         p.drawRect(mark);
-        p.drawText(QPointF(mark.right() + 3, p.fontMetrics().ascent()), Q(m.Name.substr(0, 1)));
+        // The mark's letter (R, T, S) in a white box beside it, on the inner side near the ends.
+        const QString letter = Q(m.Name.substr(0, 1));
+        const double w = p.fontMetrics().horizontalAdvance(letter) + 4;
+        const double x = mark.right() + 2 + w <= width() ? mark.right() + 2 : mark.left() - 2 - w;
+        const QRectF box(x, 0, w, p.fontMetrics().height());
+        p.fillRect(box, Qt::white);
+        p.drawText(box, Qt::AlignCenter, letter);
     }
     p.setPen(QPen(VbColor(TickRed), 2));
     for (double x : s.HourTicks)
