@@ -197,6 +197,14 @@ TEST(DayGraph, SkyAtThePointerAgreesWithEphem)
     EXPECT_NEAR(r.SunElevation, -8.701, 0.5);
     EXPECT_NEAR(r.MoonAzimuth, 135.876, 0.5);
     EXPECT_NEAR(r.MoonElevation, 14.752, 0.5);
+
+    // The same moment as the day forecast's sky at the hour bar's 9 PM.
+    engine.Site.HourInstant = 21.0 / 24.0 + engine.Site.ZoneDays;
+    engine.ComputeSunDay(CivilToJd(2024, 6, 20));
+    engine.ComputeDay(CivilToJd(2024, 6, 20));
+    const auto& sky = engine.Forecast.SkyPosition;
+    EXPECT_NEAR(sky[0] * 57.29577951308238, r.SunAzimuth, 1e-6);
+    EXPECT_NEAR(sky[3] * 57.29577951308238, r.MoonElevation, 1e-6);
 }
 
 } // namespace
