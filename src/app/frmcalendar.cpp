@@ -4,11 +4,13 @@
 #include "app/daycellwidget.h"
 #include "app/frmabout.h"
 #include "app/frmyearcal.h"
+#include "app/frmprint.h"
 #include "app/helpwindow.h"
 #include "app/settingsio.h"
 #include "app/stockpictures.h"
 #include "astro/moonpicture.h"
 #include "astro/timebase.h"
+#include "locations/frmlocation.h"
 #include "logdb/frmselectdb.h"
 #include "platform/busypointer.h"
 #include "platform/clock.h"
@@ -16,6 +18,8 @@
 #include "platform/twips.h"
 #include "views/daygraph.h"
 #include "views/frmdetail.h"
+#include "views/frmglance.h"
+#include "views/frmlist.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -225,6 +229,14 @@ void FrmCalendar::BuildMenus()
     mnuyearly = bar->addAction(QStringLiteral("&Yearly"));
     mnuyearly->setObjectName(QStringLiteral("mnuyearly"));
     connect(mnuyearly, &QAction::triggered, this, &FrmCalendar::mnuyearly_Click);
+    QMenu* functions = bar->addMenu(QStringLiteral("&Functions"));
+    functions->setObjectName(QStringLiteral("ProgFunctions"));
+    PrintCalendar = Item(functions, QStringLiteral("&Print"), QStringLiteral("PrintCalendar"));
+    AtAGlance = Item(functions, QStringLiteral("@Glance"), QStringLiteral("AtAGlance"));
+    ShowList = Item(functions, QStringLiteral("&Table"), QStringLiteral("ShowList"));
+    connect(PrintCalendar, &QAction::triggered, this, &FrmCalendar::PrintCalendar_Click);
+    connect(AtAGlance, &QAction::triggered, this, &FrmCalendar::AtAGlance_Click);
+    connect(ShowList, &QAction::triggered, this, &FrmCalendar::ShowList_Click);
     QMenu* options = bar->addMenu(QStringLiteral("&Options"));
     options->setObjectName(QStringLiteral("SetOptions"));
     QMenu* formats = options->addMenu(QStringLiteral("Time Formats"));
@@ -255,6 +267,7 @@ void FrmCalendar::BuildMenus()
         DLoc[std::size_t(i)] = Item(select, {}, QString("DLoc%1").arg(i), true);
         Loc[std::size_t(i)] = Item(edit, {}, QString("Loc%1").arg(i));
         connect(DLoc[std::size_t(i)], &QAction::triggered, this, [this, i] { DLoc_Click(i); });
+        connect(Loc[std::size_t(i)], &QAction::triggered, this, [this, i] { Loc_Click(i); });
     }
 
     QMenu* help = bar->addMenu(QStringLiteral("&Help"));
@@ -545,14 +558,17 @@ void FrmCalendar::txtpic_MouseMove(int index)
                           QString(" %1").arg(daysInYear - doy) + " days remain");
         LastHoveredCell = index;
     }
-    const ComputedDay day{cal.CurYear, cal.CurMonth, index - cal.FirstWeekday + 1};
+    // The hovered day is the selected day for the panel; the frame stays on the clicked cell.
+    App.Config.SelectedJD = jd;
+    SelDay = std::int16_t(index - cal.FirstWeekday + 1);
+    const ComputedDay day{cal.CurYear, cal.CurMonth, SelDay};
     if (day == LastComputedDay)
         return;
     LastComputedDay = day;
     if (App.Config.MouseClick)
         return;
-    SelectCell(index);
-    VsbHour->setValue(720);
+    VsbHour->setValue(720);     // its change event recomputes the framed day ...
+    App.Config.SelectedJD = jd; // ... but the panel shows the day under the pointer
     ComputeSelectedDay();
 }
 
@@ -623,8 +639,10 @@ void FrmCalendar::ApplyCurrentLocation()
 {
     Settings& s = App.Config;
     ApplyLocationValues(s, Here, App.Astro.Site);
-    DST[0]->setChecked(s.TimeFormats == 0);
-    DST[1]->setChecked(s.TimeFormats == 1);
+    if (s.TimeFormats == 0 || s.TimeFormats == 1) {
+        DST[0]->setChecked(s.TimeFormats == 0);
+        DST[1]->setChecked(s.TimeFormats == 1);
+    }
     Label[15]->setText(Q(FormatClock(0, VsbHour->value() / 60.0, s.AmPm())));
     VsbHour->update();
     StatusPanels[0]->setText(Q(Here.CurLocName));
@@ -677,6 +695,22 @@ void FrmCalendar::DLoc_Click(int index)
     for (int i = 1; i <= LocationCount; ++i)
         DLoc[std::size_t(i)]->setChecked(i == index);
     // The month redraw rebuilds the year's events for the new zone and hemisphere.
+    ApplyCurrentLocation();
+    RefreshMonth();
+}
+
+void FrmCalendar::Loc_Click(int index)
+{
+    Settings& s = App.Config;
+    s.CurLoc = static_cast<std::int16_t>(index);
+    hide();
+    FrmLocation editor({App.Messages, s.Locations, s.CurLoc, s.DefLoc, ProgramFolder::Path()},
+                       this);
+    editor.setWindowTitle(QStringLiteral("Location #%1 ").arg(index));
+    editor.exec();
+    // However the editor closed, the window comes back at the (possibly edited) location;
+    // the month redraw recomputes the year's events for it.
+    show();
     ApplyCurrentLocation();
     RefreshMonth();
 }
@@ -771,4 +805,27 @@ void FrmCalendar::closeEvent(QCloseEvent* event)
     SaveSettings(App.Config, App.Store);
     event->accept();
     QApplication::quit();
+}
+
+void FrmCalendar::PrintCalendar_Click()
+{
+    const BusyPointer busy;
+    if (!PrintWindow)
+        PrintWindow = new FrmPrint(App.Astro, App.Cal, App.Messages, this);
+    PrintWindow->PrintACalendar(Here.SouthernHemisphere);
+}
+
+void FrmCalendar::AtAGlance_Click()
+{
+    auto* glance = new FrmGlance(App.Cal, Here.SouthernHemisphere, App.Messages, this);
+    hide();
+    glance->show();
+}
+
+void FrmCalendar::ShowList_Click()
+{
+    auto* list =
+        new FrmList(App.Astro, App.Cal, Here.CurLocName, App.Config.AmPm(), App.Messages, this);
+    hide();
+    list->show();
 }

@@ -14,6 +14,7 @@
 struct AppState;
 class DayCellWidget;
 class FrmDetail;
+class FrmPrint;
 class QAction;
 class QGroupBox;
 class QLabel;
@@ -50,12 +51,17 @@ public:
     void Mouse_Click(int index);
     void Pangle_Click(int index);
     void DLoc_Click(int index);
+    // "Edit A Location": the location editor on location index, the main window out of view.
+    void Loc_Click(int index);
     void HelpContents_Click();
     void MnuAbout_Click();
     void VsbHour_Scroll();
     void Label15_Click();
     void StatusBar1_MouseMove(int xTwips);
     void RunDataBase_Click();
+    void PrintCalendar_Click();
+    void AtAGlance_Click();
+    void ShowList_Click();
 
     // The location-dependent parts of the window: captions, menus, status bar, hour label,
     // hemisphere pictures.
@@ -87,6 +93,10 @@ public:
 
     QAction* RunDataBase = nullptr;
     QAction* mnuyearly = nullptr;
+    QAction* PrintCalendar = nullptr;
+    QAction* AtAGlance = nullptr;
+    QAction* ShowList = nullptr;
+    FrmPrint* PrintWindow = nullptr; // made on first use
     QAction* mnuexit = nullptr;
     std::array<QAction*, 2> DST{};
     std::array<QAction*, 2> Mouse{};

@@ -6,6 +6,7 @@
 #include "cli/arguments.h"
 #include "cli/forecastrun.h"
 #include "cli/formats.h"
+#include "cli/pdfpages.h"
 #include "platform/clock.h"
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
@@ -122,10 +123,10 @@ std::string Month(const ForecastRequest& r, const NamedPlace& p)
 
 int Run(int argc, char** argv)
 {
-    QCoreApplication app(argc, argv);
     const std::vector<std::string> args(argv + 1, argv + argc);
     const QDate today = Clock::Now().date();
     const auto parsed = ParseArguments(args, today.year(), today.month());
+    const auto app = ApplicationFor(std::get_if<ForecastRequest>(&parsed), argc, argv);
     if (std::holds_alternative<HelpRequested>(parsed)) {
         std::cout << UsageText;
         return 0;
@@ -136,6 +137,12 @@ int Run(int argc, char** argv)
     }
     const ForecastRequest& r = std::get<ForecastRequest>(parsed);
     const NamedPlace place = PlaceOf(r);
+    if (!r.Pdf.empty()) {
+        const std::string error = WritePdfPages(r, place.Place, place.Name);
+        if (!error.empty())
+            std::cerr << "quillmere-forecast: " << error << "\n";
+        return error.empty() ? 0 : 1;
+    }
     switch (r.What) {
     case Command::Days:
         std::cout << Days(r, place);
@@ -145,6 +152,9 @@ int Run(int argc, char** argv)
         break;
     case Command::Month:
         std::cout << Month(r, place);
+        break;
+    case Command::CalendarPage:
+    case Command::Glance: // these always print (--pdf)
         break;
     }
     return 0;
