@@ -51,7 +51,7 @@ void DrawBody(QPainter& p, double x, double y, std::uint32_t colour, bool inside
     p.setBrush(inside ? QBrush(VbColor(colour)) : QBrush(Qt::NoBrush));
     if (!inside)
         p.setPen(QPen(VbColor(colour), 2));
-    p.drawEllipse(QPointF(x, y), 7, 7);
+    p.drawEllipse(QPointF(x, y), 6, 6);
 }
 } // namespace
 
@@ -164,10 +164,10 @@ void SkyStrip::paintEvent(QPaintEvent*)
     const int step = Kind == Scale::Azimuth ? 90 : 10;
     for (int d = 0; d <= (Kind == Scale::Azimuth ? 360 : 90); d += step)
         p.drawLine(QPointF(Px(d), height()), QPointF(Px(d), height() - 6));
-    const double y = height() / 2.0;
+    // The Sun above the Moon, so that both show when they stand together.
     const bool azimuth = Kind == Scale::Azimuth;
-    DrawBody(p, Px(Moon), y, MoonWhite, azimuth || (Moon >= 0.0 && Moon <= 90.0));
-    DrawBody(p, Px(Sun), y, SunYellow, azimuth || (Sun >= 0.0 && Sun <= 90.0));
+    DrawBody(p, Px(Moon), height() * 0.62, MoonWhite, azimuth || (Moon >= 0.0 && Moon <= 90.0));
+    DrawBody(p, Px(Sun), height() * 0.38, SunYellow, azimuth || (Sun >= 0.0 && Sun <= 90.0));
 }
 
 DayGraph::DayGraph(Astronomy& engine, Day day, QWidget* parent)
