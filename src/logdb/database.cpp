@@ -261,23 +261,25 @@ std::vector<ColumnInfo> Database::Columns(const QString& table) const
     return columns;
 }
 
+// A savepoint rather than BEGIN, so that a caller's own savepoint around many statements (a
+// whole chain of query steps) can hold them in one transaction.
 DbResult Database::RunInTransaction(const std::vector<QString>& statements)
 {
-    QSqlDatabase db = Connection();
-    if (!db.transaction())
-        return DbResult::Failure(ErrorText(db.lastError()));
-    QSqlQuery q(db);
+    QSqlQuery q(Connection());
+    if (!q.exec(QStringLiteral("SAVEPOINT jet_statement")))
+        return DbResult::Failure(ErrorText(q.lastError()));
     for (const QString& sql : statements) {
         if (!q.exec(sql)) {
             const QString reason = ErrorText(q.lastError());
             q.finish();
-            db.rollback();
+            q.exec(QStringLiteral("ROLLBACK TO jet_statement"));
+            q.exec(QStringLiteral("RELEASE jet_statement"));
             return DbResult::Failure(reason);
         }
     }
     q.finish();
-    if (!db.commit())
-        return DbResult::Failure(ErrorText(db.lastError()));
+    if (!q.exec(QStringLiteral("RELEASE jet_statement")))
+        return DbResult::Failure(ErrorText(q.lastError()));
     return DbResult::Success();
 }
 

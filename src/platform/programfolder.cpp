@@ -50,7 +50,7 @@ QString ProgramFolder::ShippedDataFolder()
     if (!env.isEmpty())
         candidates << QString::fromLocal8Bit(env);
     if (QCoreApplication::instance())
-        candidates << QCoreApplication::applicationDirPath() + "/../share/quillmere"
+        candidates << QCoreApplication::applicationDirPath() + "/" QUILLMERE_BIN_TO_DATA
                    << QCoreApplication::applicationDirPath() + "/data";
     candidates << QStringLiteral(QUILLMERE_DATA_DIR);
     for (const QString& c : candidates)
