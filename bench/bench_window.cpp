@@ -1,11 +1,17 @@
-// How quickly the main window answers a click on the next-month button: the year tables of
-// two months, the month's 37 cells, the selected day's forecast, the details and the moon
-// picture, and the repaint of the window (offscreen).
+// How quickly the windows answer: a click on the main window's next-month button (the year
+// tables of two months, the month's 37 cells, the selected day's forecast, the details and the
+// moon picture, and the repaint); a pointer move along the day graph (Sun and Moon at that
+// moment and the strips and read-outs repainted); filling the year calendar (twelve months and
+// the repaint). All offscreen.
 #include "app/appstate.h"
 #include "app/frmcalendar.h"
+#include "app/frmyearcal.h"
 #include "app/settingsio.h"
+#include "astro/timebase.h"
+#include "views/daygraph.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -32,7 +38,69 @@ void BM_IncMonthAndRepaint(benchmark::State& state)
     }
 }
 
+// Times one step from its start to the end of the repaint it causes.
+template <typename Step> void TimeEach(benchmark::State& state, Step step)
+{
+    for (auto _ : state) {
+        const auto start = std::chrono::steady_clock::now();
+        step();
+        QApplication::processEvents();
+        state.SetIterationTime(
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+}
+
+void BM_DayGraphPointerMove(benchmark::State& state)
+{
+    Astronomy engine;
+    engine.Site.SetPlace(92.42, 31.25, 6);
+    Calendar cal;
+    cal.CurYear = 2024;
+    cal.CurMonth = 6;
+    cal.SetYearTables(engine, 0);
+    const double jd = CivilToJd(2024, 6, 20);
+    DayGraph graph(engine, {jd, cal.YearDays[172], true, true});
+    graph.show();
+    double x = 0.0;
+    TimeEach(state, [&] {
+        x = x >= 6990.0 ? 0.0 : x + 10.0; // one pixel and a half along the line
+        graph.PicTi_MouseMove(x, 300.0);
+        graph.PicAZ->repaint();
+        graph.PicEL->repaint();
+        for (int i : {0, 4, 5, 8, 9})
+            graph.Label[std::size_t(i)]->repaint();
+    });
+}
+
+void BM_FillYearCal(benchmark::State& state)
+{
+    Astronomy engine;
+    Calendar cal;
+    cal.CurYear = 2024;
+    cal.CurMonth = 3;
+    FrmYearCal yearCal({cal, engine, 0, [](int) {}, [] {}});
+    yearCal.show();
+    TimeEach(state, [&] {
+        cal.CurYear = std::int16_t(cal.CurYear == 2024 ? 2023 : 2024);
+        yearCal.FillYearCal();
+        yearCal.repaint();
+    });
+}
+
 } // namespace
+
+BENCHMARK(BM_DayGraphPointerMove)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(1)
+    ->Repetitions(100)
+    ->ReportAggregatesOnly(true);
+BENCHMARK(BM_FillYearCal)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(1)
+    ->Repetitions(100)
+    ->ReportAggregatesOnly(true);
 
 // The median of 100 single clicks (with the mean and spread beside it).
 BENCHMARK(BM_IncMonthAndRepaint)

@@ -4,6 +4,7 @@
 #include "app/daycellwidget.h"
 #include "app/frmabout.h"
 #include "app/frmprint.h"
+#include "app/frmyearcal.h"
 #include "app/helpwindow.h"
 #include "app/settingsio.h"
 #include "app/stockpictures.h"
@@ -15,6 +16,8 @@
 #include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/twips.h"
+#include "views/daygraph.h"
+#include "views/frmdetail.h"
 #include "views/frmglance.h"
 #include "views/frmlist.h"
 
@@ -95,8 +98,8 @@ void FrmCalendar::ConnectHandlers()
     for (DayCellWidget* cell : txtpic) {
         connect(cell, &DayCellWidget::Clicked, this, &FrmCalendar::txtpic_Click);
         connect(cell, &DayCellWidget::MouseMoved, this, &FrmCalendar::txtpic_MouseMove);
-        connect(cell, &DayCellWidget::MousePressed, this,
-                [this](int i, Qt::MouseButton) { txtpic_MouseDown(i); });
+        connect(cell, &DayCellWidget::MousePressed, this, &FrmCalendar::txtpic_MouseDown);
+        connect(cell, &DayCellWidget::DoubleClicked, this, &FrmCalendar::txtpic_DblClick);
     }
     Timer1->start();
 }
@@ -223,6 +226,9 @@ void FrmCalendar::BuildMenus()
     RunDataBase = bar->addAction(QStringLiteral("DataBase"));
     RunDataBase->setObjectName(QStringLiteral("RunDataBase"));
     connect(RunDataBase, &QAction::triggered, this, &FrmCalendar::RunDataBase_Click);
+    mnuyearly = bar->addAction(QStringLiteral("&Yearly"));
+    mnuyearly->setObjectName(QStringLiteral("mnuyearly"));
+    connect(mnuyearly, &QAction::triggered, this, &FrmCalendar::mnuyearly_Click);
     QMenu* functions = bar->addMenu(QStringLiteral("&Functions"));
     functions->setObjectName(QStringLiteral("ProgFunctions"));
     PrintCalendar = Item(functions, QStringLiteral("&Print"), QStringLiteral("PrintCalendar"));
@@ -530,6 +536,9 @@ void FrmCalendar::SelectCell(int index)
 void FrmCalendar::txtpic_Click(int index)
 {
     SelectCell(index);
+    // The open details belong to the day they were opened on; a click on another day hides them.
+    if (Detail && Detail->isVisible() && index != DetailCell)
+        Detail->hide();
     if (!App.Config.MouseClick)
         return;
     VsbHour->setValue(720);
@@ -538,6 +547,8 @@ void FrmCalendar::txtpic_Click(int index)
 
 void FrmCalendar::txtpic_MouseMove(int index)
 {
+    if (Detail && Detail->isVisible())
+        return;
     const Calendar& cal = App.Cal;
     const double jd = CellJD(index);
     const int doy = int(jd - cal.YearStartJD) + 1;
@@ -567,10 +578,48 @@ void FrmCalendar::Form_MouseMove()
     LastHoveredCell = -1;
 }
 
-void FrmCalendar::txtpic_MouseDown(int index)
+void FrmCalendar::txtpic_MouseDown(int index, Qt::MouseButton button)
 {
     App.Config.SelectedJD = CellJD(index);
     Timer1_Timer();
+    if (button == Qt::RightButton && index == App.Cal.TodayCell)
+        ShowDayGraph();
+}
+
+// The press before a double click has set SelectedJD to the cell's day; the cell says it again.
+void FrmCalendar::txtpic_DblClick(int index) { DisplayDetails(CellJD(index), index); }
+
+void FrmCalendar::DisplayDetails(double jd, int cell)
+{
+    App.Config.SelectedJD = jd;
+    if (!Detail)
+        Detail = new FrmDetail(this);
+    DetailCell = cell;
+    Detail->move(Twips(DetailsLeft(cell)), Twips(DetailsTop));
+    const CivilDate d = JdToCivil(jd);
+    Detail->SetDay(d.Year, d.Month, d.Day, {App.Config.MonthFirstDates, App.Config.DateSeparator});
+    Detail->Timer1->start();
+    Detail->show();
+    Detail->ShowLines(DoDetails(App.Astro, App.Cal, jd, App.Config.AmPm()));
+}
+
+void FrmCalendar::ShowDayGraph()
+{
+    const Calendar& cal = App.Cal;
+    const double jd = App.Config.SelectedJD;
+    DayGraph::Day day{jd, cal.YearDays.at(std::size_t(jd - cal.YearStartJD) + 1), App.Config.AmPm(),
+                      App.Config.MonthFirstDates};
+    DayGraph graph(App.Astro, std::move(day), this);
+    graph.exec();
+}
+
+void FrmCalendar::mnuyearly_Click()
+{
+    FrmYearCal yearCal({App.Cal, App.Astro, Here.SouthernHemisphere,
+                        [this](int year) { VsbYear->setValue(year); }, [this] { RefreshMonth(); }},
+                       this);
+    yearCal.ShowYearCal();
+    yearCal.exec();
 }
 
 void FrmCalendar::PicM_Click()

@@ -13,6 +13,7 @@
 
 struct AppState;
 class DayCellWidget;
+class FrmDetail;
 class FrmPrint;
 class QAction;
 class QGroupBox;
@@ -40,7 +41,9 @@ public:
     void Timer1_Timer();
     void txtpic_Click(int index);
     void txtpic_MouseMove(int index);
-    void txtpic_MouseDown(int index);
+    void txtpic_MouseDown(int index, Qt::MouseButton button = Qt::LeftButton);
+    void txtpic_DblClick(int index);
+    void mnuyearly_Click();
     void PicM_Click();
     void PicM_MouseMove();
     void mnuexit_Click();
@@ -69,6 +72,10 @@ public:
     void SetHemispherePictures();
     // Fills the day details beside the grid from the selected day's forecast.
     void DoLabels();
+    // Opens the day detail window beside the grid, away from the cell, and fills it.
+    void DisplayDetails(double jd, int cell);
+    // The modal day graph of the selected day.
+    void ShowDayGraph();
 
     // Controls, by their names.
     QPushButton* IncMonth = nullptr;
@@ -85,6 +92,7 @@ public:
     QTimer* Timer1 = nullptr;
 
     QAction* RunDataBase = nullptr;
+    QAction* mnuyearly = nullptr;
     QAction* PrintCalendar = nullptr;
     QAction* AtAGlance = nullptr;
     QAction* ShowList = nullptr;
@@ -114,7 +122,9 @@ public:
     };
     ComputedDay LastComputedDay;
     bool ComputingSuppressed = true;
-    DayPanel Panel; // what DoLabels last showed
+    DayPanel Panel;              // what DoLabels last showed
+    FrmDetail* Detail = nullptr; // the day detail window, made on the first double click
+    int DetailCell = -1;         // the cell it shows
 
 protected:
     // Each time the window is shown (at start and when it comes back from a window that hid

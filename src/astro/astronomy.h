@@ -111,11 +111,14 @@ public:
     std::array<double, 2> PerigeeTimes{};     // perigee, the apogee after it
     std::array<double, 3> DeclinationTimes{}; // [1] greatest north, [2] greatest south
     std::array<double, 5> SeasonTimes{};      // [1..4] equinoxes and solstices, dynamical time
+    std::array<double, 2> EarthApsisTimes{};  // the Earth's perihelion and aphelion
     // Each takes the cycle number k of its chapter (whole k: the cycle's first event).
     void MoonPhases(double k);
     void PerigeeApogee(double k);
     void MaxDeclinations(double k);
     void Seasons(double year);
+    // The Earth's perihelion and aphelion of a year (Meeus ch. 38 with Table 38.A).
+    void EarthApsides(int year);
 
 private:
     // Positions at 0h of recent days for the event drivers: consecutive days share two of their
@@ -147,6 +150,9 @@ private:
     HourAngle LocalHourAngle(double jd, double alpha, double latitudeDeg, double longitudeDeg,
                              double epsilon);
 };
+
+// The Earth's distance from the Sun in astronomical units (VSOP87 R series, Meeus ch. 32).
+double EarthSunDistance(double jde);
 
 // 100 x the illuminated fraction, halves rounded to even.
 std::int16_t IllumPercentOf(double fraction);

@@ -20,6 +20,15 @@ template <std::size_t N> double Series(const std::array<VsopTerm, N>& terms, dou
 double Frac(double x) { return x - std::floor(x); }
 } // namespace
 
+double EarthSunDistance(double jde)
+{
+    const double tau = MillenniaSinceJ2000(jde);
+    return Series(Vsop87EarthR0, tau) +
+           tau * (Series(Vsop87EarthR1, tau) +
+                  tau * (Series(Vsop87EarthR2, tau) +
+                         tau * (Series(Vsop87EarthR3, tau) + tau * Series(Vsop87EarthR4, tau))));
+}
+
 void Astronomy::SunPosition(double jd)
 {
     const double tau = MillenniaSinceJ2000(jd);
@@ -31,11 +40,7 @@ void Astronomy::SunPosition(double jd)
                     tau * (Series(Vsop87EarthL3, tau) +
                            tau * (Series(Vsop87EarthL4, tau) + tau * Series(Vsop87EarthL5, tau)))));
     const double B = Series(Vsop87EarthB0, tau) + tau * Series(Vsop87EarthB1, tau);
-    const double R =
-        Series(Vsop87EarthR0, tau) +
-        tau * (Series(Vsop87EarthR1, tau) +
-               tau * (Series(Vsop87EarthR2, tau) +
-                      tau * (Series(Vsop87EarthR3, tau) + tau * Series(Vsop87EarthR4, tau))));
+    const double R = EarthSunDistance(jd);
 
     double Theta = WrapInto(L + Pi, TwoPi);
     double beta = -B;

@@ -18,8 +18,10 @@ struct DayMarks {
     std::int16_t Declination = 0; // 1 greatest north, 2 greatest south
     std::int16_t MoonAge = 0;     // whole days since the last new moon
     double PhaseJD = 0.0, PerigeeJD = 0.0, DeclinationJD = 0.0, SeasonJD = 0.0;
-    std::int16_t Season = 0; // 1 March equinox .. 4 December solstice
-    std::int16_t Rating = 0; // 0..4, 4 best
+    std::int16_t Season = 0;     // 1 March equinox .. 4 December solstice
+    std::int16_t EarthApsis = 0; // 1 the Earth at perihelion, 2 at aphelion
+    double EarthApsisJD = 0.0;   // local clock time
+    std::int16_t Rating = 0;     // 0..4, 4 best
 };
 
 // What one cell of the month grid shows.

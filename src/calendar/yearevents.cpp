@@ -72,6 +72,13 @@ void SetYearEvents(Calendar& cal, Astronomy& engine, std::int16_t southernHemisp
             EventWriter::Caption(*r, SeasonCaptions[s - 1]);
         }
 
+    engine.EarthApsides(cal.CurYear);
+    for (std::size_t i = 0; i < 2; ++i)
+        if (DayMarks* r = w.DayWithinYear(engine.EarthApsisTimes[i])) {
+            r->EarthApsis = std::int16_t(i + 1);
+            r->EarthApsisJD = engine.EarthApsisTimes[i];
+        }
+
     WalkCycles(FirstDeclinationCycle(before), after, [&](double k) {
         engine.MaxDeclinations(k);
         for (std::size_t i = 1; i <= 2; ++i)
