@@ -105,6 +105,10 @@ void Astronomy::SunEventsForDay(double jd)
         s(r, 0) = LocalHours(PositionResult[1]);
         s(r, 1) = LocalHours(PositionResult[0]);
         s(r, 2) = LocalHours(PositionResult[2]);
+        Forecast.SunStatus[std::size_t(r)] = {static_cast<std::int16_t>(PositionResult[10]),
+                                              static_cast<std::int16_t>(PositionResult[9]),
+                                              static_cast<std::int16_t>(PositionResult[11]),
+                                              AboveHorizonState};
         if (r == 0) {
             s(0, 3) = PositionResult[4];
             s(0, 4) = PositionResult[3];

@@ -32,4 +32,5 @@ public:
 
 private:
     void UseYear(int year);
+    bool LowerTransitInDay(double J);
 };
