@@ -2,7 +2,9 @@
 """Accuracy of per-day rise/set/transit/twilight times in forecast CSV files, against python3-ephem.
 
 Each CSV is named with its place as FILE:LAT:LON_EAST:ZONE_WEST (degrees; zone in hours, positive
-west of Greenwich; local clock = UT - zone). Times in the CSV are local clock hours of the local day.
+west of Greenwich; local clock = UT - zone). Times in the CSV are local clock hours of the local day;
+an empty cell says the event does not happen in that day (the Sun or Moon stays above or below the
+altitude, or the event falls on another day), which agrees with a reference that has none either.
 """
 import argparse
 import csv
@@ -102,6 +104,11 @@ class Stats:
     def worst(self):
         return max(self.errors)[0] if self.errors else 0.0
 
+    def share_within(self, minutes):
+        """Percent of the events either side has that agree within `minutes`."""
+        total = len(self.errors) + self.only_file + self.only_reference + self.no_crossing
+        return 100.0 * sum(e[0] <= minutes for e in self.errors) / total if total else 0.0
+
     def line(self, column):
         n = len(self.errors)
         if n == 0:
@@ -136,7 +143,7 @@ def compare(sources):
     return stats
 
 
-def report(stats, max_minutes):
+def report(stats, max_minutes, min_share=None):
     print(f'{"quantity":18} {"count":>7} {"<=0.5m":>7} {"<=1m":>7} {"max(min)":>9} {"rms":>8} '
           f'{"only-csv":>7} {"only-ref":>7}')
     failed = []
@@ -146,6 +153,8 @@ def report(stats, max_minutes):
             print(f'{"":18} {s.no_crossing} twilight times where the Sun never reaches that altitude (known difference)')
         if max_minutes is not None and (s.worst() > max_minutes or not s.errors):
             failed.append(column)
+        if min_share is not None and s.share_within(1.0) < min_share:
+            failed.append(f'{column} ({s.share_within(1.0):.2f}% within 1 min of all events)')
     if failed:
         print(f'FAIL: largest error above {max_minutes} min (or nothing compared): {", ".join(failed)}')
     return 1 if failed else 0
@@ -216,6 +225,9 @@ def main():
     ap = argparse.ArgumentParser(description=__doc__)
     ap.add_argument('csv', nargs='*', help='FILE:LAT:LON_EAST:ZONE_WEST')
     ap.add_argument('--max-minutes', type=float, help='exit non-zero when a largest error exceeds this')
+    ap.add_argument('--min-share', type=float,
+                    help='exit non-zero when a quantity has fewer than this percent of all events '
+                         '(compared, missed on either side) within one minute')
     ap.add_argument('--generate', metavar='COMMAND',
                     help='forecast command template run per place; fields {start} {days} {lat} {lon} '
                          '{zone} {lat_ns} {lon_ew}')
@@ -233,7 +245,7 @@ def main():
         sources += generate(args.generate, args.start, args.days, outdir)
     if not sources:
         ap.error('no CSV files given')
-    return report(compare(sources), args.max_minutes)
+    return report(compare(sources), args.max_minutes, args.min_share)
 
 
 if __name__ == '__main__':
