@@ -84,7 +84,7 @@ public:
         const CivilDate c = JdToCivil(std::floor(local + 0.5 + 0.5 / 1440.0) - 0.5);
         if (c.Year != Year)
             return;
-        Events.push_back({type, ut, local, c.Year, c.Month, int(c.Day), caption});
+        Events.push_back({type, ut, local, c.Year, c.Month, c.Day, caption});
     }
 
     std::vector<EventRow> Events;
