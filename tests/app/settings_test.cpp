@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
@@ -116,6 +117,7 @@ TEST(Settings, HandWrittenFileIsReadWholeAndRangeChecked)
 {
     SettingsStore store = FreshStore();
     const auto writeFile = [&store](const QByteArray& settings) {
+        QFileInfo(store.FilePath()).dir().mkpath(QStringLiteral("."));
         QFile file(store.FilePath());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write("[Settings]\n" + settings);
