@@ -24,29 +24,61 @@ void DayCellWidget::SetFramed(bool framed)
     update();
 }
 
+namespace {
+// The selection frame's pen and the gap kept between it and the content.
+constexpr int FramePen = 3, Margin = 1;
+
+QFont BoldOf(const QFont& f)
+{
+    QFont bold = f;
+    bold.setBold(true);
+    return bold;
+}
+
+QString MarksText(int marks) { return QString("^^").repeated(marks); }
+} // namespace
+
+DayCellWidget::Placement DayCellWidget::Place() const
+{
+    Placement p;
+    p.Inside = rect().adjusted(FramePen + Margin, FramePen + Margin, -(FramePen + Margin),
+                               -(FramePen + Margin));
+    const QFontMetrics fm(BoldOf(font()));
+    p.Number = QRect(p.Inside.topLeft(), fm.boundingRect(Now.Number).size());
+    // The marks' line is as tall as a caret's ink, just below the number.
+    const QRect caret = fm.tightBoundingRect(QStringLiteral("^"));
+    p.Marks = QRect(p.Inside.left(), p.Number.bottom() + 1,
+                    fm.horizontalAdvance(MarksText(Now.Marks)), caret.height());
+    if (!Now.Phase.isNull())
+        p.Phase = QRect(QPoint(p.Inside.right() + 1 - Now.Phase.width(), p.Inside.top()),
+                        Now.Phase.size());
+    if (!Now.Rating.isNull())
+        p.Rating = QRect(QPoint(p.Inside.left(), p.Inside.bottom() + 1 - Now.Rating.height()),
+                         Now.Rating.size());
+    return p;
+}
+
 void DayCellWidget::paintEvent(QPaintEvent*)
 {
     QPainter p(this);
     p.fillRect(rect(), Now.Background);
+    const Placement at = Place();
     if (!Now.Phase.isNull())
-        p.drawPixmap(TwipsPoint(520, 1), Now.Phase);
+        p.drawPixmap(at.Phase.topLeft(), Now.Phase);
     if (!Now.Rating.isNull())
-        p.drawPixmap(TwipsPoint(1, 200), Now.Rating);
+        p.drawPixmap(at.Rating.topLeft(), Now.Rating);
 
-    QFont bold = font();
-    bold.setBold(true);
-    p.setFont(bold);
-    const QFontMetrics fm(bold);
-    const QString number = " " + Now.Number + " ";
+    p.setFont(BoldOf(font()));
+    const QFontMetrics fm(p.font());
     p.setPen(Now.TextColor);
-    p.drawText(0, fm.ascent(), number);
+    p.drawText(at.Number.left(), at.Number.top() + fm.ascent(), Now.Number);
     p.setPen(VbColor(0x0000FF));
-    p.drawText(fm.horizontalAdvance(number), fm.ascent(), QString("^^").repeated(Now.Marks));
+    const int caretTop = fm.tightBoundingRect(QStringLiteral("^")).top(); // above the baseline
+    p.drawText(at.Marks.left(), at.Marks.top() - caretTop, MarksText(Now.Marks));
 
     if (IsFramed) {
-        // Pen width 3 from (-15, -20) to (width + 5, height + 5) twips: along the cell's edges.
-        p.setPen(QPen(VbColor(0x0000FF), 3));
-        p.drawRect(QRectF(1, 1, width() - 2.5, height() - 2.5));
+        p.setPen(QPen(VbColor(0x0000FF), FramePen));
+        p.drawRect(QRectF(1.5, 1.5, width() - 3.0, height() - 3.0));
     }
 }
 

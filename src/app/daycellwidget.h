@@ -1,6 +1,7 @@
-// One day cell of the month grid: background, the day number with its "^^" marks, the
-// phase picture at (520, 1) and the rating picture at (1, 200) twips, and the red frame of
-// the selected day. It paints what it is given and reports the mouse to the window.
+// One day cell of the month grid: background, the day number with its "^^" marks below it,
+// the phase picture at the top right, the rating picture at the bottom left, and the red
+// frame of the selected day along the edges, clear of all of them. It paints what it is given
+// and reports the mouse to the window.
 #pragma once
 
 #include <QPixmap>
@@ -26,6 +27,13 @@ public:
     void SetFramed(bool framed);
     bool Framed() const { return IsFramed; }
     int Index() const { return CellIndex; }
+
+    // Where each part of the content is painted, in the cell's pixels.
+    struct Placement {
+        QRect Number, Marks, Phase, Rating;
+        QRect Inside; // within the selection frame
+    };
+    Placement Place() const;
 
 signals:
     void Clicked(int index);

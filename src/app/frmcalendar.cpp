@@ -3,6 +3,7 @@
 #include "app/appstate.h"
 #include "app/daycellwidget.h"
 #include "app/frmabout.h"
+#include "app/frmprint.h"
 #include "app/helpwindow.h"
 #include "app/settingsio.h"
 #include "app/stockpictures.h"
@@ -13,6 +14,8 @@
 #include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/twips.h"
+#include "views/frmglance.h"
+#include "views/frmlist.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -219,6 +222,14 @@ void FrmCalendar::BuildMenus()
     RunDataBase = bar->addAction(QStringLiteral("DataBase"));
     RunDataBase->setObjectName(QStringLiteral("RunDataBase"));
     connect(RunDataBase, &QAction::triggered, this, &FrmCalendar::RunDataBase_Click);
+    QMenu* functions = bar->addMenu(QStringLiteral("&Functions"));
+    functions->setObjectName(QStringLiteral("ProgFunctions"));
+    PrintCalendar = Item(functions, QStringLiteral("&Print"), QStringLiteral("PrintCalendar"));
+    AtAGlance = Item(functions, QStringLiteral("@Glance"), QStringLiteral("AtAGlance"));
+    ShowList = Item(functions, QStringLiteral("&Table"), QStringLiteral("ShowList"));
+    connect(PrintCalendar, &QAction::triggered, this, &FrmCalendar::PrintCalendar_Click);
+    connect(AtAGlance, &QAction::triggered, this, &FrmCalendar::AtAGlance_Click);
+    connect(ShowList, &QAction::triggered, this, &FrmCalendar::ShowList_Click);
     QMenu* options = bar->addMenu(QStringLiteral("&Options"));
     options->setObjectName(QStringLiteral("SetOptions"));
     QMenu* formats = options->addMenu(QStringLiteral("Time Formats"));
@@ -534,14 +545,17 @@ void FrmCalendar::txtpic_MouseMove(int index)
                           QString(" %1").arg(daysInYear - doy) + " days remain");
         LastHoveredCell = index;
     }
-    const ComputedDay day{cal.CurYear, cal.CurMonth, index - cal.FirstWeekday + 1};
+    // The hovered day is the selected day for the panel; the frame stays on the clicked cell.
+    App.Config.SelectedJD = jd;
+    SelDay = std::int16_t(index - cal.FirstWeekday + 1);
+    const ComputedDay day{cal.CurYear, cal.CurMonth, SelDay};
     if (day == LastComputedDay)
         return;
     LastComputedDay = day;
     if (App.Config.MouseClick)
         return;
-    SelectCell(index);
-    VsbHour->setValue(720);
+    VsbHour->setValue(720);     // its change event recomputes the framed day ...
+    App.Config.SelectedJD = jd; // ... but the panel shows the day under the pointer
     ComputeSelectedDay();
 }
 
@@ -574,8 +588,10 @@ void FrmCalendar::ApplyCurrentLocation()
 {
     Settings& s = App.Config;
     ApplyLocationValues(s, Here, App.Astro.Site);
-    DST[0]->setChecked(s.TimeFormats == 0);
-    DST[1]->setChecked(s.TimeFormats == 1);
+    if (s.TimeFormats == 0 || s.TimeFormats == 1) {
+        DST[0]->setChecked(s.TimeFormats == 0);
+        DST[1]->setChecked(s.TimeFormats == 1);
+    }
     Label[15]->setText(Q(FormatClock(0, VsbHour->value() / 60.0, s.AmPm())));
     VsbHour->update();
     StatusPanels[0]->setText(Q(Here.CurLocName));
@@ -732,4 +748,27 @@ void FrmCalendar::closeEvent(QCloseEvent* event)
     }
     event->accept();
     QApplication::quit();
+}
+
+void FrmCalendar::PrintCalendar_Click()
+{
+    const BusyPointer busy;
+    if (!PrintWindow)
+        PrintWindow = new FrmPrint(App.Astro, App.Cal, App.Messages, this);
+    PrintWindow->PrintACalendar(Here.SouthernHemisphere);
+}
+
+void FrmCalendar::AtAGlance_Click()
+{
+    auto* glance = new FrmGlance(App.Cal, Here.SouthernHemisphere, App.Messages, this);
+    hide();
+    glance->show();
+}
+
+void FrmCalendar::ShowList_Click()
+{
+    auto* list =
+        new FrmList(App.Astro, App.Cal, Here.CurLocName, App.Config.AmPm(), App.Messages, this);
+    hide();
+    list->show();
 }

@@ -13,6 +13,7 @@
 
 struct AppState;
 class DayCellWidget;
+class FrmPrint;
 class QAction;
 class QGroupBox;
 class QLabel;
@@ -53,6 +54,9 @@ public:
     void Label15_Click();
     void StatusBar1_MouseMove(int xTwips);
     void RunDataBase_Click();
+    void PrintCalendar_Click();
+    void AtAGlance_Click();
+    void ShowList_Click();
 
     // The location-dependent parts of the window: captions, menus, status bar, hour label,
     // hemisphere pictures.
@@ -79,6 +83,10 @@ public:
     QTimer* Timer1 = nullptr;
 
     QAction* RunDataBase = nullptr;
+    QAction* PrintCalendar = nullptr;
+    QAction* AtAGlance = nullptr;
+    QAction* ShowList = nullptr;
+    FrmPrint* PrintWindow = nullptr; // made on first use
     QAction* mnuexit = nullptr;
     std::array<QAction*, 2> DST{};
     std::array<QAction*, 2> Mouse{};

@@ -30,11 +30,12 @@ QPixmap Transparent(int w, int h)
 }
 } // namespace
 
-QPixmap FishPicture(int rating)
+void PaintFish(QPainter& p, const QRectF& box, int rating)
 {
-    QPixmap pixmap = Transparent(FishWidth, FishHeight);
-    QPainter p(&pixmap);
+    p.save();
     p.setRenderHint(QPainter::Antialiasing);
+    p.translate(box.topLeft());
+    p.scale(box.width() / FishWidth, box.height() / FishHeight);
     // The fish is shown from the head back: a quarter of its length per step of the rating.
     p.setClipRect(QRectF(0, 0, FishWidth * rating / 4.0, FishHeight));
     p.setPen(QPen(FishOutline, 1.0));
@@ -43,14 +44,23 @@ QPixmap FishPicture(int rating)
     p.setPen(Qt::NoPen);
     p.setBrush(Qt::white);
     p.drawEllipse(QPointF(5.5, 6.0), 1.6, 1.6);
+    p.restore();
+}
+
+QPixmap FishPicture(int rating)
+{
+    QPixmap pixmap = Transparent(FishWidth, FishHeight);
+    QPainter p(&pixmap);
+    PaintFish(p, QRectF(0, 0, FishWidth, FishHeight), rating);
     return pixmap;
 }
 
-QPixmap PhaseSymbol(int phase)
+void PaintPhase(QPainter& p, const QRectF& box, int phase)
 {
-    QPixmap pixmap = Transparent(PhaseSize, PhaseSize);
-    QPainter p(&pixmap);
+    p.save();
     p.setRenderHint(QPainter::Antialiasing);
+    p.translate(box.topLeft());
+    p.scale(box.width() / PhaseSize, box.height() / PhaseSize);
     const QRectF disc(1.0, 1.0, PhaseSize - 2.0, PhaseSize - 2.0);
     p.setPen(QPen(Rim, 1.0));
     p.setBrush(phase == 3 ? Lit : Dark);
@@ -61,5 +71,20 @@ QPixmap PhaseSymbol(int phase)
         p.setBrush(Lit);
         p.drawPie(disc, 90 * 16, (phase == 2 ? -180 : 180) * 16);
     }
+    p.restore();
+}
+
+QPixmap PhaseSymbol(int phase)
+{
+    QPixmap pixmap = Transparent(PhaseSize, PhaseSize);
+    QPainter p(&pixmap);
+    PaintPhase(p, QRectF(0, 0, PhaseSize, PhaseSize), phase);
     return pixmap;
+}
+
+int HemispherePhaseSymbol(int phase, bool southern)
+{
+    if (southern && (phase == 2 || phase == 4))
+        return 6 - phase;
+    return phase;
 }

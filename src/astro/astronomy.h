@@ -133,7 +133,10 @@ private:
     const DayPosition& MoonAtDay(double jd);
 
     double LocalHours(double utHours) const;
+    double ChosenInstant(double jd) const;
     void PrepareEventSearch(double J0, double altitude, double zoneHours);
+    void SearchMoonEvents(double J0);
+    void SettleMoonEventsAtMidnight(double J0);
     std::string Clock(double hours) const;
 
     // Local hour angle and latitude shared by the horizon and parallactic conversions.

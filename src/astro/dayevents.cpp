@@ -3,6 +3,8 @@
 #include "astro/astronomy.h"
 #include "astro/mathutil.h"
 
+#include <cmath>
+
 namespace {
 // h0 for the Moon: 0.7275 x horizontal parallax - 0.57 degrees (Meeus ch. 15).
 constexpr double MoonRefraction = 0.009948376736367668;
@@ -57,9 +59,8 @@ void Astronomy::PrepareEventSearch(double J0, double altitude, double zoneHours)
     EventZoneHours = zoneHours;
 }
 
-void Astronomy::MoonEventsForDay(double jd)
+void Astronomy::SearchMoonEvents(double J0)
 {
-    const double J0 = JulianDay0(jd);
     double parallax = 0.0;
     for (int i = 1; i <= 3; ++i) {
         const DayPosition& p = MoonAtDay(J0 + i - 2);
@@ -71,6 +72,41 @@ void Astronomy::MoonEventsForDay(double jd)
     PrepareEventSearch(J0, 0.7275 * parallax - MoonRefraction,
                        Site.CurTimeZone + 24.0 * Site.DstOffsetDays);
     FindEvents();
+}
+
+// Each day's search interpolates its own three days of positions, so two neighbouring days
+// can disagree by seconds on which side of their common midnight an event falls, and then
+// both or neither would report it. An event that close to the end of the day is taken as the
+// next day's search finds it: the day it falls in by that search reports it, the other not.
+void Astronomy::SettleMoonEventsAtMidnight(double J0)
+{
+    const double Z = EventZoneHours / 24.0;
+    const auto nearEnd = [&](std::size_t k) {
+        return std::fabs(PositionResult[k] / 24.0 - Z - 1.0) < 2.0 * EventTolerance;
+    };
+    if (!nearEnd(0) && !nearEnd(1) && !nearEnd(2))
+        return;
+    const std::array<double, 20> today = PositionResult;
+    const std::int16_t state = AboveHorizonState;
+    SearchMoonEvents(J0 + 1.0);
+    const std::array<double, 20> next = PositionResult;
+    PositionResult = today;
+    AboveHorizonState = state;
+    for (std::size_t k = 0; k < 3; ++k) {
+        const double d = next[k] / 24.0 - Z; // from the start of the next day
+        if (!nearEnd(k) || std::fabs(d) >= 2.0 * EventTolerance)
+            continue;
+        PositionResult[k] = next[k] + 24.0;
+        PositionResult[3 + k] = next[3 + k];
+        PositionResult[9 + k] = d < 0.0 ? 0.0 : 2.0;
+    }
+}
+
+void Astronomy::MoonEventsForDay(double jd)
+{
+    const double J0 = JulianDay0(jd);
+    SearchMoonEvents(J0);
+    SettleMoonEventsAtMidnight(J0);
     MoonRiseHour = LocalHours(PositionResult[1]);
     MoonTransitHour = LocalHours(PositionResult[0]);
     MoonSetHour = LocalHours(PositionResult[2]);

@@ -22,9 +22,9 @@ void Astronomy::ComputeSunDay(double jd)
     f.SunsetText = Clock(f.SunEvents(0, 2));
     f.DayLength = f.SunEvents(0, 2) - f.SunEvents(0, 0);
 
-    SunPosition(jd + Site.HourInstant);
+    const double t = ChosenInstant(jd);
+    SunPosition(t);
     const double alpha = PositionResult[3], delta = PositionResult[4];
-    const double t = jd + Site.HourInstant - Site.ZoneDays + Site.DstOffsetDays;
     const Horizontal sky = HorizontalPosition(t, alpha, delta, Site.CurLatitude, Site.CurLongitude);
     f.SkyPosition[0] = sky.Azimuth;
     f.SkyPosition[2] = sky.Altitude;
@@ -43,7 +43,8 @@ void Astronomy::ComputeDay(double jd)
         MoonEventsForDay(jd + 1.0);
         const double next = MoonTransitHour;
         f.MoonEvents = today;
-        T = T + ((next + 24.0) - previous) / 2.0;
+        // The mean can pass midnight; clock hours stay in [0, 24).
+        T = WrapInto(T + ((next + 24.0) - previous) / 2.0, 24.0);
         MoonTransitHour = T;
         f.Major1Text = "*" + Clock(T) + "*";
     } else {
@@ -51,20 +52,19 @@ void Astronomy::ComputeDay(double jd)
     }
     SetPeriods(T);
 
-    MoonPosition(jd + Site.HourInstant);
+    const double now = ChosenInstant(jd);
+    MoonPosition(now);
     f.IllumFraction = PositionResult[4];
     f.BrightLimbAngle = PositionResult[5];
     f.Waxing = f.BrightLimbAngle > 3.14159265358979 ? 1 : 0;
     f.IllumPercent = IllumPercentOf(f.IllumFraction);
     const double alpha = PositionResult[7], delta = PositionResult[8];
-    const double t = Site.TimeFormats == 2
-                         ? jd + Site.HourInstant - 15.0 / 1440.0
-                         : jd + Site.HourInstant - Site.ZoneDays + Site.DstOffsetDays;
+    const double t = Site.TimeFormats == 2 ? now - 15.0 / 1440.0 : now;
     const Horizontal sky = HorizontalPosition(t, alpha, delta, Site.CurLatitude, Site.CurLongitude);
     f.SkyPosition[1] = sky.Azimuth;
     f.SkyPosition[3] = sky.Altitude;
-    f.MoonParallacticAngle = ParallacticAngleNow(jd + Site.HourInstant + Site.DstOffsetDays, alpha,
-                                                 delta, Site.CurLatitude, Site.CurLongitude);
+    f.MoonParallacticAngle =
+        ParallacticAngleNow(now, alpha, delta, Site.CurLatitude, Site.CurLongitude);
 }
 
 // The majors are centred on the upper transit T and half a lunar day from it; the minors a
@@ -93,6 +93,13 @@ void Astronomy::SetPeriods(double T)
             *text = Clock(*minor);
         }
     }
+}
+
+// The universal-time instant of the chosen hour on the day at 0h jd: local clock time plus the
+// zone and the daylight-saving offset (HourInstant already holds the zone).
+double Astronomy::ChosenInstant(double jd) const
+{
+    return jd + Site.HourInstant + Site.DstOffsetDays;
 }
 
 std::string Astronomy::Clock(double hours) const { return FormatClock(0, hours, Site.AMPM); }

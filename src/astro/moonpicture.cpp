@@ -119,7 +119,8 @@ MoonPictures DrawMoon(QSize picSize, const MoonLook& look, const std::optional<M
         PrintPercent(result.PicM, {W / 2.0, H / 2.0}, look.IllumPercent);
         return result;
     }
-    const double angle = look.SouthernHemisphere == -1 ? turn->MoonParallacticAngle + Pi
+    // The southern disc is drawn half a turn round, so it turns by pi - q to stand as in the sky.
+    const double angle = look.SouthernHemisphere == -1 ? Pi - turn->MoonParallacticAngle
                                                        : -turn->MoonParallacticAngle;
     result.ToPict = QImage(turn->ToPictSize, QImage::Format_RGB32);
     result.ToPict.fill(RgbOf(look.BackColor));

@@ -15,12 +15,14 @@ struct Observer {
     double HourInstant = 0.5; // hour bar / 1440 + ZoneDays
     bool AMPM = true;         // clock texts with " AM"/" PM"
 
-    // Moves to a place in standard time; daylight saving and the chosen hour stay as they are.
+    // Moves to a place in standard time; daylight saving and the chosen clock hour stay as they
+    // are, so the instant of the chosen hour moves with the zone.
     void SetPlace(double lonWest, double latNorth, std::int16_t zone)
     {
         CurLongitude = lonWest;
         CurLatitude = latNorth;
         CurTimeZone = zone;
+        HourInstant += zone / 24.0 - ZoneDays;
         ZoneDays = zone / 24.0;
     }
 };

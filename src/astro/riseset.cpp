@@ -3,6 +3,7 @@
 #include "astro/astronomy.h"
 #include "astro/mathutil.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -18,6 +19,23 @@ double IntoLocalDay(double m, double z)
     if (m - 1.0 > z)
         m -= 1.0;
     return m;
+}
+
+bool InLocalDay(double m, double z)
+{
+    const double d = m - z;
+    return d >= 0.0 && d < 1.0;
+}
+
+// Azimuth from north of a body at altitude h0 with declination delta, rising or setting:
+// cos A = (sin delta - sin phi sin h0) / (cos phi cos h0) (Meeus eq. 13.6 solved for A). The
+// cosine is clamped so that a body grazing the horizon at a polar place gives north or south.
+double HorizonAzimuth(double delta, double phi, double h0, bool setting)
+{
+    const double cosA =
+        (std::sin(delta) - std::sin(phi) * std::sin(h0)) / (std::cos(phi) * std::cos(h0));
+    const double A = std::acos(std::clamp(cosA, -1.0, 1.0));
+    return setting ? TwoPi - A : A;
 }
 } // namespace
 
@@ -58,9 +76,12 @@ void Astronomy::FindEvents()
     if (m[2] > 1)
         m[2] -= 1.0;
 
-    const int events = AboveHorizonState == 0 ? 3 : 1;
-    for (int k = 0; k < events; ++k) {
-        double mk = IntoLocalDay(m[std::size_t(k)], Z);
+    // The event k (0 transit, 1 rise, 2 set) refined from the estimate mk: its time, the last
+    // hour angle and the declination interpolated at it.
+    struct Refinement {
+        double m, H, delta;
+    };
+    const auto Refine = [&](std::size_t k, double mk) {
         double H = 0.0, delta = d2;
         for (int round = 0; round < MaxRounds; ++round) {
             const double theta = WrapInto(Theta0 + SiderealRate * mk, TwoPi);
@@ -82,26 +103,36 @@ void Astronomy::FindEvents()
                 dm = (h - h0) / (TwoPi * std::cos(delta) * std::cos(phi) * std::sin(H));
             }
             mk += dm;
-            if (std::fabs(dm) < 0.0001)
+            if (std::fabs(dm) < EventTolerance)
                 break;
         }
-        m[std::size_t(k)] = mk;
-        const double d = mk - Z;
-        const bool inDay = d >= 0.0 && d < 1.0;
-        PositionResult[std::size_t(9 + k)] = inDay ? 0.0 : 2.0;
-        if (!inDay)
-            continue;
+        return Refinement{mk, H, delta};
+    };
+    const std::size_t events = AboveHorizonState == 0 ? 3 : 1;
+    for (std::size_t k = 0; k < 3; ++k) {
+        // Rise and set that are not searched for have no extras, never a previous search's.
+        PositionResult[3 + k] = 0.0;
+        PositionResult[9 + k] = 2.0;
+    }
+    for (std::size_t k = 0; k < events; ++k) {
+        const double first = IntoLocalDay(m[k], Z);
+        Refinement r = Refine(k, first);
+        // An estimate near midnight can walk out of the day; the day's own event is then the
+        // one refined from the estimate a day the other way.
+        if (!InLocalDay(r.m, Z)) {
+            const Refinement other = Refine(k, first + (r.m - Z >= 1.0 ? -1.0 : 1.0));
+            if (InLocalDay(other.m, Z))
+                r = other;
+        }
+        m[k] = r.m;
+        PositionResult[9 + k] = InLocalDay(r.m, Z) ? 0.0 : 2.0;
+        // The extras belong to the event found, in the day or not.
         if (k == 0)
             PositionResult[3] =
-                ArcSin(std::sin(d2) * std::sin(phi) + std::cos(d2) * std::cos(phi) * std::cos(H));
-        else if (k == 1)
-            PositionResult[4] = ArcCos((std::sin(d2) + std::sin(phi) * std::sin(h0)) /
-                                       (std::cos(phi) * std::cos(h0)));
+                ArcSin(std::sin(d2) * std::sin(phi) + std::cos(d2) * std::cos(phi) * std::cos(r.H));
         else
-            PositionResult[5] = TwoPi - PositionResult[4];
+            PositionResult[3 + k] = HorizonAzimuth(r.delta, phi, h0, k == 2);
     }
-    if (AboveHorizonState != 0)
-        PositionResult[10] = PositionResult[11] = 2.0;
     for (std::size_t k = 0; k < 3; ++k)
         PositionResult[k] = 24.0 * m[k];
 }

@@ -4,6 +4,9 @@
 #include <array>
 #include <cstdint>
 
+// The event search stops when a correction falls below this many days (8.6 seconds).
+constexpr double EventTolerance = 0.0001;
+
 // The Moon's events of one local day: local clock hours in [0, 24), radians, and the
 // statuses 0 (the event falls in the local day) or 2 (it does not).
 struct MoonEventRecord {

@@ -17,7 +17,9 @@ Usage:
   quillmere-forecast days --from YYYY-MM-DD [--days N] [LOCATION] [--dst] [--hour HH:MM]
                           [--format text|csv|json|ics]
   quillmere-forecast events --year YYYY [LOCATION] [--dst] [--format text|json]
-  quillmere-forecast month [--year YYYY --month M] [LOCATION] [--dst]
+  quillmere-forecast month [--year YYYY --month M] [LOCATION] [--dst] [--pdf FILE]
+  quillmere-forecast calendar --year YYYY --month M [LOCATION] [--dst] --pdf FILE
+  quillmere-forecast glance --year YYYY --month M [LOCATION] --pdf FILE
   quillmere-forecast --version
 
 Commands:
@@ -30,6 +32,8 @@ Commands:
            and solstices whose local date lies in the year, in time order ("jd" in JSON is
            universal time, "local" its local clock text).
   month    the month's daily times as the Monthly data list shows them (default: this month).
+  calendar the month's printed calendar page: ratings, phases, majors and minors.
+  glance   the month at a glance: the lunar events on one time line, printed.
 
 Location (default: the default one of your ten stored locations):
   --location N              one of the ten stored locations, 1..10
@@ -43,6 +47,7 @@ Options:
                    (default 12:00)
   --format F       text (default), csv, json, or ics (iCalendar: ratings as all-day events,
                    majors as 2-hour and minors as 70-minute events)
+  --pdf FILE       write the printed page(s) as a PDF file instead of text
   --help           this text
   --version        the program's version
 
@@ -54,6 +59,7 @@ Examples:
   quillmere-forecast days --from 2024-01-01 --lon 0.12W --lat 51.5N --zone 0 --format json
   quillmere-forecast events --year 2024 --format json
   quillmere-forecast month --year 2024 --month 2 --dst
+  quillmere-forecast calendar --year 2024 --month 2 --pdf february.pdf
 )";
 
 namespace {
@@ -146,7 +152,7 @@ std::variant<Options, UsageError> Collect(const std::vector<std::string>& args)
         {"--from", true},     {"--days", true},   {"--year", true}, {"--month", true},
         {"--location", true}, {"--lon", true},    {"--lat", true},  {"--zone", true},
         {"--name", true},     {"--format", true}, {"--hour", true}, {"--dst", false},
-        {"--help", false}};
+        {"--help", false},    {"--pdf", true}};
     Options options;
     for (std::size_t i = 1; i < args.size(); ++i) {
         const auto it = known.find(args[i]);
@@ -244,11 +250,16 @@ std::optional<UsageError> ReadCommand(const Options& o, ForecastRequest& r, int 
         else
             return UsageError{"malformed year '" + o.at("--year") + "'"};
         break;
-    case Command::Month: {
-        if (auto e = allowed({"--year", "--month"}))
+    case Command::Month:
+    case Command::CalendarPage:
+    case Command::Glance: {
+        if (auto e = allowed({"--year", "--month", "--pdf"}))
             return e;
         r.Year = todayYear;
         r.Month = todayMonth;
+        const bool printed = r.What != Command::Month;
+        if (printed && (!o.count("--year") || !o.count("--pdf")))
+            return UsageError{"calendar and glance need --year, --month and --pdf FILE"};
         if (o.count("--year") != o.count("--month"))
             return UsageError{"month takes --year and --month together, or neither"};
         if (o.count("--year")) {
@@ -258,6 +269,8 @@ std::optional<UsageError> ReadCommand(const Options& o, ForecastRequest& r, int 
             r.Year = *y;
             r.Month = *m;
         }
+        if (o.count("--pdf"))
+            r.Pdf = o.at("--pdf");
         break;
     }
     }
@@ -292,11 +305,15 @@ ParsedArguments ParseArguments(const std::vector<std::string>& args, int todayYe
     if (args.size() == 1 && args[0] == "--version")
         return VersionRequested{};
     ForecastRequest r;
-    static const std::map<std::string, Command> commands = {
-        {"days", Command::Days}, {"events", Command::Events}, {"month", Command::Month}};
+    static const std::map<std::string, Command> commands = {{"days", Command::Days},
+                                                            {"events", Command::Events},
+                                                            {"month", Command::Month},
+                                                            {"calendar", Command::CalendarPage},
+                                                            {"glance", Command::Glance}};
     const auto c = commands.find(args[0]);
     if (c == commands.end())
-        return UsageError{"unknown command '" + args[0] + "': use days, events or month"};
+        return UsageError{"unknown command '" + args[0] +
+                          "': use days, events, month, calendar or glance"};
     r.What = c->second;
 
     auto collected = Collect(args);

@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-enum class Command { Days, Events, Month };
+enum class Command { Days, Events, Month, CalendarPage, Glance };
 enum class OutputFormat { Text, Csv, Json, Ics };
 
 struct CoordinateLocation {
@@ -26,6 +26,7 @@ struct ForecastRequest {
     bool Dst = false;
     int HourMinutes = 720; // --hour, minutes since midnight
     OutputFormat Format = OutputFormat::Text;
+    std::string Pdf; // --pdf FILE: the printed page instead of text
 };
 
 struct UsageError {

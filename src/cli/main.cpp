@@ -6,6 +6,7 @@
 #include "cli/arguments.h"
 #include "cli/forecastrun.h"
 #include "cli/formats.h"
+#include "cli/pdfpages.h"
 #include "platform/clock.h"
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
@@ -144,18 +145,21 @@ int Write(const std::string& text)
     return 1;
 }
 
-std::string Output(const ForecastRequest& r)
+// The text output of the commands that have one (calendar and glance print only).
+std::string Output(const ForecastRequest& r, const NamedPlace& place)
 {
-    const NamedPlace place = PlaceOf(r);
     switch (r.What) {
     case Command::Days:
         return Days(r, place);
     case Command::Events:
         return Events(r, place);
     case Command::Month:
+        return Month(r, place);
+    case Command::CalendarPage:
+    case Command::Glance:
         break;
     }
-    return Month(r, place);
+    return "";
 }
 
 int Run(int argc, char** argv)
@@ -163,10 +167,10 @@ int Run(int argc, char** argv)
     // A closed pipe then fails the write with EPIPE, which is reported, instead of ending the
     // program by a signal.
     std::signal(SIGPIPE, SIG_IGN);
-    QCoreApplication app(argc, argv);
     const std::vector<std::string> args(argv + 1, argv + argc);
     const QDate today = Clock::Now().date();
     const auto parsed = ParseArguments(args, today.year(), today.month());
+    const auto app = ApplicationFor(std::get_if<ForecastRequest>(&parsed), argc, argv);
     if (std::holds_alternative<HelpRequested>(parsed))
         return Write(UsageText);
     if (std::holds_alternative<VersionRequested>(parsed))
@@ -175,7 +179,15 @@ int Run(int argc, char** argv)
         std::cerr << "quillmere-forecast: " << e->Message << "\n";
         return 2;
     }
-    return Write(Output(std::get<ForecastRequest>(parsed)));
+    const ForecastRequest& r = std::get<ForecastRequest>(parsed);
+    const NamedPlace place = PlaceOf(r);
+    if (!r.Pdf.empty()) {
+        const std::string error = WritePdfPages(r, place.Place, place.Name);
+        if (!error.empty())
+            std::cerr << "quillmere-forecast: " << error << "\n";
+        return error.empty() ? 0 : 1;
+    }
+    return Write(Output(r, place));
 }
 } // namespace
 

@@ -62,3 +62,27 @@ std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD
     }
     return lines;
 }
+
+std::string MonthlyListClipboard(int month, int year, const std::vector<std::string>& lines)
+{
+    std::string text = MonthAbbrev(month) + " " + std::to_string(year) + "\r\n\r\n" +
+                       MonthlyListHeadings[2] + "\r\n" + MonthlyListHeadings[3] + "\r\n";
+    for (const std::string& line : lines)
+        text += line + "\r\n";
+    return text;
+}
+
+std::vector<std::string> MonthlyListPrinted(int month, int year,
+                                            const std::vector<std::string>& lines)
+{
+    // Each print statement ends its own line after the line breaks it carries.
+    std::vector<std::string> printed = {MonthAbbrev(month) + " " + std::to_string(year),
+                                        "",
+                                        "",
+                                        "",
+                                        MonthlyListHeadings[2],
+                                        "",
+                                        MonthlyListHeadings[3]};
+    printed.insert(printed.end(), lines.begin(), lines.end());
+    return printed;
+}

@@ -19,3 +19,12 @@ std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD
 // Appends one time column, "XX:XX" for a text that begins "****".
 void PRNTrue(std::string& line, const std::string& text);
 void PRNFalse(std::string& line, const std::string& text);
+
+// The clipboard's text: the month and year, a blank line, the clipboard headings and the
+// lines, each line ended by CR LF.
+std::string MonthlyListClipboard(int month, int year, const std::vector<std::string>& lines);
+
+// The printed page's lines: the month and year, blank lines as the printer's line breaks
+// leave them, the printer headings and the day lines.
+std::vector<std::string> MonthlyListPrinted(int month, int year,
+                                            const std::vector<std::string>& lines);

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace {
 
 // A window over the first-start settings at a fixed "now" (10 March 2024, 07:30), shown.
@@ -126,10 +128,17 @@ TEST_F(Window, MouseOptionsDecideWhenADayIsRecomputed)
     W->txtpic_MouseMove(20); // 16 March
     EXPECT_EQ(Text(3), "Day  76   290 days remain");
     EXPECT_EQ(FramedCell(), 14);
+    EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 16));
     W->Mouse_Click(0);
-    W->txtpic_MouseMove(21); // 17 March
-    EXPECT_EQ(FramedCell(), 21);
+    W->VsbHour->setValue(300);
+    W->txtpic_MouseMove(21); // 17 March: the panel shows it at noon, the frame stays
+    EXPECT_EQ(FramedCell(), 14);
+    EXPECT_EQ(W->SelDay, 17);
+    EXPECT_EQ(W->VsbHour->value(), 720);
     EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 17));
+    Astronomy reference = App.Astro;
+    reference.ComputeDay(CivilToJd(2024, 3, 17));
+    EXPECT_EQ(App.Astro.Forecast.Major1Text, reference.Forecast.Major1Text);
     App.Astro.Forecast.Major1Text = "marker";
     W->txtpic_MouseMove(21);
     EXPECT_EQ(App.Astro.Forecast.Major1Text, "marker");
@@ -209,6 +218,58 @@ TEST_F(Window, MoonPictureAndItsParallacticView)
     EXPECT_EQ(W->PicM->toolTip(), "");
 }
 
+// Number, marks, phase symbol and fish each keep their own place inside the selection frame,
+// on the days with marks and two-digit numbers too (10 March, 15 and 30 December 2024).
+TEST_F(Window, DayCellsKeepTheirPartsApart)
+{
+    int marked = 0;
+    for (const auto& [year, month] : {std::pair{2024, 3}, {2024, 12}}) {
+        SetMonth(year, month);
+        for (int i = 0; i < 37; ++i) {
+            const DayCellWidget& cell = *W->txtpic[std::size_t(i)];
+            const DayCellWidget::Placement at = cell.Place();
+            marked += cell.Shown().Marks > 0 ? 1 : 0;
+            std::vector<QRect> parts{at.Number};
+            for (const QRect& r : {at.Marks, at.Phase, at.Rating})
+                if (!r.isEmpty())
+                    parts.push_back(r);
+            for (std::size_t a = 0; a < parts.size(); ++a) {
+                EXPECT_TRUE(at.Inside.contains(parts[a])) << year << "-" << month << " cell " << i;
+                for (std::size_t b = a + 1; b < parts.size(); ++b)
+                    EXPECT_FALSE(parts[a].intersects(parts[b]))
+                        << year << "-" << month << " cell " << i << " parts " << a << ", " << b;
+            }
+        }
+    }
+    EXPECT_GT(marked, 4);
+}
+
+// The chosen hour is a clock hour of the place: after a move to another zone the moon is
+// computed for the hour the label shows.
+TEST_F(Window, LocationChangeKeepsTheChosenClockHour)
+{
+    W->VsbHour->setValue(15 * 60);
+    App.Config.Locations[5] = {"Sydney, NSW", -151.21, -33.87, -10};
+    W->DLoc_Click(5);
+    EXPECT_EQ(Text(15), "03:00 PM");
+    EXPECT_NEAR(App.Astro.Site.HourInstant, 15.0 / 24.0 - 10.0 / 24.0, 1e-12);
+    Astronomy fresh;
+    fresh.Site = App.Astro.Site;
+    fresh.ComputeDay(App.Config.SelectedJD);
+    EXPECT_EQ(App.Astro.Forecast.IllumFraction, fresh.Forecast.IllumFraction);
+    EXPECT_EQ(App.Astro.Forecast.MoonParallacticAngle, fresh.Forecast.MoonParallacticAngle);
+}
+
+// A stored time format that is neither choice leaves the menu's checks alone.
+TEST_F(Window, UnknownTimeFormatLeavesTheMenuChecks)
+{
+    W->DST_Click(0);
+    App.Config.TimeFormats = 2;
+    W->ApplyCurrentLocation();
+    EXPECT_TRUE(W->DST[0]->isChecked());
+    EXPECT_FALSE(W->DST[1]->isChecked());
+}
+
 TEST_F(Window, DaylightSavingMovesTheTimesOneHour)
 {
     const std::string standard = Text(14);
@@ -248,9 +309,17 @@ TEST_F(Window, SavesScreenshots)
     EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-location1.png"));
     SetMonth(2024, 3);
     EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-march2024.png"));
+    W->Mouse_Click(1);
+    W->txtpic_Click(App.Cal.FirstWeekday + 13); // 14 March at noon: the Moon is up
+    EXPECT_EQ(Text(32), "Moon is Up");
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-alexandria-14march2024.png"));
     App.Config.Locations[5] = {"Hobart, TAS", -147.33, -42.88, -10};
     W->DLoc_Click(5);
     EXPECT_EQ(W->StatusPanels[0]->text(), "Hobart, TAS");
+    W->Pangle_Click(1);
+    W->txtpic_Click(App.Cal.FirstWeekday + 13);
+    W->VsbHour->setValue(19 * 60); // an evening waxing crescent, turned as in the sky
+    EXPECT_TRUE(W->ToPict->isVisible());
     EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-southern.png"));
 }
 } // namespace

@@ -129,8 +129,68 @@ TEST(DayForecast, DayWithoutTransitAveragesTheNeighbours)
         const double next = b.MoonTransitHour;
         b.MoonEventsForDay(start + d);
         const double own = b.MoonTransitHour;
-        EXPECT_NEAR(f.Major1, own + ((next + 24.0) - previous) / 2.0, 1e-12);
+        EXPECT_NEAR(f.Major1, WrapInto(own + ((next + 24.0) - previous) / 2.0, 24.0), 1e-12);
         EXPECT_EQ(f.Major1Text, "*" + FormatClock(0, f.Major1, true) + "*");
     }
     EXPECT_EQ(found, 1); // about one day a month has no transit
+}
+
+// The label beside the moon picture says "Moon is Up" from the Moon's altitude at the chosen
+// hour; over a year of noons at Miami it must agree with the same day's rise and set times.
+TEST(DayForecast, MoonUpAtNoonAgreesWithRiseAndSetOverAYear)
+{
+    Astronomy a = At(80.19, 25.77, 5);
+    const double start = CivilToJd(2024, 1, 1);
+    int compared = 0;
+    for (int d = 0; d < 366; ++d) {
+        a.ComputeDay(start + d);
+        const MoonEventRecord& m = a.Forecast.MoonEvents;
+        const bool rises = m.RiseFlag == 0, sets = m.SetFlag == 0;
+        const double margin = 5.0 / 60.0; // the altitude is geocentric, the events topocentric
+        if ((!rises && !sets) || (rises && std::fabs(m.RiseTime - 12.0) < margin) ||
+            (sets && std::fabs(m.SetTime - 12.0) < margin))
+            continue;
+        bool up;
+        if (rises && sets)
+            up = m.RiseTime < m.SetTime ? m.RiseTime < 12.0 && 12.0 < m.SetTime
+                                        : !(m.SetTime < 12.0 && 12.0 < m.RiseTime);
+        else
+            up = rises ? m.RiseTime < 12.0 : 12.0 < m.SetTime;
+        EXPECT_EQ(a.Forecast.SkyPosition[3] > 0.0, up) << "day " << d;
+        ++compared;
+    }
+    EXPECT_GT(compared, 340);
+}
+
+// A transit after local midnight belongs to no day, and the period centred on it must still
+// read as a clock time of the day: Sydney, 11 January 2020, has its major at 00:20.
+TEST(DayForecast, MajorWithoutTransitStaysInTheDay)
+{
+    Astronomy a = At(-151.21, -33.87, -10);
+    a.ComputeDay(CivilToJd(2020, 1, 11));
+    EXPECT_NE(a.Forecast.MoonEvents.TransitFlag, 0);
+    EXPECT_GE(a.Forecast.Major1, 0.0);
+    EXPECT_LT(a.Forecast.Major1, 1.0);
+    EXPECT_EQ(a.Forecast.Major1Text.substr(0, 4), "*12:");
+    EXPECT_NE(a.Forecast.Major1Text.find("AM*"), std::string::npos);
+}
+
+// What a day reports must not depend on the days computed before it, even the values of
+// events that fall outside the day.
+TEST(RiseSet, ResultsDoNotDependOnEarlierDays)
+{
+    const double start = CivilToJd(2024, 1, 1);
+    Astronomy walker = At(92.42, 31.25, 6);
+    int outside = 0;
+    for (int d = 0; d < 60; ++d) {
+        Astronomy fresh = At(92.42, 31.25, 6);
+        fresh.ComputeDay(start + d);
+        walker.ComputeDay(start + d);
+        const MoonEventRecord &x = fresh.Forecast.MoonEvents, &y = walker.Forecast.MoonEvents;
+        EXPECT_EQ(x.TransitAltitude, y.TransitAltitude) << d;
+        EXPECT_EQ(x.RiseAzimuth, y.RiseAzimuth) << d;
+        EXPECT_EQ(x.SetAzimuth, y.SetAzimuth) << d;
+        outside += x.TransitFlag + x.RiseFlag + x.SetFlag;
+    }
+    EXPECT_GT(outside, 0);
 }

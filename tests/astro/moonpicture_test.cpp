@@ -1,11 +1,15 @@
 // The moon picture by its pixels: which side is lit, how much, the southern swap and the
 // turned view.
+#include "astro/astronomy.h"
 #include "astro/moonpicture.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
+#include <tuple>
+#include <vector>
 
 namespace {
 
@@ -138,15 +142,15 @@ TEST(MoonPicture, TurnedViewOnlyWhenTheMoonIsUpAndTheOptionOn)
 TEST(MoonPicture, TurnedViewRotatesByTheParallacticAngle)
 {
     // Turned by -q with q = 90 degrees (clockwise on the screen) the lit right half of a
-    // waxing half moon goes to the bottom; in the south the angle is q + 180 degrees and the
-    // lit left half goes to the top.
+    // waxing half moon goes to the bottom; the southern disc is drawn half a turn round, so it
+    // is turned by 180 degrees - q and its lit left half goes to the bottom as well.
     const double q = std::acos(0.0);
     const QImage north = DrawMoon(Size, Look(50, 1), MoonTurn{0.5, q, true, Size}).ToPict;
     EXPECT_EQ(north.pixel(40, 64), Lit);
     EXPECT_EQ(north.pixel(40, 16), Dark);
     const QImage south = DrawMoon(Size, Look(50, 1, -1), MoonTurn{0.5, q, true, Size}).ToPict;
-    EXPECT_EQ(south.pixel(40, 16), Lit);
-    EXPECT_EQ(south.pixel(40, 64), Dark);
+    EXPECT_EQ(south.pixel(40, 64), Lit);
+    EXPECT_EQ(south.pixel(40, 16), Dark);
     const QImage level = DrawMoon(Size, Look(50, 1), MoonTurn{0.5, 0.0, true, Size}).ToPict;
     EXPECT_EQ(RightOf(level), Lit);
     EXPECT_EQ(LeftOf(level), Dark);
@@ -166,4 +170,74 @@ TEST(MoonPicture, RotatePictureCopiesPixelByPixelAndLeavesRowAndColumnZero)
     EXPECT_EQ(target.pixel(4, 0), qRgb(0, 255, 0));
     EXPECT_EQ(target.pixel(0, 4), qRgb(0, 255, 0));
     EXPECT_EQ(target.pixel(6, 6), qRgb(0, 0, 255));
+}
+
+namespace {
+// Screen direction (radians counter-clockwise from up) from the disc's centre to the centre
+// of its lit pixels.
+double LitDirection(const QImage& image)
+{
+    double sx = 0.0, sy = 0.0;
+    int n = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) == Lit) {
+                sx += x - image.width() / 2.0;
+                sy += y - image.height() / 2.0;
+                ++n;
+            }
+    return std::atan2(-sx / n, -sy / n);
+}
+
+// Where the Sun stands seen from the Moon on the sky, zenith up and azimuth growing to the
+// right as an observer facing the Moon sees it: the initial bearing of the great circle
+// from the Moon to the Sun in the horizon's coordinates, counter-clockwise from up.
+double SunDirection(const std::array<double, 4>& sky)
+{
+    const double dA = sky[0] - sky[1], hs = sky[2], hm = sky[3];
+    const double right = std::sin(dA) * std::cos(hs);
+    const double up = std::cos(hm) * std::sin(hs) - std::sin(hm) * std::cos(hs) * std::cos(dA);
+    return std::atan2(-right, up);
+}
+
+// Differences in degrees between the turned picture's lit side and the Sun's direction over
+// a year of hours when the Moon is up and neither new nor full.
+std::vector<double> TurnedErrors(double lonWest, double latNorth, int zone)
+{
+    Astronomy a;
+    a.Site.SetPlace(lonWest, latNorth, std::int16_t(zone));
+    std::vector<double> errors;
+    const double start = CivilToJd(2024, 1, 1);
+    for (int d = 0; d < 366; d += 2) {
+        for (double hour : {3.0, 7.0, 11.0, 15.0, 19.0, 23.0}) {
+            a.Site.HourInstant = hour / 24.0 + a.Site.ZoneDays;
+            a.ComputeSunDay(start + d);
+            a.ComputeDay(start + d);
+            const DayForecast& f = a.Forecast;
+            if (f.SkyPosition[3] < 0.05 || f.IllumPercent < 15 || f.IllumPercent > 85)
+                continue;
+            const MoonLook look = Look(f.IllumPercent, f.Waxing, latNorth < 0 ? -1 : 0);
+            const MoonTurn turn{f.SkyPosition[3], f.MoonParallacticAngle, true, Size};
+            const double diff =
+                LitDirection(DrawMoon(Size, look, turn).ToPict) - SunDirection(f.SkyPosition);
+            errors.push_back(std::fabs(std::remainder(diff, 2.0 * std::numbers::pi)) * 180.0 /
+                             std::numbers::pi);
+        }
+    }
+    std::sort(errors.begin(), errors.end());
+    return errors;
+}
+} // namespace
+
+// The turned picture shows the Moon as it stands in the sky, its lit side towards the Sun,
+// north and south of the equator alike.
+TEST(MoonPicture, TurnedLitSideFacesTheSunInBothHemispheres)
+{
+    for (const auto& [lon, lat, zone] :
+         {std::tuple{-151.21, -33.87, -10}, std::tuple{92.42, 31.25, 6}}) {
+        const std::vector<double> errors = TurnedErrors(lon, lat, zone);
+        ASSERT_GT(errors.size(), 100u);
+        EXPECT_LT(errors[errors.size() / 2], 30.0) << "median at latitude " << lat;
+        EXPECT_LT(errors.back(), 45.0) << "largest at latitude " << lat;
+    }
 }

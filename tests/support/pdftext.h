@@ -1,0 +1,13 @@
+// What a printed PDF holds, read back by poppler's own tools (independent of Qt's writer).
+#pragma once
+
+#include <QString>
+
+namespace testenv {
+// The text of a PDF file as `pdftotext -layout` extracts it; empty when unreadable.
+QString PdfText(const QString& path);
+// The page count `pdfinfo` reports; 0 when unreadable.
+int PdfPages(const QString& path);
+// The first page rendered to a PNG by `pdftoppm` at `dpi`; returns the PNG's path.
+QString PdfToPng(const QString& path, const QString& pngWithoutSuffix, int dpi = 60);
+} // namespace testenv
