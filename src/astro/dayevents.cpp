@@ -123,6 +123,16 @@ void Astronomy::MoonEventsForDay(double jd)
     e.AboveHorizonState = AboveHorizonState;
 }
 
+// The lower transit is the upper transit seen from the opposite meridian: the same search with
+// the longitude turned by 180 degrees.
+bool Astronomy::MoonLowerTransitInDay(double jd)
+{
+    SearchMoonEvents(JulianDay0(jd));
+    EventLongitude += EventLongitude > 0.0 ? -180.0 : 180.0;
+    FindEvents();
+    return PositionResult[9] == 0.0;
+}
+
 void Astronomy::SunEventsForDay(double jd)
 {
     const double J0 = JulianDay0(jd);

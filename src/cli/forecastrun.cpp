@@ -147,7 +147,7 @@ DayRow ForecastRun::Day(int year, int month, int day)
     // in the window); that transit happens on another day.
     r.Major1 = Crossing(m.TransitFlag, f.Major1);
     // The second major stands for the lower transit, which some days do not have.
-    r.Major2 = Crossing(LowerTransitInDay(J) ? 0 : 2, f.Major2);
+    r.Major2 = Crossing(Engine.MoonLowerTransitInDay(J) ? 0 : 2, f.Major2);
     r.Minor1 = Period(f.Minor1);
     r.Minor2 = Period(f.Minor2);
     r.Major1Text = f.Major1Text;
@@ -173,17 +173,6 @@ DayRow ForecastRun::Day(int year, int month, int day)
     r.MoonParallacticAngle = Degrees(f.MoonParallacticAngle);
     r.UtcOffsetHours = 24.0 * (Engine.Site.ZoneDays + Engine.Site.DstOffsetDays);
     return r;
-}
-
-// The lower transit is the upper transit seen from the opposite meridian (Meeus ch. 15 with
-// the longitude turned by 180 degrees). Run last: the search overwrites the engine's results.
-bool ForecastRun::LowerTransitInDay(double J)
-{
-    Engine.MoonEventsForDay(J);
-    const double opposite = Engine.EventLongitude + 180.0;
-    Engine.EventLongitude = opposite > 180.0 ? opposite - 360.0 : opposite;
-    Engine.FindEvents();
-    return Engine.PositionResult[9] == 0.0;
 }
 
 std::vector<EventRow> ForecastRun::Events(int year)

@@ -32,5 +32,4 @@ public:
 
 private:
     void UseYear(int year);
-    bool LowerTransitInDay(double J);
 };
