@@ -44,15 +44,16 @@ PLACES = [
 ]
 
 
-def search(lat, lon, zone, day, column):
-    """(next event, local-day start) as ephem Dates; raises ephem's errors when there is no crossing."""
+def search(lat, lon, zone, day, column, after=0.0):
+    """(next event from `after` hours into the local day, local-day start) as ephem Dates; raises
+    ephem's errors when there is no crossing."""
     body_name, kind, horizon, use_center = EVENTS[column]
     obs = ephem.Observer()
     obs.lat, obs.lon = str(lat), str(lon)
     obs.pressure = 0
     obs.horizon = horizon
     start = ephem.Date((day.year, day.month, day.day)) + zone / 24.0
-    obs.date = start
+    obs.date = start + after / 24.0
     body = ephem.Sun() if body_name == 'sun' else ephem.Moon()
     if kind == 'transit':
         return obs.next_transit(body), start
@@ -61,13 +62,23 @@ def search(lat, lon, zone, day, column):
     return obs.next_setting(body, use_center=use_center), start
 
 
-def reference(lat, lon, zone, day, column):
-    """Local clock hours of the event inside the local day, or None."""
+def reference(lat, lon, zone, day, column, after=0.0):
+    """Local clock hours of the first event inside the local day from `after` hours on, or None."""
     try:
-        t, start = search(lat, lon, zone, day, column)
+        t, start = search(lat, lon, zone, day, column, after)
     except (ephem.AlwaysUpError, ephem.NeverUpError):
         return None
     return (t - start) * 24.0 if t < start + 1 else None
+
+
+def nearest_reference(lat, lon, zone, day, column, ours):
+    """The day's event nearest to ours: near the solstices a twilight can happen twice in one
+    local day (just after midnight and again before the next), and either is that day's."""
+    ref = reference(lat, lon, zone, day, column)
+    if ours is None or ref is None or abs(ours - ref) < 1.0 / 60.0:
+        return ref
+    again = reference(lat, lon, zone, day, column, after=ref + 1.0 / 60.0)
+    return again if again is not None and abs(ours - again) < abs(ours - ref) else ref
 
 
 def sun_never_crosses(lat, lon, zone, day, column):
@@ -137,7 +148,7 @@ def compare(sources):
                         continue
                     cell = row[column].strip()
                     ours = float(cell) if cell else None
-                    ref = reference(lat, lon, zone, day, column)
+                    ref = nearest_reference(lat, lon, zone, day, column, ours)
                     no_crossing = ours is not None and ref is None and sun_never_crosses(lat, lon, zone, day, column)
                     stats[column].add(ours, ref, day, place, no_crossing)
     return stats
