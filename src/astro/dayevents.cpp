@@ -144,8 +144,9 @@ void Astronomy::SunEventsForDay(double jd)
     SunEventTable& s = Forecast.SunEvents;
     for (int r = 0; r <= 3; ++r) {
         // Twilights decide the local day with the standard zone.
+        const bool clockDay = r == 0 || Site.TwilightsInClockDay;
         const double zone =
-            r == 0 ? Site.CurTimeZone + 24.0 * Site.DstOffsetDays : Site.CurTimeZone;
+            clockDay ? Site.CurTimeZone + 24.0 * Site.DstOffsetDays : Site.CurTimeZone;
         PrepareEventSearch(J0, r == 0 ? SunriseAltitude : -6.0 * r * DegToRad, zone);
         FindEvents();
         s(r, 0) = LocalHours(PositionResult[1]);

@@ -103,6 +103,7 @@ ForecastRun::ForecastRun(const ForecastPlace& place)
     site.DstOffsetDays = place.DstOffsetDays;
     site.TimeFormats = place.DstOffsetDays != 0.0 ? 0 : 1;
     site.AMPM = place.AmPm;
+    site.TwilightsInClockDay = true;
     site.HourInstant = place.HourMinutes / 1440.0 + site.ZoneDays;
     SouthernHemisphere = place.Latitude < 0 ? -1 : 0;
     Cal.CurYear = 0;
