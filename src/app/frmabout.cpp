@@ -34,6 +34,9 @@ FrmAbout::FrmAbout(QWidget* parent, Opener opener)
     Email = new QLabel(QStringLiteral("Email"), this);
     lblEmail = LinkLabel(ContactAddress, this);
     lblWeb = LinkLabel(WebAddress, this);
+    lblCredits = new QLabel(QStringLiteral("City list: GeoNames (geonames.org), licensed under "
+                                           "CC BY 4.0"),
+                            this);
     cmdOK = new QPushButton(QStringLiteral("OK"), this);
     cmdOK->setDefault(true);
 
@@ -43,7 +46,8 @@ FrmAbout::FrmAbout(QWidget* parent, Opener opener)
     grid->addWidget(Email, 2, 0);
     grid->addWidget(lblEmail, 2, 1);
     grid->addWidget(lblWeb, 3, 0, 1, 2);
-    grid->addWidget(cmdOK, 4, 1, Qt::AlignRight);
+    grid->addWidget(lblCredits, 4, 0, 1, 2);
+    grid->addWidget(cmdOK, 5, 1, Qt::AlignRight);
 
     connect(lblWeb, &QLabel::linkActivated, this, &FrmAbout::lblWeb_Click);
     connect(lblEmail, &QLabel::linkActivated, this, &FrmAbout::lblEmail_Click);

@@ -1,5 +1,5 @@
-// The about window: the program's name and version, a contact address and a web address;
-// a click on either opens it through the desktop.
+// The about window: the program's name and version, a contact address and a web address
+// (a click on either opens it through the desktop), and the credit for the city list.
 #pragma once
 
 #include <QDialog>
@@ -23,6 +23,7 @@ public:
     QLabel* Email = nullptr;
     QLabel* lblEmail = nullptr;
     QLabel* lblWeb = nullptr;
+    QLabel* lblCredits = nullptr;
     QPushButton* cmdOK = nullptr;
 
     static const QString ContactAddress;

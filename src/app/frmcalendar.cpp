@@ -9,6 +9,7 @@
 #include "app/stockpictures.h"
 #include "astro/moonpicture.h"
 #include "astro/timebase.h"
+#include "locations/frmlocation.h"
 #include "logdb/frmselectdb.h"
 #include "platform/busypointer.h"
 #include "platform/clock.h"
@@ -260,6 +261,7 @@ void FrmCalendar::BuildMenus()
         DLoc[std::size_t(i)] = Item(select, {}, QString("DLoc%1").arg(i), true);
         Loc[std::size_t(i)] = Item(edit, {}, QString("Loc%1").arg(i));
         connect(DLoc[std::size_t(i)], &QAction::triggered, this, [this, i] { DLoc_Click(i); });
+        connect(Loc[std::size_t(i)], &QAction::triggered, this, [this, i] { Loc_Click(i); });
     }
 
     QMenu* help = bar->addMenu(QStringLiteral("&Help"));
@@ -644,6 +646,22 @@ void FrmCalendar::DLoc_Click(int index)
     for (int i = 1; i <= LocationCount; ++i)
         DLoc[std::size_t(i)]->setChecked(i == index);
     // The month redraw rebuilds the year's events for the new zone and hemisphere.
+    ApplyCurrentLocation();
+    RefreshMonth();
+}
+
+void FrmCalendar::Loc_Click(int index)
+{
+    Settings& s = App.Config;
+    s.CurLoc = static_cast<std::int16_t>(index);
+    hide();
+    FrmLocation editor({App.Messages, s.Locations, s.CurLoc, s.DefLoc, ProgramFolder::Path()},
+                       this);
+    editor.setWindowTitle(QStringLiteral("Location #%1 ").arg(index));
+    editor.exec();
+    // However the editor closed, the window comes back at the (possibly edited) location;
+    // the month redraw recomputes the year's events for it.
+    show();
     ApplyCurrentLocation();
     RefreshMonth();
 }

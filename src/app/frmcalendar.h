@@ -48,6 +48,8 @@ public:
     void Mouse_Click(int index);
     void Pangle_Click(int index);
     void DLoc_Click(int index);
+    // "Edit A Location": the location editor on location index, the main window out of view.
+    void Loc_Click(int index);
     void HelpContents_Click();
     void MnuAbout_Click();
     void VsbHour_Scroll();

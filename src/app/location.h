@@ -2,8 +2,10 @@
 // latitudes positive north, time zones hours west of Greenwich (5 for US Eastern).
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstdlib>
 #include <string>
 
 struct Location {
@@ -16,3 +18,10 @@ struct Location {
 constexpr int LocationCount = 10;
 // Indexed 1..10 as the menus number them; entry 0 is unused.
 using LocationTable = std::array<Location, LocationCount + 1>;
+
+// The default location's number from its stored text; 1 when the text names none of the ten.
+inline std::int16_t DefaultLocationNumber(const std::string& defLoc)
+{
+    const int n = std::atoi(defLoc.c_str());
+    return static_cast<std::int16_t>(std::clamp(n, 1, LocationCount) == n ? n : 1);
+}

@@ -5,11 +5,15 @@
 #include "platform/singleinstance.h"
 
 #include <QApplication>
+#include <QIcon>
 
 int main(int argc, char** argv)
 {
     QApplication qapp(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillmere"));
+    // The desktop matches the windows to the installed launcher and its icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("io.github.quillmere.Quillmere"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("io.github.quillmere.Quillmere")));
     AppState app;
     SingleInstance instance;
     switch (StartUp(app, qapp.arguments().mid(1), instance)) {

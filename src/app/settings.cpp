@@ -24,8 +24,4 @@ bool Settings::AmPm() const { return TextIsTrue(AMPM); }
 
 bool Settings::ParallacticOn() const { return TextIsTrue(ParallacticAngle); }
 
-std::int16_t Settings::DefaultLocation() const
-{
-    const int n = std::atoi(DefLoc.c_str());
-    return static_cast<std::int16_t>(std::clamp(n, 1, LocationCount) == n ? n : 1);
-}
+std::int16_t Settings::DefaultLocation() const { return DefaultLocationNumber(DefLoc); }

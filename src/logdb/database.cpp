@@ -261,23 +261,25 @@ std::vector<ColumnInfo> Database::Columns(const QString& table) const
     return columns;
 }
 
+// A savepoint rather than BEGIN, so that a caller's own savepoint around many statements (a
+// whole chain of query steps) can hold them in one transaction.
 DbResult Database::RunInTransaction(const std::vector<QString>& statements)
 {
-    QSqlDatabase db = Connection();
-    if (!db.transaction())
-        return DbResult::Failure(ErrorText(db.lastError()));
-    QSqlQuery q(db);
+    QSqlQuery q(Connection());
+    if (!q.exec(QStringLiteral("SAVEPOINT jet_statement")))
+        return DbResult::Failure(ErrorText(q.lastError()));
     for (const QString& sql : statements) {
         if (!q.exec(sql)) {
             const QString reason = ErrorText(q.lastError());
             q.finish();
-            db.rollback();
+            q.exec(QStringLiteral("ROLLBACK TO jet_statement"));
+            q.exec(QStringLiteral("RELEASE jet_statement"));
             return DbResult::Failure(reason);
         }
     }
     q.finish();
-    if (!db.commit())
-        return DbResult::Failure(ErrorText(db.lastError()));
+    if (!q.exec(QStringLiteral("RELEASE jet_statement")))
+        return DbResult::Failure(ErrorText(q.lastError()));
     return DbResult::Success();
 }
 
@@ -311,7 +313,8 @@ DbResult Database::Execute(const QString& jetSql)
     return RunInTransaction(statements);
 }
 
-DbResult Database::Query(const QString& jetSql, RowSet& result, QString* sourceTable)
+DbResult Database::Query(const QString& jetSql, RowSet& result, QString* sourceTable,
+                         const QVariantList& parameters)
 {
     result = {};
     if (!IsOpen())
@@ -323,7 +326,11 @@ DbResult Database::Query(const QString& jetSql, RowSet& result, QString* sourceT
         return DbResult::Failure(QStringLiteral("A record source must be a select query."));
     QSqlQuery q(Connection());
     q.setForwardOnly(true);
-    if (!q.exec(QString::fromStdString(statement.Sql.front())))
+    if (!q.prepare(QString::fromStdString(statement.Sql.front())))
+        return DbResult::Failure(ErrorText(q.lastError()));
+    for (const QVariant& value : parameters)
+        q.addBindValue(value);
+    if (!q.exec())
         return DbResult::Failure(ErrorText(q.lastError()));
     const QSqlRecord layout = q.record();
     for (int i = 0; i < layout.count(); ++i)
@@ -438,37 +445,60 @@ DbResult Database::InsertRecord(const QString& table, const FieldValues& fields,
     return DbResult::Success();
 }
 
-DbResult Database::UpdateRecord(const QStringList& tables, const QString& keyColumn,
-                                const QVariant& key, const FieldValues& fields)
+DbResult Database::InTransaction(const std::function<DbResult()>& steps)
 {
     QSqlDatabase db = Connection();
     if (!db.transaction())
         return DbResult::Failure(ErrorText(db.lastError()));
-    DbResult result;
-    std::vector<std::pair<ColumnInfo, QVariant>> prepared;
-    for (const QString& table : tables) {
-        result = Prepare(table, fields, prepared);
-        if (!result || prepared.empty())
-            break;
-        QStringList sets;
-        for (const auto& field : prepared)
-            sets << QuotedName(field.first.Name) + QStringLiteral(" = ?");
-        QSqlQuery q(db);
-        const QString sql =
-            QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
-                .arg(QuotedName(table), sets.join(QStringLiteral(", ")), QuotedName(keyColumn));
-        if (!ExecBound(q, sql, prepared, {key})) {
-            result = DbResult::Failure(ErrorText(q.lastError()));
-            break;
-        }
-    }
-    if (!result) {
+    if (DbResult result = steps(); !result) {
         db.rollback();
         return result;
     }
     if (!db.commit())
         return DbResult::Failure(ErrorText(db.lastError()));
     return DbResult::Success();
+}
+
+DbResult Database::UpdateIn(const QString& table, const QString& keyColumn, const QVariant& key,
+                            const FieldValues& fields)
+{
+    std::vector<std::pair<ColumnInfo, QVariant>> prepared;
+    if (DbResult result = Prepare(table, fields, prepared); !result || prepared.empty())
+        return result;
+    QStringList sets;
+    for (const auto& field : prepared)
+        sets << QuotedName(field.first.Name) + QStringLiteral(" = ?");
+    QSqlQuery q(Connection());
+    const QString sql =
+        QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
+            .arg(QuotedName(table), sets.join(QStringLiteral(", ")), QuotedName(keyColumn));
+    if (!ExecBound(q, sql, prepared, {key}))
+        return DbResult::Failure(ErrorText(q.lastError()));
+    return DbResult::Success();
+}
+
+DbResult Database::UpdateRecord(const QStringList& tables, const QString& keyColumn,
+                                const QVariant& key, const FieldValues& fields)
+{
+    return InTransaction([&] {
+        for (const QString& table : tables) {
+            if (DbResult result = UpdateIn(table, keyColumn, key, fields); !result)
+                return result;
+        }
+        return DbResult::Success();
+    });
+}
+
+DbResult Database::UpdateRecords(const QString& table, const QString& keyColumn,
+                                 const std::vector<RecordChange>& changes)
+{
+    return InTransaction([&] {
+        for (const RecordChange& change : changes) {
+            if (DbResult result = UpdateIn(table, keyColumn, change.Key, change.Fields); !result)
+                return result;
+        }
+        return DbResult::Success();
+    });
 }
 
 DbResult Database::DeleteRecord(const QString& table, const QString& keyColumn, const QVariant& key)

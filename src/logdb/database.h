@@ -12,6 +12,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -39,6 +40,12 @@ struct ColumnInfo {
 
 // Column values of one record, in the order they are written.
 using FieldValues = std::vector<std::pair<QString, QVariant>>;
+
+// New values for the record with the given key.
+struct RecordChange {
+    QVariant Key;
+    FieldValues Fields;
+};
 
 // Rows of a query result.
 struct RowSet {
@@ -72,8 +79,10 @@ public:
     // Runs one action statement in the program's dialect (DROP TABLE [T];, select ... into).
     DbResult Execute(const QString& jetSql);
     // Runs one select statement in the program's dialect. The source table is set to the one
-    // table it reads, when it reads just one.
-    DbResult Query(const QString& jetSql, RowSet& result, QString* sourceTable = nullptr);
+    // table it reads, when it reads just one. Each "?" in the statement is bound to the next
+    // of the parameters.
+    DbResult Query(const QString& jetSql, RowSet& result, QString* sourceTable = nullptr,
+                   const QVariantList& parameters = {});
 
     // The table's columns in order; empty when there is no such table.
     std::vector<ColumnInfo> Columns(const QString& table) const;
@@ -85,6 +94,10 @@ public:
     // given, in one transaction.
     DbResult UpdateRecord(const QStringList& tables, const QString& keyColumn, const QVariant& key,
                           const FieldValues& fields);
+    // Sets the fields of many records of one table by key in one transaction: all of them or,
+    // on any failure, none.
+    DbResult UpdateRecords(const QString& table, const QString& keyColumn,
+                           const std::vector<RecordChange>& changes);
     DbResult InsertRecord(const QString& table, const FieldValues& fields, QVariant& newKey);
     DbResult DeleteRecord(const QString& table, const QString& keyColumn, const QVariant& key);
     // Reads the named fields of the record whose key column has the given value.
@@ -100,6 +113,11 @@ public:
 private:
     DbResult CheckPassword(const QString& connect);
     DbResult RunInTransaction(const std::vector<QString>& statements);
+    // Runs the steps in one transaction, rolled back when a step fails.
+    DbResult InTransaction(const std::function<DbResult()>& steps);
+    // One UPDATE of the record with the key; nothing to do when there are no fields.
+    DbResult UpdateIn(const QString& table, const QString& keyColumn, const QVariant& key,
+                      const FieldValues& fields);
     // The fields converted for the table's columns; fails on an unknown column or a value
     // that does not fit.
     DbResult Prepare(const QString& table, const FieldValues& fields,

@@ -41,7 +41,7 @@ DbResult DataControl::Refresh()
         return opened;
     RowSet result;
     QString source;
-    if (DbResult read = db_.Query(recordSource_, result, &source); !read)
+    if (DbResult read = db_.Query(recordSource_, result, &source, parameters_); !read)
         return read;
     Load(std::move(result), source);
     SetPosition(0);
@@ -186,12 +186,17 @@ DbResult DataControl::SetField(const QString& name, const QVariant& value)
     return SetField(index, value);
 }
 
-DbResult DataControl::FindFirst(const QString& condition)
+DbResult DataControl::FindFirst(const QString& condition, const QVariantList& parameters)
 {
     if (DbResult can = CheckCanMove(); !can)
         return can;
+    std::vector<JetValue> values;
+    for (const QVariant& p : parameters) // a text compares as text even when it looks numeric
+        values.push_back(p.typeId() == QMetaType::QString
+                             ? JetValue{{}, p.toString().toStdString(), false}
+                             : ConditionValue(p));
     std::string error;
-    const auto parsed = JetCondition::Parse(condition.toStdString(), error);
+    const auto parsed = JetCondition::Parse(condition.toStdString(), error, values);
     if (!parsed)
         return DbResult::Failure(QString::fromStdString(error));
     for (const std::string& field : parsed->Fields()) {
@@ -379,5 +384,18 @@ DbResult DataControl::AddRecords(const std::vector<FieldValues>& records)
         return DbResult::Failure(QStringLiteral("Database or object is read-only."));
     if (DbResult added = db_.InsertRecords(sourceTable_, records); !added)
         return added;
+    return Refresh();
+}
+
+DbResult DataControl::UpdateRecords(const std::vector<RecordChange>& changes)
+{
+    if (DbResult can = CheckCanMove(); !can)
+        return can;
+    if (!Updatable())
+        return DbResult::Failure(QStringLiteral("Database or object is read-only."));
+    if (DbResult updated =
+            db_.UpdateRecords(sourceTable_, fields_[std::size_t(keyIndex_)], changes);
+        !updated)
+        return updated;
     return Refresh();
 }

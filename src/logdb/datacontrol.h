@@ -41,7 +41,13 @@ public:
     QString DatabaseName() const { return databaseName_; }
     void SetConnect(const QString& connect) { connect_ = connect; }
     QString Connect() const { return connect_; }
-    void SetRecordSource(const QString& jetSql) { recordSource_ = jetSql; }
+    // Each "?" in the statement stands for the next of the parameters: a user's entry reaches
+    // the engine as a bound value, never as part of the statement.
+    void SetRecordSource(const QString& jetSql, const QVariantList& parameters = {})
+    {
+        recordSource_ = jetSql;
+        parameters_ = parameters;
+    }
     QString RecordSource() const { return recordSource_; }
     // Edits saved through this control are also written to this table by key, so an entry
     // made while a query result is shown reaches the log table itself.
@@ -65,9 +71,10 @@ public:
     // The current record's index from 0; -1 when there is none.
     int AbsolutePosition() const;
 
-    // Makes the first record that meets the condition ("dbid = 12") current; NoMatch tells
-    // whether there was none, in which case the current record stays.
-    DbResult FindFirst(const QString& condition);
+    // Makes the first record that meets the condition ("dbid = 12", "City = ?" with the
+    // parameters) current; NoMatch tells whether there was none, in which case the current
+    // record stays.
+    DbResult FindFirst(const QString& condition, const QVariantList& parameters = {});
     bool NoMatch() const { return noMatch_; }
 
     DbResult Edit();
@@ -106,6 +113,10 @@ public:
     // then refreshes: the year fill's way of writing.
     DbResult AddRecords(const std::vector<FieldValues>& records);
 
+    // Changes many records of the source table by their keys in one transaction (all or, on
+    // failure, none), then refreshes: for walks over a whole result.
+    DbResult UpdateRecords(const std::vector<RecordChange>& changes);
+
 signals:
     // Another record became current, or there is none any more.
     void Reposition();
@@ -125,6 +136,7 @@ private:
     QString databaseName_;
     QString connect_;
     QString recordSource_;
+    QVariantList parameters_;
     QString mirrorTable_;
     QString openedName_;
     QString openedConnect_;

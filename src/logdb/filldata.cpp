@@ -5,9 +5,6 @@
 #include "logdb/datacontrol.h"
 #include "platform/vbformat.h"
 
-#include <QAction>
-#include <QWidget>
-
 namespace {
 
 QVariant Text(const std::string& s) { return QVariant(QString::fromStdString(s)); }
@@ -102,7 +99,13 @@ DbResult FillYear(Astronomy& engine, const Calendar& cal, std::int32_t daylightB
     return data0.AddRecords(records);
 }
 
-void DisableControl(QWidget* control) { control->setEnabled(false); }
-void EnableControl(QWidget* control) { control->setEnabled(true); }
-void DisableControl(QAction* control) { control->setEnabled(false); }
-void EnableControl(QAction* control) { control->setEnabled(true); }
+DbResult FillYearFile(DataControl& data0, const QString& path, Astronomy& engine,
+                      const Calendar& cal, std::int32_t daylightBias, const FillProgress& progress)
+{
+    data0.SetDatabaseName(path);
+    data0.SetRecordSource(QStringLiteral("select * from table1"));
+    DbResult filled = data0.Refresh();
+    filled = filled ? FillYear(engine, cal, daylightBias, data0, progress) : filled;
+    data0.Close();
+    return filled;
+}

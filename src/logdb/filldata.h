@@ -11,6 +11,7 @@ class Astronomy;
 class Calendar;
 class DataControl;
 class QAction;
+class QString;
 class QWidget;
 
 // Told of each day as it is computed: the day of the year (1..days) and the number of days.
@@ -30,6 +31,12 @@ FieldValues DayRecord(Astronomy& engine, const Calendar& cal, int d);
 // are as before when it returns. All the records are saved in one transaction, or none.
 DbResult FillYear(Astronomy& engine, const Calendar& cal, std::int32_t daylightBias,
                   DataControl& data0, const FillProgress& progress = {});
+
+// Opens data0 on the file at path with "select * from table1", fills it with FillYear and
+// closes it again.
+DbResult FillYearFile(DataControl& data0, const QString& path, Astronomy& engine,
+                      const Calendar& cal, std::int32_t daylightBias,
+                      const FillProgress& progress = {});
 
 // The log windows switch between browsing and editing through these two.
 void DisableControl(QWidget* control);

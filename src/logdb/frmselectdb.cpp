@@ -2,15 +2,21 @@
 
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
+#include "logdb/backups.h"
 #include "logdb/filldata.h"
+#include "logdb/frmbackups.h"
 #include "logdb/frmtable1.h"
+#include "logdb/importcatches.h"
 #include "logdb/logfiles.h"
 #include "platform/busypointer.h"
+#include "platform/clock.h"
 #include "platform/messageservice.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QListWidget>
 #include <QProgressBar>
@@ -40,6 +46,14 @@ FrmSelectDB::FrmSelectDB(const LogContext& context, QWidget* parent) : QDialog(p
         browser.Data1.SetDatabaseName(path);
         browser.exec();
     };
+    ShowBackups = [this](const QString& path) {
+        FrmBackups backups(Ctx, path, this);
+        backups.exec();
+    };
+    ChooseImportFile = [this] {
+        return QFileDialog::getOpenFileName(this, QStringLiteral("Import Catches"), QString(),
+                                            QStringLiteral("CSV files (*.csv);;All files (*)"));
+    };
     Form_Load();
 }
 
@@ -55,6 +69,11 @@ void FrmSelectDB::BuildControls()
                           QStringLiteral(" Delete Selected File "), this);
     CmdCompact = Button(QStringLiteral("Compact"), QStringLiteral("CmdCompact"), {}, this);
     CmdRepair = Button(QStringLiteral("Repair"), QStringLiteral("CmdRepair"), {}, this);
+    CmdImport =
+        Button(QStringLiteral("Import"), QStringLiteral("CmdImport"),
+               QStringLiteral(" Import Catches from a CSV File into the Selected Year "), this);
+    CmdBackups = Button(QStringLiteral("Backups"), QStringLiteral("CmdBackups"),
+                        QStringLiteral(" Restore an Earlier Copy of the Selected File "), this);
     CloseSelectDB = Button(QStringLiteral("Close"), QStringLiteral("CloseSelectDB"),
                            QStringLiteral(" Close and Exit "), this);
     PBar1 = new QProgressBar(this);
@@ -62,14 +81,15 @@ void FrmSelectDB::BuildControls()
     PBar1->hide();
 
     auto* grid = new QGridLayout(this);
-    grid->addWidget(DBFiles, 0, 0, 7, 1);
+    grid->addWidget(DBFiles, 0, 0, 9, 1);
     int row = 0;
-    for (QPushButton* b : {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair})
+    for (QPushButton* b :
+         {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair, CmdImport, CmdBackups})
         grid->addWidget(b, row++, 1);
     grid->setRowStretch(row++, 1);
     grid->addWidget(CloseSelectDB, row, 1);
-    grid->addWidget(PBar1, 7, 0, 1, 2);
-    resize(300, 260);
+    grid->addWidget(PBar1, 9, 0, 1, 2);
+    resize(300, 300);
 
     connect(DBFiles, &QListWidget::itemSelectionChanged, this, &FrmSelectDB::DBFiles_Click);
     connect(DBFiles, &QListWidget::itemDoubleClicked, this, &FrmSelectDB::DBFiles_DblClick);
@@ -79,11 +99,15 @@ void FrmSelectDB::BuildControls()
     connect(CmdCompact, &QPushButton::clicked, this, &FrmSelectDB::CmdCompact_Click);
     connect(CmdRepair, &QPushButton::clicked, this, &FrmSelectDB::CmdRepair_Click);
     connect(CloseSelectDB, &QPushButton::clicked, this, &FrmSelectDB::CloseSelectDB_Click);
+    connect(CmdBackups, &QPushButton::clicked, this, &FrmSelectDB::CmdBackups_Click);
+    connect(CmdImport, &QPushButton::clicked, this, &FrmSelectDB::CmdImport_Click);
 }
 
 void FrmSelectDB::Form_Load()
 {
+    CleanLeftovers(Ctx.Folder);
     RefreshList();
+    OfferRestore(0);
     OpenDBFile->setEnabled(true);
 }
 
@@ -124,8 +148,19 @@ void FrmSelectDB::CloseAndBrowse()
 {
     close();
     // With no year file chosen yet, or one deleted since, there is nothing to browse.
-    if (!Ctx.State.DBPath.isEmpty() && QFile::exists(Ctx.State.DBPath))
+    if (!Ctx.State.DBPath.isEmpty() && QFile::exists(Ctx.State.DBPath)) {
+        KeepBackup(Ctx.State.DBPath);
         ShowBrowser(Ctx.State.DBPath);
+    }
+}
+
+void FrmSelectDB::KeepBackup(const QString& path)
+{
+    if (const DbResult kept = BackUpIfChanged(path, Clock::Now()); !kept)
+        Ctx.Messages.MsgBox(
+            QStringLiteral("No backup of %1 could be made: %2\nThe file opens as it is.")
+                .arg(QFileInfo(path).fileName(), kept.Message),
+            MsgButtons::OK, QStringLiteral("Backups"), MsgIcon::Exclamation);
 }
 
 void FrmSelectDB::CmdCreate_Click()
@@ -147,47 +182,65 @@ bool FrmSelectDB::CreateDB(std::int16_t year)
                             MsgButtons::OKCancel);
         return true;
     }
-    const CreateYearResult created = CreateYearFile(Ctx.Folder, year);
-    if (created.Outcome != CreateYearResult::Status::Created) {
-        Ctx.Messages.MsgBox(
-            QStringLiteral("The DataBase for %1 could not be created: %2").arg(Y, created.Message),
-            MsgButtons::OK, QStringLiteral("Create DataBase"), MsgIcon::Critical);
-        Ctx.State.DBPath.clear();
-        return false;
+    if (OfferRestore(year))
+        return true;
+    CreateYearResult created;
+    {
+        const BusyPointer busy;
+        created = CreateYearFile(Ctx.Folder, year,
+                                 [this, year](const QString& path) { return Fill(path, year); });
+        PBar1->hide();
     }
-    return Fill(year);
-}
-
-bool FrmSelectDB::Fill(std::int16_t year)
-{
-    const BusyPointer busy;
-    Data0.SetDatabaseName(Ctx.State.DBPath);
-    Data0.SetRecordSource(QStringLiteral("select * from table1"));
-    DbResult filled = Data0.Refresh();
-    if (filled) {
-        Astronomy engine = Ctx.Engine;
-        const Calendar cal = YearCalendar(engine, year, Ctx.SouthernHemisphere);
-        PBar1->setRange(1, cal.YearSlots - 1);
-        PBar1->show();
-        filled = FillYear(engine, cal, Ctx.DaylightBias, Data0,
-                          [this](int day, int) { PBar1->setValue(day); });
-    }
-    Data0.Close();
-    PBar1->hide();
     if (parentWidget())
         parentWidget()->show();
-    if (!filled) {
-        // The new file holds nothing of the angler's; without it Create works again.
-        QFile::remove(Ctx.State.DBPath);
-        Ctx.State.DBPath.clear();
-        Ctx.Messages.MsgBox(QStringLiteral("The DataBase for %1 could not be filled: %2\n"
-                                           "No file was kept; use Create to try again.")
-                                .arg(year)
-                                .arg(filled.Message),
-                            MsgButtons::OK, QStringLiteral("Create DataBase"), MsgIcon::Critical);
-    }
     RefreshList();
-    return bool(filled);
+    if (created.Outcome == CreateYearResult::Status::Failed) {
+        Ctx.State.DBPath.clear();
+        Ctx.Messages.MsgBox(QStringLiteral("The DataBase for %1 could not be created: %2\n"
+                                           "No file was kept; use Create to try again.")
+                                .arg(Y, created.Message),
+                            MsgButtons::OK, QStringLiteral("Create DataBase"), MsgIcon::Critical);
+        return false;
+    }
+    return true;
+}
+
+DbResult FrmSelectDB::Fill(const QString& path, std::int16_t year)
+{
+    Astronomy engine = Ctx.Engine;
+    const Calendar cal = YearCalendar(engine, year, Ctx.SouthernHemisphere);
+    PBar1->setRange(1, cal.YearSlots - 1);
+    PBar1->show();
+    return FillYearFile(Data0, path, engine, cal, Ctx.DaylightBias,
+                        [this](int day, int) { PBar1->setValue(day); });
+}
+
+bool FrmSelectDB::OfferRestore(int year)
+{
+    for (const RestorableYear& kept : RestorableYears(Ctx.Folder)) {
+        if (kept.Year != year && year != 0)
+            continue;
+        const QString name = YearFileName(kept.Year);
+        const MsgResult answer = Ctx.Messages.MsgBox(
+            QStringLiteral("%1 is missing, but a copy of it is kept as %2.\n"
+                           "Restore %1 from that copy?")
+                .arg(name, QFileInfo(kept.Copy).fileName()),
+            MsgButtons::YesNo, QStringLiteral("Restore DataBase"), MsgIcon::Question);
+        if (answer != MsgResult::Yes)
+            continue;
+        if (const DbResult restored = RestoreYearFile(Ctx.Folder, kept); !restored) {
+            Ctx.Messages.MsgBox(QStringLiteral("%1 could not be restored: %2\n"
+                                               "The copy is kept as it was.")
+                                    .arg(name, restored.Message),
+                                MsgButtons::OK, QStringLiteral("Restore DataBase"),
+                                MsgIcon::Critical);
+            continue;
+        }
+        RefreshList();
+        if (kept.Year == year)
+            return true;
+    }
+    return false;
 }
 
 void FrmSelectDB::DeleteDBFile_Click()
@@ -198,7 +251,7 @@ void FrmSelectDB::DeleteDBFile_Click()
     const MsgResult answer =
         Ctx.Messages.MsgBox(QStringLiteral("Confirm to Delete Selected File "), MsgButtons::YesNo);
     if (answer != MsgResult::No)
-        QFile::remove(path);
+        DeleteYearFile(path);
     RefreshList();
 }
 
@@ -221,10 +274,32 @@ void FrmSelectDB::CmdRepair_Click()
 {
     if (SelectedOrComplain().isEmpty())
         return;
-    const DbResult repaired = RepairDB(Ctx.State.DBPath);
-    Ctx.Messages.MsgBox(repaired ? QStringLiteral("Repair Completed!")
-                                 : QStringLiteral("Error Repairing Database!"),
+    RepairReport repaired;
+    {
+        const BusyPointer busy;
+        repaired = RepairYearFile(Ctx.State.DBPath);
+    }
+    Ctx.Messages.MsgBox(repaired.Result
+                            ? QStringLiteral("Repair Completed!\n") + repaired.Summary()
+                            : QStringLiteral("Error Repairing Database!\n%1\nThe file is kept "
+                                             "as it was.")
+                                  .arg(repaired.Result.Message),
                         MsgButtons::OK, QStringLiteral("Repair DataBases"));
 }
 
 void FrmSelectDB::CloseSelectDB_Click() { close(); }
+
+void FrmSelectDB::CmdBackups_Click()
+{
+    if (const QString path = SelectedOrComplain(); !path.isEmpty())
+        ShowBackups(path);
+}
+
+void FrmSelectDB::CmdImport_Click()
+{
+    const QString path = SelectedOrComplain();
+    if (path.isEmpty())
+        return;
+    if (const QString csv = ChooseImportFile(); !csv.isEmpty())
+        ImportCatches(Ctx, path, csv);
+}

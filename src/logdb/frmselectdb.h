@@ -31,6 +31,8 @@ public:
     void CmdCompact_Click();
     void CmdRepair_Click();
     void CloseSelectDB_Click();
+    void CmdBackups_Click();
+    void CmdImport_Click();
 
     // Creates and fills the year's file, or leaves an existing one as it is. False when the
     // fill failed; the unfinished file is then gone and DBPath empty.
@@ -38,6 +40,10 @@ public:
 
     // Shows the record browser on a year file, modally; tests put their own in its place.
     std::function<void(const QString& path)> ShowBrowser;
+    // Shows the backups of a year file, modally.
+    std::function<void(const QString& path)> ShowBackups;
+    // Asks for the CSV file to import; empty when the user cancels.
+    std::function<QString()> ChooseImportFile;
 
     QListWidget* DBFiles = nullptr;
     QPushButton* OpenDBFile = nullptr;
@@ -46,6 +52,8 @@ public:
     QPushButton* CmdCompact = nullptr;
     QPushButton* CmdRepair = nullptr;
     QPushButton* CloseSelectDB = nullptr;
+    QPushButton* CmdBackups = nullptr;
+    QPushButton* CmdImport = nullptr;
     QProgressBar* PBar1 = nullptr;
     DataControl Data0;
 
@@ -57,7 +65,13 @@ private:
     QString SelectedOrComplain();
     // Closes this window and browses DBPath when that file is there.
     void CloseAndBrowse();
-    bool Fill(std::int16_t year);
+    // Writes the year's forecasts into the file being created, showing the progress.
+    DbResult Fill(const QString& path, std::int16_t year);
+    // Asks, for the year (0: every year) whose file is missing while a copy is kept, whether
+    // to restore it, and restores it. True when the year's file is back.
+    bool OfferRestore(int year);
+    // A copy of the year file before it is edited, when it changed since the last one.
+    void KeepBackup(const QString& path);
 
     LogContext Ctx;
 };

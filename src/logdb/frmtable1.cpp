@@ -4,6 +4,9 @@
 #include "astro/moonpicture.h"
 #include "logdb/databar.h"
 #include "logdb/filldata.h"
+#include "logdb/querybuilder.h"
+#include "logdb/queryrun.h"
+#include "logdb/frmstatistics.h"
 #include "logdb/storedforms.h"
 #include "platform/busypointer.h"
 #include "platform/messageservice.h"
@@ -22,10 +25,15 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QSessionManager>
+#include <QToolTip>
 
 #include <functional>
 
 namespace {
+
+constexpr int TakenWithLength = 255;
+const QString TakenWithLimitText = QStringLiteral("Taken With holds at most 255 characters.");
 
 // A bound box: how it shows a stored value, and the entry it has for Update, if any.
 class BoundBox : public BoundControl {
@@ -117,6 +125,28 @@ frmTable1::frmTable1(const LogContext& context, QWidget* parent) : QDialog(paren
     setModal(true);
     BuildControls();
     Form_Load();
+    WatchTheWayOut();
+}
+
+void frmTable1::WatchTheWayOut()
+{
+    if (parentWidget()) {
+        Owner = parentWidget()->window();
+        Owner->installEventFilter(this);
+    }
+    // Quitting closes the windows first, so closeEvent asks and Cancel stops it; so does a
+    // desktop session that ends. An end that cannot be refused still asks, and a Cancel
+    // there keeps the entry the only way left: saved.
+    if (auto* app = qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+        connect(app, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
+            if (!ConfirmLeaveEditing())
+                session.cancel();
+        });
+    }
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
+        if (!ConfirmLeaveEditing())
+            cmdUpdate_Click();
+    });
 }
 
 frmTable1::~frmTable1()
@@ -132,15 +162,19 @@ void frmTable1::BuildControls()
     mnuExit = bar->addAction(QStringLiteral("Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
     connect(mnuExit, &QAction::triggered, this, &frmTable1::mnuExit_Click);
+    BuildQueryMenus(bar);
+    bar->addAction("Statistics", this, [this] { ShowStatistics(Ctx, Data1.DatabaseName(), this); });
 
     Data1Bar = new DataBar(Data1, this);
     auto* layout = new QGridLayout(this);
     layout->setMenuBar(bar);
     layout->addWidget(BuildDayPanel(), 0, 0);
     layout->addWidget(BuildCatchPanel(), 0, 1);
+    layout->addWidget(BuildQueryPanel(), 0, 2, 2, 1);
     layout->addWidget(Data1Bar, 1, 0, 1, 2);
     layout->setColumnStretch(0, 3);
     layout->setColumnStretch(1, 2);
+    layout->setColumnStretch(2, 2);
 
     connect(&Data1, &DataControl::Reposition, this, &frmTable1::Data1_Reposition);
     connect(Data1Bar, &DataBar::Error, this, &frmTable1::Data1_Error);
@@ -240,6 +274,13 @@ QWidget* frmTable1::BuildCatchPanel()
     Text7->setObjectName(QStringLiteral("Text7"));
     txtFields[17]->setParent(catchBox);
     txtFields[18]->setParent(catchBox);
+    // The column holds 255 characters; the box takes no more and says so when it refuses.
+    txtFields[18]->setMaxLength(TakenWithLength);
+    txtFields[18]->setToolTip(TakenWithLimitText);
+    connect(txtFields[18], &QLineEdit::inputRejected, this, [this] {
+        QToolTip::showText(txtFields[18]->mapToGlobal(QPoint(0, txtFields[18]->height())),
+                           TakenWithLimitText, txtFields[18]);
+    });
     txtFields[17]->installEventFilter(this);
     form->addWidget(Caption(QStringLiteral("Total Taken:"), catchBox), 0, 0);
     form->addWidget(txtFields[17], 0, 1);
@@ -301,7 +342,9 @@ void frmTable1::BindControls()
     bindBox(18, QStringLiteral("TakenWith"));
 
     Bindings.push_back(std::make_unique<BoundBox>([this](const QVariant& v) {
-        Text4->setText(v.toString());
+        // 15 significant digits, as the log has always shown a double.
+        const auto hours = NumberOf(v);
+        Text4->setText(hours ? QString::number(*hours, 'g', 15) : v.toString());
         Text4->setCursorPosition(0);
     }));
     Data1.Bind(QStringLiteral("DaylightHours"), Bindings.back().get());
@@ -341,6 +384,14 @@ void frmTable1::Form_Load()
         resize(screen->availableGeometry().size());
     PeakTimeCombo->addItems(HourTexts());
     Combo4->addItems(NumberTexts(0, 100));
+    TimeCombo->addItems(HourTexts());
+    Combo2->addItems(NumberTexts(0, 100));
+    MonthList->addItems(NumberTexts(1, 12));
+    DOWList->addItems(NumberTexts(1, 7) << QStringLiteral("Sat-Sun") << QStringLiteral("Fri-Sun"));
+    for (const Ordering& order : Orderings())
+        SortByCombo->addItem(QStringOf(order.Entry));
+    const QueryForm start;
+    ShowQueryValues(start);
     BindControls();
     SetBrowsing(true);
     FirstActivation = true;
@@ -368,6 +419,8 @@ void frmTable1::Form_Activate()
                 Data1.FindFirst(QStringLiteral("dbid = ") + QString::number(Ctx.State.FindDBID));
             !found)
             Data1_Error(found.Message);
+        // Found once: later activations (after the report, say) stay on the shown record.
+        Ctx.State.FindRecord = false;
     }
 }
 
@@ -457,6 +510,8 @@ void frmTable1::SetBrowsing(bool browsing)
     for (QWidget* w : std::initializer_list<QWidget*>{Data1Bar, cmdEdit})
         set(w, browsing);
     set(mnuExit, browsing);
+    set(Command1, browsing);
+    set(mnutableview, browsing);
     for (QWidget* w : std::initializer_list<QWidget*>{cmdUpdate, txtFields[17], txtFields[18],
                                                       Combo4, PeakTimeCombo, Text7})
         set(w, !browsing);
@@ -505,6 +560,10 @@ bool frmTable1::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == txtFields[17] && event->type() == QEvent::MouseButtonRelease)
         txtFields_Click(17);
+    if (watched == Owner && event->type() == QEvent::Close && !ConfirmLeaveEditing()) {
+        event->ignore();
+        return true;
+    }
     return QDialog::eventFilter(watched, event);
 }
 
@@ -514,8 +573,37 @@ void frmTable1::mnuExit_Click()
     close();
 }
 
+bool frmTable1::ConfirmLeaveEditing()
+{
+    if (Data1.EditMode() == DataControl::EditState::None)
+        return true;
+    const MsgResult answer =
+        Ctx.Messages.MsgBox(QStringLiteral("Save changes to this day?"),
+                            MsgButtons::SaveDiscardCancel, windowTitle(), MsgIcon::Question);
+    if (answer == MsgResult::Save) {
+        cmdUpdate_Click();
+        return Data1.EditMode() == DataControl::EditState::None;
+    }
+    if (answer != MsgResult::Discard)
+        return false;
+    Data1.CancelUpdate();
+    Combo4->hide();
+    SetBrowsing(true);
+    return true;
+}
+
+void frmTable1::reject()
+{
+    if (ConfirmLeaveEditing())
+        QDialog::reject();
+}
+
 void frmTable1::closeEvent(QCloseEvent* event)
 {
+    if (!ConfirmLeaveEditing()) {
+        event->ignore();
+        return;
+    }
     Form_Unload();
     QDialog::closeEvent(event);
 }

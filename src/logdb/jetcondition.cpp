@@ -42,8 +42,9 @@ using Node = JetCondition::Node;
 //         | field IS [NOT] NULL
 class Parser {
 public:
-    Parser(std::vector<Token> tokens, std::vector<std::string>& fields, std::string& error)
-        : tokens_(std::move(tokens)), fields_(fields), error_(error)
+    Parser(std::vector<Token> tokens, const std::vector<JetValue>& parameters,
+           std::vector<std::string>& fields, std::string& error)
+        : tokens_(std::move(tokens)), parameters_(parameters), fields_(fields), error_(error)
     {
     }
 
@@ -52,6 +53,8 @@ public:
         auto node = Condition();
         if (node && pos_ < tokens_.size())
             return Fail("Syntax error in search condition near '" + tokens_[pos_].Text + "'.");
+        if (node && used_ != parameters_.size())
+            return Fail("The search condition and its values do not match.");
         return node;
     }
 
@@ -158,8 +161,20 @@ private:
         return Fail("Expected a comparison after '" + node.Field + "'.");
     }
 
+    std::optional<Literal> Parameter()
+    {
+        if (used_ >= parameters_.size()) {
+            Fail("The search condition and its values do not match.");
+            return std::nullopt;
+        }
+        const JetValue& p = parameters_[used_++];
+        return Literal{p.Number, p.Text};
+    }
+
     std::optional<Literal> Value()
     {
+        if (AcceptSymbol("?"))
+            return Parameter();
         const bool negative = AcceptSymbol("-");
         if (pos_ >= tokens_.size()) {
             Fail("A search condition ends without a value.");
@@ -181,6 +196,8 @@ private:
 
     std::vector<Token> tokens_;
     std::size_t pos_ = 0;
+    const std::vector<JetValue>& parameters_;
+    std::size_t used_ = 0;
     std::vector<std::string>& fields_;
     std::string& error_;
 };
@@ -245,14 +262,15 @@ bool Evaluate(const Node& node, const std::function<JetValue(std::string_view)>&
 
 } // namespace
 
-std::optional<JetCondition> JetCondition::Parse(std::string_view text, std::string& error)
+std::optional<JetCondition> JetCondition::Parse(std::string_view text, std::string& error,
+                                                const std::vector<JetValue>& parameters)
 {
     Tokens tokens = Tokenize(text);
     error = tokens.Error;
     if (!error.empty())
         return std::nullopt;
     JetCondition condition;
-    auto root = Parser(std::move(tokens.List), condition.fields_, error).Whole();
+    auto root = Parser(std::move(tokens.List), parameters, condition.fields_, error).Whole();
     if (!root)
         return std::nullopt;
     condition.root_ = std::make_shared<const Node>(std::move(*root));

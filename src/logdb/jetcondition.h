@@ -1,6 +1,7 @@
 // A search condition of the program's Jet dialect, as FindFirst takes it: "dbid = 12",
-// "month between 3 and 5 and waxing = 1", "juliandate >= #03/10/2024#". It is evaluated on
-// records already read, so the condition's text never reaches SQL.
+// "month between 3 and 5 and waxing = 1", "juliandate >= #03/10/2024#", "City = ?" with the
+// value given apart. It is evaluated on records already read, so the condition's text never
+// reaches SQL.
 #pragma once
 
 #include <functional>
@@ -19,8 +20,10 @@ struct JetValue {
 
 class JetCondition {
 public:
-    // Nothing, with the reason in error, when the text is not a condition.
-    static std::optional<JetCondition> Parse(std::string_view text, std::string& error);
+    // Nothing, with the reason in error, when the text is not a condition. Each "?" in the
+    // text stands for the next of the parameters, so a user's entry is never parsed.
+    static std::optional<JetCondition> Parse(std::string_view text, std::string& error,
+                                             const std::vector<JetValue>& parameters = {});
 
     // The field names the condition reads, for checking them against the record.
     const std::vector<std::string>& Fields() const { return fields_; }

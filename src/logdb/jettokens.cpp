@@ -72,7 +72,7 @@ std::optional<Token> ReadEnclosedToken(std::string_view sql, std::size_t& pos, s
 std::optional<Token> ReadToken(std::string_view sql, std::size_t& pos, std::string& error)
 {
     static constexpr std::string_view TwoCharSymbols[] = {"<=", ">=", "<>"};
-    static constexpr std::string_view OneCharSymbols = "(),.*=<>+-/;";
+    static constexpr std::string_view OneCharSymbols = "(),.*=<>+-/;?"; // ? marks a parameter
     const char c = sql[pos];
     if (c == '[' || c == '#' || c == '\'' || c == '"')
         return ReadEnclosedToken(sql, pos, error);

@@ -1,6 +1,7 @@
 #include "logdb/logfiles.h"
 
 #include "logdb/jetsql.h"
+#include "logdb/logrepair.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +12,11 @@
 
 #include <algorithm>
 #include <limits>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
 
 namespace {
 
@@ -49,19 +55,49 @@ DbResult CreateEmptyFile(const QString& path)
     return DbResult::Success();
 }
 
-// Puts `fresh` in the place of `path`, keeping the previous file as `keep`; when the last
-// rename fails the previous file gets its name back.
-DbResult Replace(const QString& path, const QString& fresh, const QString& keep, FileOps& ops)
+// Puts the complete, synced file `fresh` in the place of `path`, after the file there has been
+// copied to `keep`. `path` holds the previous file under its own name until the last step,
+// one atomic rename, gives it the new one.
+DbResult SwapIn(const QString& path, const QString& fresh, const QString& keep, FileOps& ops)
 {
-    if (ops.Exists(keep) && !ops.Remove(keep))
-        return DbResult::Failure(QStringLiteral("Cannot delete '%1'.").arg(keep));
-    if (!ops.Rename(path, keep))
-        return DbResult::Failure(QStringLiteral("Cannot rename '%1' to '%2'.").arg(path, keep));
-    if (!ops.Rename(fresh, path)) {
-        ops.Rename(keep, path);
-        return DbResult::Failure(QStringLiteral("Cannot rename '%1' to '%2'.").arg(fresh, path));
+    const QString keeping = keep + QStringLiteral(".new");
+    if (ops.Exists(keeping) && !ops.Remove(keeping))
+        return DbResult::Failure(QStringLiteral("Cannot delete '%1'.").arg(keeping));
+    if (!ops.Copy(path, keeping) || !ops.Sync(keeping)) {
+        ops.Remove(keeping);
+        return DbResult::Failure(QStringLiteral("Cannot copy '%1' to '%2'.").arg(path, keeping));
     }
+    if (!ops.Replace(keeping, keep)) {
+        ops.Remove(keeping);
+        return DbResult::Failure(QStringLiteral("Cannot rename '%1' to '%2'.").arg(keeping, keep));
+    }
+    if (!ops.Replace(fresh, path))
+        return DbResult::Failure(QStringLiteral("Cannot rename '%1' to '%2'.").arg(fresh, path));
     return DbResult::Success();
+}
+
+// The engine's companions of a database file: the rollback journal and the write-ahead log.
+QStringList EngineCompanions(const QString& path)
+{
+    return {path + QStringLiteral("-journal"), path + QStringLiteral("-wal"),
+            path + QStringLiteral("-shm")};
+}
+
+// Gives a complete file its final name: synced, then renamed in one step.
+DbResult Publish(const QString& building, const QString& path, FileOps& ops)
+{
+    if (!ops.Sync(building))
+        return DbResult::Failure(QStringLiteral("Cannot write '%1' to the disk.").arg(building));
+    if (!ops.Rename(building, path))
+        return DbResult::Failure(QStringLiteral("Cannot rename '%1' to '%2'.").arg(building, path));
+    return DbResult::Success();
+}
+
+void RemoveWithCompanions(const QString& path, FileOps& ops)
+{
+    ops.Remove(path);
+    for (const QString& companion : EngineCompanions(path))
+        ops.Remove(companion);
 }
 
 DbResult CheckFile(const QString& path, const QString& connect)
@@ -73,15 +109,50 @@ DbResult CheckFile(const QString& path, const QString& connect)
 
 DbResult Fail(FileOps& ops, const QString& leftover, const DbResult& failure)
 {
-    ops.Remove(leftover);
+    RemoveWithCompanions(leftover, ops);
     return failure;
+}
+
+// The name a year file is made under until it is whole.
+QString CreatingName(const QString& path) { return path + QStringLiteral(".creating"); }
+
+bool SyncDescriptor(int fd) { return fd >= 0 && ::fsync(fd) == 0; }
+
+bool SyncFolderOf(const QString& path)
+{
+    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
+    const int fd = ::open(folder.constData(), O_RDONLY | O_DIRECTORY);
+    const bool synced = SyncDescriptor(fd);
+    if (fd >= 0)
+        ::close(fd);
+    return synced;
 }
 
 } // namespace
 
 bool FileOps::Exists(const QString& path) const { return QFileInfo::exists(path); }
 bool FileOps::Remove(const QString& path) { return QFile::remove(path); }
-bool FileOps::Rename(const QString& from, const QString& to) { return QFile::rename(from, to); }
+bool FileOps::Rename(const QString& from, const QString& to)
+{
+    return QFile::rename(from, to) && SyncFolderOf(to);
+}
+
+bool FileOps::Replace(const QString& from, const QString& to)
+{
+    return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0 &&
+           SyncFolderOf(to);
+}
+
+bool FileOps::Copy(const QString& from, const QString& to) { return QFile::copy(from, to); }
+
+bool FileOps::Sync(const QString& path)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY);
+    const bool synced = SyncDescriptor(fd);
+    if (fd >= 0)
+        ::close(fd);
+    return synced && SyncFolderOf(path);
+}
 
 QString YearFileName(int year) { return QString::number(year) + QStringLiteral(".mdb"); }
 
@@ -119,26 +190,47 @@ DbResult CreateTemplateFile(const QString& path)
     return result;
 }
 
-CreateYearResult CreateYearFile(const QString& folder, int year)
+CreateYearResult CreateYearFile(const QString& folder, int year, const YearFill& fill)
+{
+    FileOps ops;
+    return CreateYearFile(folder, year, fill, ops);
+}
+
+CreateYearResult CreateYearFile(const QString& folder, int year, const YearFill& fill, FileOps& ops)
 {
     CreateYearResult out;
     out.Path = QDir(folder).filePath(YearFileName(year));
-    if (QFileInfo::exists(out.Path)) {
+    if (ops.Exists(out.Path)) {
         out.Outcome = CreateYearResult::Status::AlreadyExists;
         return out;
     }
+    for (const RestorableYear& kept : RestorableYears(folder)) {
+        if (kept.Year == year) { // a fresh file would let that copy be cleaned or replaced
+            out.Message = QStringLiteral("%1 is missing, but a copy of it is kept as %2; restore "
+                                         "it, or move the copy away to start a new file.")
+                              .arg(YearFileName(year), QFileInfo(kept.Copy).fileName());
+            return out;
+        }
+    }
     const QString templatePath = QDir(folder).filePath(TemplateFileName);
-    if (!QFileInfo::exists(templatePath)) {
+    if (!ops.Exists(templatePath)) {
         if (DbResult made = CreateTemplateFile(templatePath); !made) {
             out.Message = made.Message;
             return out;
         }
     }
-    const QString copying = out.Path + QStringLiteral(".new");
-    QFile::remove(copying);
-    if (!QFile::copy(templatePath, copying) || !QFile::rename(copying, out.Path)) {
-        QFile::remove(copying);
-        out.Message = QStringLiteral("Cannot copy '%1' to '%2'.").arg(templatePath, out.Path);
+    const QString building = CreatingName(out.Path);
+    RemoveWithCompanions(building, ops);
+    DbResult made =
+        ops.Copy(templatePath, building)
+            ? DbResult::Success()
+            : DbResult::Failure(
+                  QStringLiteral("Cannot copy '%1' to '%2'.").arg(templatePath, building));
+    made = made && fill ? fill(building) : made;
+    made = made ? Publish(building, out.Path, ops) : made;
+    if (!made) {
+        RemoveWithCompanions(building, ops);
+        out.Message = made.Message;
         return out;
     }
     out.Outcome = CreateYearResult::Status::Created;
@@ -165,22 +257,121 @@ DbResult CompactDB(const QString& path, const QString& connect)
 DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
 {
     const QString compacted = Sibling(path, QStringLiteral("New") + QFileInfo(path).fileName());
-    if (ops.Exists(compacted) && !ops.Remove(compacted)) // left by an interrupted compaction
-        return DbResult::Failure(QStringLiteral("Cannot delete '%1'.").arg(compacted));
     {
         Database db;
         if (DbResult opened = db.Open(path, connect); !opened)
             return opened;
+        // The year file opened, so a copy left beside it by an interrupted compaction holds
+        // nothing the file does not.
+        if (ops.Exists(compacted) && !ops.Remove(compacted))
+            return DbResult::Failure(QStringLiteral("Cannot delete '%1'.").arg(compacted));
         QSqlQuery q(db.Connection());
         q.prepare(QStringLiteral("VACUUM INTO ?"));
         q.addBindValue(compacted);
         if (!q.exec())
             return Fail(ops, compacted, DbResult::Failure(ErrorText(q.lastError())));
     }
+    if (!ops.Sync(compacted))
+        return Fail(
+            ops, compacted,
+            DbResult::Failure(QStringLiteral("Cannot write '%1' to the disk.").arg(compacted)));
     if (DbResult checked = CheckFile(compacted, connect); !checked)
         return Fail(ops, compacted, checked);
-    if (DbResult replaced = Replace(path, compacted, Companion(path, ".BAK"), ops); !replaced)
+    if (DbResult replaced = SwapIn(path, compacted, Companion(path, ".BAK"), ops); !replaced)
         return Fail(ops, compacted, replaced);
+    return DbResult::Success();
+}
+
+bool DeleteYearFile(const QString& path)
+{
+    FileOps ops;
+    const bool removed = ops.Remove(path);
+    for (const QString& companion : EngineCompanions(path))
+        ops.Remove(companion);
+    return removed;
+}
+
+namespace {
+
+// The year file a leftover belongs to: "New2024.mdb" and "Rep2024.mdb" to "2024.mdb".
+QString YearFileOfLeftover(const QString& name)
+{
+    for (const char* prefix : {"New", "Rep"}) {
+        const QString rest = name.mid(3);
+        if (name.startsWith(QLatin1String(prefix)) && IsYearFileName(rest))
+            return rest;
+    }
+    return {};
+}
+
+bool IsSound(const QString& path) { return QFileInfo::exists(path) && bool(CheckFile(path, {})); }
+
+} // namespace
+
+QStringList CleanLeftovers(const QString& folder)
+{
+    FileOps ops;
+    const QDir dir(folder);
+    QStringList removed;
+    for (const QString& name : dir.entryList(QDir::Files, QDir::Name)) {
+        const QString yearFile = YearFileOfLeftover(name);
+        const bool unfinishedCreate = name.endsWith(QStringLiteral(".creating"));
+        if (!unfinishedCreate && (yearFile.isEmpty() || !IsSound(dir.filePath(yearFile))))
+            continue;
+        RemoveWithCompanions(dir.filePath(name), ops);
+        removed << name;
+    }
+    return removed;
+}
+
+std::vector<RestorableYear> RestorableYears(const QString& folder)
+{
+    const QDir dir(folder);
+    std::vector<RestorableYear> years;
+    for (const QString& name : dir.entryList(QDir::Files, QDir::Name)) {
+        const bool backup =
+            name.size() == 8 && name.endsWith(QStringLiteral(".BAK"), Qt::CaseInsensitive);
+        const QString yearFile =
+            backup ? name.left(4) + QStringLiteral(".mdb") : YearFileOfLeftover(name);
+        bool isYear = false;
+        const int year = yearFile.left(4).toInt(&isYear);
+        if (yearFile.isEmpty() || !isYear || QFileInfo::exists(dir.filePath(yearFile)))
+            continue;
+        const QString copy = dir.filePath(name);
+        auto known = std::find_if(years.begin(), years.end(),
+                                  [year](const RestorableYear& r) { return r.Year == year; });
+        if (backup && known == years.end())
+            years.push_back({year, copy});
+        else if (!backup && IsSound(copy)) // the newer copy wins over the .BAK
+            known == years.end() ? years.push_back({year, copy}) : void(known->Copy = copy);
+    }
+    return years;
+}
+
+DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept)
+{
+    FileOps ops;
+    return RestoreYearFile(folder, kept, ops);
+}
+
+DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept, FileOps& ops)
+{
+    const QString path = QDir(folder).filePath(YearFileName(kept.Year));
+    if (ops.Exists(path))
+        return DbResult::Failure(QStringLiteral("'%1' exists already.").arg(path));
+    if (DbResult checked = CheckFile(kept.Copy, {}); !checked)
+        return DbResult::Failure(
+            QStringLiteral("'%1' cannot be read: %2").arg(kept.Copy, checked.Message));
+    const QString building = CreatingName(path);
+    RemoveWithCompanions(building, ops);
+    if (!ops.Copy(kept.Copy, building))
+        return Fail(ops, building,
+                    DbResult::Failure(
+                        QStringLiteral("Cannot copy '%1' to '%2'.").arg(kept.Copy, building)));
+    if (DbResult published = Publish(building, path, ops); !published)
+        return Fail(ops, building, published);
+    if (!kept.Copy.endsWith(QStringLiteral(".BAK"), Qt::CaseInsensitive))
+        ops.Remove(kept.Copy);
     return DbResult::Success();
 }
 
@@ -192,6 +383,14 @@ struct RebuildLinks {
     QSqlDatabase From;
     QSqlDatabase To;
 };
+
+int CountRecords(const QSqlDatabase& db, const QString& table)
+{
+    QSqlQuery q(db);
+    return q.exec(QStringLiteral("SELECT count(*) FROM %1").arg(QuotedName(table))) && q.next()
+               ? q.value(0).toInt()
+               : 0;
+}
 
 // Largest rowid the table may hold, from whatever can still be read; at least `floor`.
 qint64 RowIdCeiling(const QSqlDatabase& from, const QString& table, qint64 floor)
@@ -258,7 +457,7 @@ DbResult CopyReadableRows(const RebuildLinks& links, const QString& table)
     for (const qint64 id : ReadableRowIds(links.From, table)) {
         read.addBindValue(id);
         if (!read.exec() || !read.next())
-            continue; // a record whose own pages are damaged is lost; the others are kept
+            continue; // read from the pages afterwards, when they still hold it
         const int count = read.record().count();
         if (write.lastQuery().isEmpty())
             write.prepare(QStringLiteral("INSERT INTO %1 VALUES (%2)")
@@ -326,23 +525,61 @@ DbResult RebuildInto(const RebuildLinks& links, const std::vector<SchemaEntry>& 
     return DbResult::Success();
 }
 
-DbResult Rebuild(Database& damaged, const QString& target)
+// The shipped layout, for a damaged file whose own schema cannot be read.
+DbResult TemplateSchema(Database& out)
+{
+    QFile schema(QStringLiteral(":/logdb/default_schema.sql"));
+    if (!schema.open(QIODevice::ReadOnly))
+        return DbResult::Failure(QStringLiteral("The log's schema is missing from the program."));
+    return RunScript(out, QString::fromUtf8(schema.readAll()));
+}
+
+// The highest record number the damaged file is known to have given.
+qint64 HighestNumber(const QSqlDatabase& from, const QSqlDatabase& to)
+{
+    qint64 highest = 0;
+    for (const auto& [db, sql] :
+         {std::pair{from, "SELECT seq FROM sqlite_sequence WHERE name = 'table1'"},
+          std::pair{to, "SELECT max(rowid) FROM table1"}}) {
+        QSqlQuery q(db);
+        if (q.exec(QLatin1String(sql)) && q.next())
+            highest = std::max(highest, q.value(0).toLongLong());
+    }
+    return highest;
+}
+
+// Every record the damaged file's table1 still has, read through the engine where it can
+// and from the pages where it cannot; then the values no column can hold are taken out.
+DbResult RebuildAll(Database& damaged, Database& out, RepairReport& report)
+{
+    const RebuildLinks links{damaged.Connection(), out.Connection()};
+    DbResult result;
+    const std::vector<SchemaEntry> schema = ReadSchema(links.From, result);
+    const bool ownSchema =
+        result && std::any_of(schema.begin(), schema.end(), [](auto& e) {
+            return e.Name.compare(QStringLiteral("table1"), Qt::CaseInsensitive) == 0;
+        });
+    result = ownSchema ? RebuildInto(links, schema) : TemplateSchema(out);
+    if (!result)
+        return result;
+    AddSalvagedRecords(damaged.Path(), links.To, QStringLiteral("table1"));
+    report.Marked = OutOfRangeValues(links.To, true);
+    report.Kept = CountRecords(links.To, QStringLiteral("table1"));
+    report.Unreadable = int(std::max<qint64>(0, HighestNumber(links.From, links.To) - report.Kept));
+    return DbResult::Success();
+}
+
+DbResult Rebuild(Database& damaged, const QString& target, RepairReport& report)
 {
     if (DbResult created = CreateEmptyFile(target); !created)
         return created;
     Database out;
     if (DbResult opened = out.Open(target); !opened)
         return opened;
-    const RebuildLinks links{damaged.Connection(), out.Connection()};
-    DbResult result;
-    const std::vector<SchemaEntry> schema = ReadSchema(links.From, result);
-    if (!result)
-        return result;
-    QSqlDatabase to = links.To;
+    QSqlDatabase to = out.Connection();
     if (!to.transaction())
         return DbResult::Failure(ErrorText(to.lastError()));
-    result = RebuildInto(links, schema);
-    if (!result) {
+    if (DbResult result = RebuildAll(damaged, out, report); !result) {
         to.rollback();
         return result;
     }
@@ -355,25 +592,63 @@ DbResult Rebuild(Database& damaged, const QString& target)
 
 DbResult RepairDB(const QString& path, const QString& connect)
 {
-    FileOps ops;
-    return RepairDB(path, connect, ops);
+    return RepairYearFile(path, connect).Result;
 }
 
 DbResult RepairDB(const QString& path, const QString& connect, FileOps& ops)
 {
+    return RepairYearFile(path, connect, ops).Result;
+}
+
+RepairReport RepairYearFile(const QString& path, const QString& connect)
+{
+    FileOps ops;
+    return RepairYearFile(path, connect, ops);
+}
+
+RepairReport RepairYearFile(const QString& path, const QString& connect, FileOps& ops)
+{
+    RepairReport report;
+    report.KeptAs = QFileInfo(Companion(path, ".BAD")).fileName();
     const QString rebuilt = Sibling(path, QStringLiteral("Rep") + QFileInfo(path).fileName());
+    const auto failed = [&](const DbResult& failure) {
+        report.Result = Fail(ops, rebuilt, failure);
+        return report;
+    };
     {
         Database damaged;
-        if (DbResult opened = damaged.Open(path, connect); !opened)
-            return opened;
-        if (CheckIntegrity(damaged))
-            return DbResult::Success(); // nothing to repair
+        if (report.Result = damaged.Open(path, connect); !report.Result)
+            return report;
+        if (CheckIntegrity(damaged) && OutOfRangeValues(damaged.Connection(), false) == 0) {
+            report.Kept = CountRecords(damaged.Connection(), QStringLiteral("table1"));
+            return report;
+        }
+        report.Damaged = true;
         if (ops.Exists(rebuilt) && !ops.Remove(rebuilt))
-            return DbResult::Failure(QStringLiteral("Cannot delete '%1'.").arg(rebuilt));
-        if (DbResult made = Rebuild(damaged, rebuilt); !made)
-            return Fail(ops, rebuilt, made);
+            return failed(DbResult::Failure(QStringLiteral("Cannot delete '%1'.").arg(rebuilt)));
+        if (DbResult made = Rebuild(damaged, rebuilt, report); !made)
+            return failed(made);
     }
-    if (DbResult replaced = Replace(path, rebuilt, Companion(path, ".BAD"), ops); !replaced)
-        return Fail(ops, rebuilt, replaced);
-    return DbResult::Success();
+    if (!ops.Sync(rebuilt))
+        return failed(
+            DbResult::Failure(QStringLiteral("Cannot write '%1' to the disk.").arg(rebuilt)));
+    if (DbResult replaced = SwapIn(path, rebuilt, Companion(path, ".BAD"), ops); !replaced)
+        return failed(replaced);
+    return report;
+}
+
+QString RepairReport::Summary() const
+{
+    if (!Damaged)
+        return QStringLiteral("The file is sound: all %1 records are kept as they were.").arg(Kept);
+    const QString marked =
+        Marked == 0 ? QString()
+                    : QStringLiteral(" Values that could not be right: %1, emptied and noted in "
+                                     "their day's Notes.")
+                          .arg(Marked);
+    return QStringLiteral("%1 records kept, %2 could not be read.%3 The damaged file is kept as "
+                          "%4.")
+        .arg(Kept)
+        .arg(Unreadable)
+        .arg(marked, KeptAs);
 }

@@ -11,7 +11,11 @@
 inline constexpr auto TemplateFileName = "Default.mdb";
 inline constexpr auto LogTableName = "table1";
 
-// The file operations compaction and repair are made of, so that a test can make one fail.
+#include <functional>
+#include <vector>
+
+// The file steps that creating, compacting, repairing and restoring a year are made of, so
+// that a test can make one fail or stop the program at one.
 class FileOps {
 public:
     virtual ~FileOps() = default;
@@ -19,7 +23,16 @@ public:
     virtual bool Remove(const QString& path);
     // Fails when the target exists.
     virtual bool Rename(const QString& from, const QString& to);
+    // Gives `from` the name `to` in one atomic step, in place of any file of that name.
+    virtual bool Replace(const QString& from, const QString& to);
+    // Copies into a new file; fails when the target exists.
+    virtual bool Copy(const QString& from, const QString& to);
+    // Puts the file's contents and its entry in the folder on the disk.
+    virtual bool Sync(const QString& path);
 };
+
+// Writes a year's records into the file at the given path.
+using YearFill = std::function<DbResult(const QString& path)>;
 
 // "2004.mdb".
 QString YearFileName(int year);
@@ -42,20 +55,64 @@ struct CreateYearResult {
     QString Message; // why it failed
 };
 
-// Copies the folder's Default.mdb (made from the schema when it is missing) to "YYYY.mdb".
-// An existing year file is left exactly as it is.
-CreateYearResult CreateYearFile(const QString& folder, int year);
+// Makes "YYYY.mdb" from the folder's Default.mdb (made from the schema when it is missing):
+// the copy is made under the name "YYYY.mdb.creating", filled, synced, and only then given
+// the year's name, in one rename. A crash at any moment leaves no year file or a whole one;
+// a failure leaves none. An existing year file is left exactly as it is.
+CreateYearResult CreateYearFile(const QString& folder, int year, const YearFill& fill = {});
+CreateYearResult CreateYearFile(const QString& folder, int year, const YearFill& fill,
+                                FileOps& ops);
 
-// Compacts the file: "New" + name is written beside it and checked, the previous
-// "<first four characters>.BAK" is deleted, the file becomes that .BAK and the new copy takes
-// its name. On any failure the file stays readable under its own name.
+// Compacts the file: "New" + name is written beside it, synced and checked; the file is
+// copied to "<first four characters>.BAK" in place of the previous one; then the new copy
+// takes the file's name in one rename. The year file keeps its name throughout, so a crash
+// at any moment leaves it whole under that name.
 DbResult CompactDB(const QString& path, const QString& connect = {});
 DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops);
+
+// Deletes a year file with the engine's companions of it (an unfinished journal).
+bool DeleteYearFile(const QString& path);
+
+// Removes what an interrupted create, compaction or repair left in the folder, where it
+// holds nothing of the angler's that is not in the year file: "YYYY.mdb.creating" files
+// (forecasts only), and "NewYYYY.mdb" or "RepYYYY.mdb" beside a sound "YYYY.mdb". Returns
+// the names removed.
+QStringList CleanLeftovers(const QString& folder);
+
+// A year whose file is missing while a copy of it is kept: the compacted "NewYYYY.mdb" of an
+// interrupted compaction when it is sound, else "YYYY.BAK".
+struct RestorableYear {
+    int Year = 0;
+    QString Copy; // full path
+};
+std::vector<RestorableYear> RestorableYears(const QString& folder);
+
+// Makes the kept copy the year's file again (copied, synced, renamed into place); the .BAK
+// stays, a "NewYYYY.mdb" is used up.
+DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept);
+DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept, FileOps& ops);
 
 // Checks the file and, when it is damaged, rebuilds it with every record that can still be
 // read; the damaged file is kept as "<first four characters>.BAD".
 DbResult RepairDB(const QString& path, const QString& connect = {});
 DbResult RepairDB(const QString& path, const QString& connect, FileOps& ops);
+
+// What a repair did, in words for the angler.
+struct RepairReport {
+    DbResult Result;
+    bool Damaged = false; // the integrity check failed and the file was rebuilt
+    int Kept = 0;         // records of table1 in the repaired file
+    int Unreadable = 0;   // numbers up to the highest given whose record could not be read
+    int Marked = 0;       // values outside their column's range, emptied
+    QString KeptAs;       // the damaged original's name, "2024.BAD"
+    // "366 records kept, 0 could not be read; the damaged file is kept as 2024.BAD." or that
+    // the file is sound.
+    QString Summary() const;
+};
+
+// RepairDB with the counts of what was kept.
+RepairReport RepairYearFile(const QString& path, const QString& connect = {});
+RepairReport RepairYearFile(const QString& path, const QString& connect, FileOps& ops);
 
 // The file's integrity check: success when the engine finds nothing wrong.
 DbResult CheckIntegrity(Database& db);

@@ -15,6 +15,8 @@ QMessageBox::StandardButtons ToQt(MsgButtons b)
         return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     case MsgButtons::RetryCancel:
         return QMessageBox::Retry | QMessageBox::Cancel;
+    case MsgButtons::SaveDiscardCancel:
+        return QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
     case MsgButtons::OK:
         break;
     }
@@ -49,6 +51,10 @@ MsgResult FromQt(int button)
         return MsgResult::No;
     case QMessageBox::Retry:
         return MsgResult::Retry;
+    case QMessageBox::Save:
+        return MsgResult::Save;
+    case QMessageBox::Discard:
+        return MsgResult::Discard;
     default:
         return MsgResult::OK;
     }

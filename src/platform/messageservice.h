@@ -11,9 +11,9 @@
 
 class QWidget;
 
-enum class MsgButtons { OK, OKCancel, YesNo, YesNoCancel, RetryCancel };
+enum class MsgButtons { OK, OKCancel, YesNo, YesNoCancel, RetryCancel, SaveDiscardCancel };
 enum class MsgIcon { None, Information, Question, Exclamation, Critical };
-enum class MsgResult { OK, Cancel, Yes, No, Retry };
+enum class MsgResult { OK, Cancel, Yes, No, Retry, Save, Discard };
 
 struct ShownMessage {
     QString Text;

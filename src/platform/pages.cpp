@@ -22,24 +22,23 @@ QString CannotWrite(const QString& path, const QString& reason)
 }
 
 // Draws every page onto the writer; false when the painter could not start.
-bool DrawPages(QPdfWriter& writer, const PageDrawing& draw)
+} // namespace
+
+bool PaintPages(QPagedPaintDevice& device, const QRectF& area, const PageDrawing& draw)
 {
     QPainter painter;
-    if (!painter.begin(&writer))
+    if (!painter.begin(&device))
         return false;
-    const QRectF area(QPointF(0, 0),
-                      QSizeF(writer.pageLayout().paintRectPixels(writer.resolution()).size()));
     for (int page = 0;; ++page) {
         painter.save();
         const bool more = draw(painter, area, page);
         painter.restore();
         if (!more)
             break;
-        writer.newPage();
+        device.newPage();
     }
     return painter.end();
 }
-} // namespace
 
 QPageLayout DefaultPageLayout(QPageLayout::Orientation orientation)
 {
@@ -59,7 +58,9 @@ QString WritePdf(const QString& path, const QString& title, const QPageLayout& l
         writer.setTitle(title);
         writer.setCreator(QStringLiteral("Quillmere"));
         writer.setPageLayout(layout);
-        if (!DrawPages(writer, draw)) {
+        const QRectF area(QPointF(0, 0),
+                          QSizeF(writer.pageLayout().paintRectPixels(writer.resolution()).size()));
+        if (!PaintPages(writer, area, draw)) {
             file.cancelWriting();
             return CannotWrite(path, QStringLiteral("the page could not be drawn"));
         }

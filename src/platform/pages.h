@@ -10,11 +10,16 @@
 
 #include <functional>
 
+class QPagedPaintDevice;
 class QPainter;
 
 // Draws page `page` (0, 1, ...) into `area`, the printable part of the paper in the painter's
 // device units with its top-left corner at (0, 0); returns true when another page follows.
 using PageDrawing = std::function<bool(QPainter& painter, const QRectF& area, int page)>;
+
+// Paints the drawing's pages on a printer or PDF writer whose printable area is area; false
+// when the device cannot be painted on.
+bool PaintPages(QPagedPaintDevice& device, const QRectF& area, const PageDrawing& draw);
 
 // The paper of the user's locale: Letter where US measures are used, A4 elsewhere, upright,
 // with half-inch margins.

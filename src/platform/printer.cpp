@@ -7,24 +7,6 @@
 #include <QPrinter>
 
 namespace {
-bool DrawOnPrinter(QPrinter& printer, const PageDrawing& draw)
-{
-    QPainter painter;
-    if (!painter.begin(&printer))
-        return false;
-    // The painter's origin is the printable area's top-left corner.
-    const QRectF area(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size());
-    for (int page = 0;; ++page) {
-        painter.save();
-        const bool more = draw(painter, area, page);
-        painter.restore();
-        if (!more)
-            break;
-        printer.newPage();
-    }
-    return painter.end();
-}
-
 PrintOutcome ToPdf(MessageService& messages, const QString& path, const QString& title,
                    const QPageLayout& layout, const PageDrawing& draw)
 {
@@ -52,5 +34,7 @@ PrintOutcome PrintDocument(QWidget* parent, MessageService& messages, const QStr
     // "Print to File" goes through the same safe file writing as every PDF.
     if (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty())
         return ToPdf(messages, printer.outputFileName(), title, printer.pageLayout(), draw);
-    return DrawOnPrinter(printer, draw) ? PrintOutcome::Printed : PrintOutcome::NotPrinted;
+    // The painter's origin is the printable area's top-left corner.
+    const QRectF area(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size());
+    return PaintPages(printer, area, draw) ? PrintOutcome::Printed : PrintOutcome::NotPrinted;
 }

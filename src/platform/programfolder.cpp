@@ -16,23 +16,30 @@ QString FolderPath()
         .filePath(QStringLiteral("Quillmere"));
 }
 
-// Copies every shipped file that the folder does not hold yet; never overwrites the user's.
-void Seed(const QString& folder)
+// Copies every file of the seed folder that the program folder does not hold yet; never
+// overwrites the user's.
+void SeedFrom(const QString& seed, const QString& folder)
 {
-    const QString source = ProgramFolder::ShippedDataFolder();
-    if (source.isEmpty())
-        return;
-    QDirIterator it(source + "/seed", QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator it(seed, QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString from = it.next();
-        const QString relative = QDir(source + "/seed").relativeFilePath(from);
-        const QString to = folder + "/" + relative;
+        const QString to = folder + "/" + QDir(seed).relativeFilePath(from);
         if (!QFile::exists(to)) {
             QDir().mkpath(QFileInfo(to).path());
             QFile::copy(from, to);
             QFile(to).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
         }
     }
+}
+
+// The shipped files, and when running from the build tree the files the build made (the
+// city database), which an installed program finds among the shipped ones.
+void Seed(const QString& folder)
+{
+    const QString source = ProgramFolder::ShippedDataFolder();
+    if (!source.isEmpty())
+        SeedFrom(source + "/seed", folder);
+    SeedFrom(QStringLiteral(QUILLMERE_BUILT_SEED_DIR), folder);
 }
 } // namespace
 
@@ -43,7 +50,7 @@ QString ProgramFolder::ShippedDataFolder()
     if (!env.isEmpty())
         candidates << QString::fromLocal8Bit(env);
     if (QCoreApplication::instance())
-        candidates << QCoreApplication::applicationDirPath() + "/../share/quillmere"
+        candidates << QCoreApplication::applicationDirPath() + "/" QUILLMERE_BIN_TO_DATA
                    << QCoreApplication::applicationDirPath() + "/data";
     candidates << QStringLiteral(QUILLMERE_DATA_DIR);
     for (const QString& c : candidates)

@@ -10,7 +10,7 @@ namespace ProgramFolder {
 QString Path();
 // Full path of a file in the folder.
 QString File(const QString& name);
-// Where the shipped files come from: $QUILLMERE_DATA, else beside the executable
-// (../share/quillmere), else the source tree's data/ folder.
+// Where the shipped files come from: $QUILLMERE_DATA, else where they are installed beside
+// the executable (../share/quillmere), else the source tree's data/ folder.
 QString ShippedDataFolder();
 } // namespace ProgramFolder

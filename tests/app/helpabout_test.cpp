@@ -29,6 +29,7 @@ TEST(FrmAbout, LinksOpenThroughTheDesktop)
     });
     EXPECT_EQ(about.Email->text(), "Email");
     EXPECT_TRUE(about.lblVersion->text().contains(QUILLMERE_VERSION));
+    EXPECT_TRUE(about.lblCredits->text().contains("GeoNames"));
     emit about.lblWeb->linkActivated("#");
     emit about.lblEmail->linkActivated("#");
     ASSERT_EQ(opened.size(), 2u);

@@ -218,8 +218,8 @@ TEST(FrmSelectDB, AFailedFillKeepsNoFileAndCreateWorksAgain)
     QTest::mouseClick(w.CmdCreate, Qt::LeftButton);
     ASSERT_EQ(env.Messages.Shown().size(), 2u);
     const QString said = env.Messages.Shown()[1].Text;
-    EXPECT_TRUE(said.contains("could not be filled") && said.contains("disk is full") &&
-                said.contains("Create"))
+    EXPECT_TRUE(said.contains("could not be created") && said.contains("disk is full") &&
+                said.contains("No file was kept") && said.contains("Create"))
         << said.toStdString();
     EXPECT_FALSE(QFile::exists(path));
     EXPECT_TRUE(env.State.DBPath.isEmpty());
@@ -252,9 +252,14 @@ TEST(FrmSelectDB, DeleteAsksAndKeepsTheFileOnNo)
     EXPECT_EQ(env.Messages.Shown()[0].Buttons, MsgButtons::YesNo);
     EXPECT_TRUE(QFile::exists(QDir(env.Folder).filePath("2004.mdb")));
     Select(w, "2004.mdb");
+    // An unfinished journal goes with its file, so that it cannot touch a later 2004.mdb.
+    QFile journal(QDir(env.Folder).filePath("2004.mdb-journal"));
+    ASSERT_TRUE(journal.open(QIODevice::WriteOnly));
+    journal.close();
     env.Answers = {MsgResult::Yes};
     QTest::mouseClick(w.DeleteDBFile, Qt::LeftButton);
     EXPECT_FALSE(QFile::exists(QDir(env.Folder).filePath("2004.mdb")));
+    EXPECT_FALSE(journal.exists());
     EXPECT_EQ(Listed(w), QStringList{"2005.mdb"});
 }
 
@@ -270,8 +275,11 @@ TEST(FrmSelectDB, CompactingTwiceKeepsOneBackupAndRepairSaysSo)
     QTest::mouseClick(w.CmdCompact, Qt::LeftButton);
     QTest::mouseClick(w.CmdCompact, Qt::LeftButton);
     QTest::mouseClick(w.CmdRepair, Qt::LeftButton);
-    EXPECT_EQ(env.ShownTexts(),
-              QStringList({"Compacting Completed!", "Compacting Completed!", "Repair Completed!"}));
+    ASSERT_EQ(env.ShownTexts().size(), 3);
+    EXPECT_EQ(env.ShownTexts().mid(0, 2),
+              QStringList({"Compacting Completed!", "Compacting Completed!"}));
+    EXPECT_EQ(env.ShownTexts()[2],
+              "Repair Completed!\nThe file is sound: all 366 records are kept as they were.");
     EXPECT_EQ(env.Messages.Shown()[0].Title, "Compact DataBases");
     EXPECT_EQ(env.Messages.Shown()[2].Title, "Repair DataBases");
     EXPECT_EQ(QDir(env.Folder).entryList(QDir::Files, QDir::Name),
@@ -294,8 +302,37 @@ TEST(FrmSelectDB, AFileThatIsNoDatabaseCannotBeCompactedOrRepaired)
     Select(w, "2006.mdb");
     QTest::mouseClick(w.CmdCompact, Qt::LeftButton);
     QTest::mouseClick(w.CmdRepair, Qt::LeftButton);
-    EXPECT_EQ(env.ShownTexts(),
-              QStringList({"Error Compacting Database!", "Error Repairing Database!"}));
+    ASSERT_EQ(env.ShownTexts().size(), 2);
+    EXPECT_EQ(env.ShownTexts()[0], "Error Compacting Database!");
+    EXPECT_TRUE(env.ShownTexts()[1].startsWith("Error Repairing Database!\n"));
+    EXPECT_TRUE(env.ShownTexts()[1].endsWith("The file is kept as it was."));
     EXPECT_TRUE(QFile::exists(path));
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(FrmSelectDB, AMissingYearWithAKeptCopyIsOfferedBackOnOpening)
+{
+    LogWindowEnv env(QString{});
+    const QString path = MakeYearFile("select-restore");
+    env.Folder = QFileInfo(path).absolutePath();
+    ASSERT_TRUE(QFile::rename(path, QDir(env.Folder).filePath("2024.BAK")));
+    {
+        env.Answers = {MsgResult::No};
+        FrmSelectDB w(env.Context());
+        ASSERT_EQ(env.ShownTexts().size(), 1);
+        EXPECT_EQ(env.ShownTexts()[0], "2024.mdb is missing, but a copy of it is kept as "
+                                       "2024.BAK.\nRestore 2024.mdb from that copy?");
+        EXPECT_TRUE(Listed(w).isEmpty());
+        // Create does not start a new year beside the copy.
+        env.Answers = {MsgResult::No};
+        EXPECT_FALSE(w.CreateDB(2024));
+        EXPECT_FALSE(QFile::exists(path));
+        EXPECT_TRUE(env.ShownTexts().last().contains("2024.BAK"))
+            << env.ShownTexts().last().toStdString();
+    }
+    env.Answers = {MsgResult::Yes};
+    FrmSelectDB w(env.Context());
+    EXPECT_EQ(Listed(w), QStringList{"2024.mdb"});
+    EXPECT_EQ(CountRows(path, "table1"), DaysInYear);
+    EXPECT_TRUE(QFile::exists(QDir(env.Folder).filePath("2024.BAK")));
 }

@@ -28,13 +28,13 @@ QStringList FilesIn(const QString& folder)
 
 QString FolderOf(const QString& path) { return QFileInfo(path).absolutePath(); }
 
-// Real file operations, except that the n-th rename fails.
-class FailingRename : public FileOps {
+// Real file operations, except that the n-th atomic replacement fails.
+class FailingReplace : public FileOps {
 public:
-    explicit FailingRename(int failing) : failing_(failing) {}
-    bool Rename(const QString& from, const QString& to) override
+    explicit FailingReplace(int failing) : failing_(failing) {}
+    bool Replace(const QString& from, const QString& to) override
     {
-        return ++renames_ != failing_ && FileOps::Rename(from, to);
+        return ++renames_ != failing_ && FileOps::Replace(from, to);
     }
 
 private:
@@ -120,8 +120,8 @@ TEST(Compaction, AFailureLeavesTheYearFileReadable)
 {
     const QString path = MakeYearFile("compact-fail");
     const QString folder = FolderOf(path);
-    for (const int failing : {1, 2}) { // the file to .BAK, the new copy to the file's name
-        FailingRename ops(failing);
+    for (const int failing : {1, 2}) { // the copy to .BAK, the new copy to the file's name
+        FailingReplace ops(failing);
         EXPECT_FALSE(CompactDB(path, {}, ops));
         EXPECT_EQ(CountRows(path, "table1"), DaysInYear) << "rename " << failing;
         EXPECT_FALSE(QFileInfo::exists(QDir(folder).filePath("New2024.mdb")));

@@ -1,0 +1,115 @@
+#include "logdb/backups.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+const QString TimeFormat = QStringLiteral("yyyy-MM-dd_HH-mm-ss");
+
+QString YearOf(const QString& yearFile) { return QFileInfo(yearFile).fileName().left(4); }
+
+DbResult ReadAll(const QString& path, QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return DbResult::Failure(
+            QStringLiteral("Cannot read '%1': %2").arg(path, file.errorString()));
+    bytes = file.readAll();
+    return DbResult::Success();
+}
+
+// Writes under a temporary name, syncs, then renames into place in one step.
+DbResult WriteWhole(const QString& path, const QByteArray& bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return DbResult::Failure(
+            QStringLiteral("Cannot write '%1': %2").arg(path, file.errorString()));
+    return DbResult::Success();
+}
+
+// A name no other backup has, even for two copies made within one second.
+QString FreeBackupPath(const QString& yearFile, const QDateTime& now)
+{
+    const QDir folder(BackupFolder(yearFile));
+    const QString name = BackupFileName(yearFile, now);
+    QString path = folder.filePath(name);
+    for (int n = 2; QFileInfo::exists(path); ++n)
+        path = folder.filePath(name.chopped(4) + QStringLiteral("_%1.mdb").arg(n));
+    return path;
+}
+
+DbResult Prune(const QString& yearFile)
+{
+    const QStringList backups = ListBackups(yearFile);
+    for (qsizetype i = BackupsKeptPerYear; i < backups.size(); ++i)
+        if (!QFile::remove(backups[i]))
+            return DbResult::Failure(QStringLiteral("Cannot delete the old backup '%1'.")
+                                         .arg(QFileInfo(backups[i]).fileName()));
+    return DbResult::Success();
+}
+
+DbResult BackUpBytes(const QString& yearFile, const QByteArray& bytes, const QDateTime& now)
+{
+    if (!QDir().mkpath(BackupFolder(yearFile)))
+        return DbResult::Failure(
+            QStringLiteral("Cannot create the folder '%1'.").arg(BackupFolder(yearFile)));
+    if (DbResult written = WriteWhole(FreeBackupPath(yearFile, now), bytes); !written)
+        return written;
+    return Prune(yearFile);
+}
+
+} // namespace
+
+QString BackupFolder(const QString& yearFile)
+{
+    return QFileInfo(yearFile).absoluteDir().filePath(QStringLiteral("backups"));
+}
+
+QString BackupFileName(const QString& yearFile, const QDateTime& taken)
+{
+    return YearOf(yearFile) + '_' + taken.toString(TimeFormat) + QStringLiteral(".mdb");
+}
+
+QStringList ListBackups(const QString& yearFile)
+{
+    const QDir folder(BackupFolder(yearFile));
+    QStringList names = folder.entryList({YearOf(yearFile) + QStringLiteral("_*.mdb")}, QDir::Files,
+                                         QDir::Name | QDir::Reversed);
+    names.removeIf([](const QString& name) { return !BackupTime(name).isValid(); });
+    for (QString& name : names)
+        name = folder.filePath(name);
+    return names;
+}
+
+QDateTime BackupTime(const QString& backup)
+{
+    const QString name = QFileInfo(backup).fileName();
+    return QDateTime::fromString(name.mid(5, TimeFormat.size()), TimeFormat);
+}
+
+DbResult BackUpIfChanged(const QString& yearFile, const QDateTime& now)
+{
+    QByteArray current;
+    if (DbResult read = ReadAll(yearFile, current); !read)
+        return read;
+    const QStringList backups = ListBackups(yearFile);
+    QByteArray newest;
+    if (!backups.isEmpty() && ReadAll(backups.front(), newest) && newest == current)
+        return DbResult::Success();
+    return BackUpBytes(yearFile, current, now);
+}
+
+DbResult RestoreBackup(const QString& yearFile, const QString& backup, const QDateTime& now)
+{
+    // Read before backing up: keeping ten may delete the very copy being restored.
+    QByteArray restored;
+    if (DbResult read = ReadAll(backup, restored); !read)
+        return read;
+    if (DbResult kept = BackUpIfChanged(yearFile, now); !kept)
+        return DbResult::Failure(kept.Message + QStringLiteral(" Nothing was restored."));
+    return WriteWhole(yearFile, restored);
+}

@@ -1,0 +1,232 @@
+#include "logdb/logimport.h"
+
+#include "logdb/csvread.h"
+#include "logdb/logfiles.h"
+#include "logdb/storedforms.h"
+
+#include <QSqlQuery>
+#include <algorithm>
+
+#include <map>
+#include <set>
+
+namespace {
+
+const QString DateColumn = QStringLiteral("JulianDate");
+const QStringList CatchColumns = {QStringLiteral("TotalTaken"), QStringLiteral("TakenWith"),
+                                  QStringLiteral("PeakTime"), QStringLiteral("Notes")};
+
+// Where each column the import reads sits in the file's header.
+struct Header {
+    int Date = -1;
+    std::vector<std::pair<QString, int>> Catch; // column name, field index
+    size_t Width = 0;
+};
+
+Header ReadHeader(const CsvRecord& first, const std::vector<ColumnInfo>& known,
+                  std::vector<ImportIssue>& issues)
+{
+    Header header;
+    header.Width = first.Fields.size();
+    for (size_t i = 0; i < first.Fields.size(); ++i) {
+        const QString name = QString::fromStdString(first.Fields[i]).trimmed();
+        const auto same = [&](const QString& n) {
+            return n.compare(name, Qt::CaseInsensitive) == 0;
+        };
+        if (same(DateColumn))
+            header.Date = int(i);
+        else if (const auto c = std::find_if(CatchColumns.begin(), CatchColumns.end(), same);
+                 c != CatchColumns.end())
+            header.Catch.emplace_back(*c, int(i));
+        else if (std::none_of(known.begin(), known.end(),
+                              [&](const ColumnInfo& k) { return same(k.Name); }))
+            issues.push_back(
+                {first.Line, QStringLiteral("unknown column \"%1\" is ignored").arg(name)});
+    }
+    return header;
+}
+
+// "7:00 AM": a time of day in the form of the browser's peak time list.
+std::optional<QString> PeakTimeText(const QString& text)
+{
+    const std::optional<std::string> stored = StoredTime(text.toStdString());
+    if (!stored)
+        return std::nullopt;
+    const int hour = std::stoi(stored->substr(0, 2));
+    return QStringLiteral("%1:%2 %3")
+        .arg((hour + 11) % 12 + 1)
+        .arg(QString::fromStdString(stored->substr(3, 2)))
+        .arg(hour < 12 ? QStringLiteral("AM") : QStringLiteral("PM"));
+}
+
+// The cell in stored form, or the reason it cannot be stored.
+std::optional<QVariant> CatchValue(const QString& column, const QString& cell, QString& why)
+{
+    if (cell.trimmed().isEmpty())
+        return QVariant();
+    if (column == QStringLiteral("TotalTaken")) {
+        bool ok = false;
+        const int taken = cell.trimmed().toInt(&ok);
+        if (ok && taken >= 0)
+            return QVariant(taken);
+        why = QStringLiteral("TotalTaken \"%1\" is not a whole number of fish").arg(cell);
+        return std::nullopt;
+    }
+    if (column == QStringLiteral("PeakTime")) {
+        if (const std::optional<QString> text = PeakTimeText(cell.trimmed()))
+            return QVariant(*text);
+        why = QStringLiteral("PeakTime \"%1\" is not a time of day").arg(cell);
+        return std::nullopt;
+    }
+    return QVariant(cell);
+}
+
+bool HasValue(const QVariant& v) { return !v.isNull() && !v.toString().trimmed().isEmpty(); }
+
+// Date (stored form) -> whether the record holds an entry, for every record of the file.
+DbResult ReadEntries(Database& db, std::map<QString, bool>& holdsEntry)
+{
+    QSqlQuery q(db.Connection());
+    if (!q.exec(QStringLiteral("SELECT JulianDate, ") + CatchColumns.join(", ") +
+                QStringLiteral(" FROM table1")))
+        return DbResult::Failure(ErrorText(q.lastError()));
+    while (q.next()) {
+        bool held = false;
+        for (int i = 1; i <= CatchColumns.size(); ++i)
+            held = held || HasValue(q.value(i));
+        holdsEntry[q.value(0).toString()] = held;
+    }
+    return DbResult::Success();
+}
+
+struct RowCheck {
+    const Header& Head;
+    int Year;
+    const std::map<QString, bool>& HoldsEntry;
+    std::set<QString> Seen;
+};
+
+// The row to write, or nothing with the row's problems added to the issues.
+std::optional<ImportRow> CheckRow(const CsvRecord& record, RowCheck& check,
+                                  std::vector<ImportIssue>& issues)
+{
+    const auto problem = [&](const QString& text) {
+        issues.push_back({record.Line, text});
+        return std::nullopt;
+    };
+    if (record.Fields.size() != check.Head.Width)
+        return problem(QStringLiteral("%1 fields where the header has %2")
+                           .arg(record.Fields.size())
+                           .arg(check.Head.Width));
+    const QString dateText =
+        QString::fromStdString(record.Fields[size_t(check.Head.Date)]).trimmed();
+    const std::optional<std::string> date = StoredDate(dateText.toStdString());
+    if (!date)
+        return problem(QStringLiteral("\"%1\" is not a date").arg(dateText));
+    ImportRow row{record.Line, QString::fromStdString(*date), {}, false};
+    if (row.Date.left(4).toInt() != check.Year)
+        return problem(QStringLiteral("%1 is not in %2").arg(dateText).arg(check.Year));
+    const auto held = check.HoldsEntry.find(row.Date);
+    if (held == check.HoldsEntry.end())
+        return problem(QStringLiteral("the year file has no record for %1").arg(dateText));
+    if (!check.Seen.insert(row.Date).second)
+        return problem(
+            QStringLiteral("%1 comes a second time; this line is left out").arg(dateText));
+    bool any = false, bad = false;
+    for (const auto& [column, index] : check.Head.Catch) {
+        QString why;
+        const auto value =
+            CatchValue(column, QString::fromStdString(record.Fields[size_t(index)]), why);
+        if (!value) {
+            issues.push_back({record.Line, why});
+            bad = true;
+            continue;
+        }
+        any = any || !value->isNull();
+        row.Fields.emplace_back(column, *value);
+    }
+    if (bad || !any)
+        return std::nullopt; // a day without a catch entry has nothing to bring in
+    row.Occupied = held->second;
+    if (row.Occupied)
+        issues.push_back({record.Line, QStringLiteral("%1 already holds an entry").arg(dateText)});
+    return row;
+}
+
+} // namespace
+
+int ImportPlan::OccupiedRows() const
+{
+    return int(
+        std::count_if(Rows.begin(), Rows.end(), [](const ImportRow& r) { return r.Occupied; }));
+}
+
+DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, ImportPlan& plan)
+{
+    plan = {};
+    const std::vector<CsvRecord> records =
+        ReadCsv(std::string_view(csv.constData(), size_t(csv.size())));
+    if (records.empty())
+        return DbResult::Failure(QStringLiteral("The file holds no lines."));
+    Database db;
+    if (DbResult opened = db.Open(yearFile); !opened)
+        return opened;
+    const Header header = ReadHeader(records.front(), db.Columns(LogTableName), plan.Issues);
+    if (header.Date < 0)
+        return DbResult::Failure(
+            QStringLiteral("The first line names no %1 column.").arg(DateColumn));
+    std::map<QString, bool> holdsEntry;
+    if (DbResult read = ReadEntries(db, holdsEntry); !read)
+        return read;
+    RowCheck check{header, year, holdsEntry, {}};
+    for (size_t i = 1; i < records.size(); ++i)
+        if (std::optional<ImportRow> row = CheckRow(records[i], check, plan.Issues))
+            plan.Rows.push_back(std::move(*row));
+    return DbResult::Success();
+}
+
+DbResult ApplyImport(const QString& yearFile, const ImportPlan& plan, ImportChoice choice,
+                     int& written)
+{
+    written = 0;
+    Database db;
+    if (DbResult opened = db.Open(yearFile); !opened)
+        return opened;
+    QSqlDatabase link = db.Connection();
+    if (!link.transaction())
+        return DbResult::Failure(ErrorText(link.lastError()));
+    for (const ImportRow& row : plan.Rows) {
+        if (row.Occupied && choice == ImportChoice::Skip)
+            continue;
+        QStringList sets;
+        for (const auto& field : row.Fields)
+            sets << QuotedName(field.first) + QStringLiteral(" = ?");
+        QSqlQuery q(link);
+        q.prepare(QStringLiteral("UPDATE table1 SET ") + sets.join(", ") +
+                  QStringLiteral(" WHERE JulianDate = ?"));
+        for (const auto& field : row.Fields)
+            q.addBindValue(field.second);
+        q.addBindValue(row.Date);
+        if (!q.exec()) {
+            const QString why = ErrorText(q.lastError());
+            link.rollback();
+            written = 0;
+            return DbResult::Failure(
+                QStringLiteral("Line %1: %2. Nothing was imported.").arg(row.Line).arg(why));
+        }
+        written += q.numRowsAffected();
+    }
+    if (!link.commit()) {
+        written = 0;
+        return DbResult::Failure(ErrorText(link.lastError()));
+    }
+    return DbResult::Success();
+}
+
+QStringList IssueLines(const ImportPlan& plan)
+{
+    QStringList lines;
+    for (const ImportIssue& issue : plan.Issues)
+        lines << QStringLiteral("Line %1: %2").arg(issue.Line).arg(issue.Text);
+    return lines;
+}

@@ -1,0 +1,40 @@
+// Bringing catches in from a CSV file with the columns of the log's export: the date
+// (JulianDate), TotalTaken, TakenWith, PeakTime and Notes; the forecast's columns are ignored.
+// Every problem is found, line by line, before anything is written; then the good rows go
+// into the year's records by date in one transaction.
+#pragma once
+
+#include "logdb/database.h"
+
+#include <vector>
+
+struct ImportIssue {
+    int Line = 0;
+    QString Text;
+};
+
+struct ImportRow {
+    int Line = 0;
+    QString Date;          // stored form, "2024-03-10"
+    FieldValues Fields;    // the catch columns the file has, in stored form; empty cells NULL
+    bool Occupied = false; // the day's record already holds an entry
+};
+
+struct ImportPlan {
+    std::vector<ImportRow> Rows;     // rows that can be written, in file order
+    std::vector<ImportIssue> Issues; // every problem, by line; occupied records included
+    int OccupiedRows() const;
+};
+
+enum class ImportChoice { Skip, Overwrite };
+
+// Reads the CSV text and checks it against the year file of the given year.
+DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, ImportPlan& plan);
+
+// Writes the plan's rows in one transaction; with Skip, records that hold an entry are left
+// as they are. written is the number of records changed.
+DbResult ApplyImport(const QString& yearFile, const ImportPlan& plan, ImportChoice choice,
+                     int& written);
+
+// The issues as lines for a report: "Line 7: ...".
+QStringList IssueLines(const ImportPlan& plan);

@@ -1,0 +1,135 @@
+// "Edit A Location": the main window hides, the location editor opens on the chosen location,
+// and whichever way it closes the main window comes back showing the location as stored.
+#include "app/appstate.h"
+#include "app/frmcalendar.h"
+#include "app/startup.h"
+#include "locations/frmlocation.h"
+#include "platform/singleinstance.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct MainWindow {
+    MainWindow() : Instance(QStringLiteral("locationmenu-test"))
+    {
+        qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
+        App.Messages.Script([](const ShownMessage&) { return MsgResult::OK; });
+        Started = StartUp(App, {"x"}, Instance) == StartOutcome::Run;
+        W = std::make_unique<FrmCalendar>(App);
+        W->show();
+    }
+    // Opens "Edit A Location" item n and lets the step work on the editor while it is open.
+    void Edit(int n, const std::function<void(FrmLocation&)>& step)
+    {
+        QTimer::singleShot(0, [&] {
+            auto* editor = qobject_cast<FrmLocation*>(QApplication::activeModalWidget());
+            ASSERT_NE(editor, nullptr);
+            Title = editor->windowTitle();
+            MainVisibleMeanwhile = W->isVisible();
+            step(*editor);
+        });
+        W->Loc[std::size_t(n)]->trigger();
+    }
+
+    AppState App;
+    SingleInstance Instance;
+    bool Started = false;
+    std::unique_ptr<FrmCalendar> W;
+    QString Title;
+    bool MainVisibleMeanwhile = true;
+};
+
+void Pick(QComboBox* box, const QString& text, FrmLocation& editor, int index)
+{
+    box->setCurrentIndex(box->findText(text));
+    editor.Combo_Click(index);
+}
+
+// Sunrise at the place on 10 March 2024 in local standard time, hours, from PyEphem (upper
+// limb at -34', no refraction model beyond that).
+double EphemSunrise(double lonEast, double latNorth, int hoursEast)
+{
+    const QString script = QString("import ephem\n"
+                                   "o = ephem.Observer(); o.lat = '%1'; o.lon = '%2'\n"
+                                   "o.pressure = 0; o.horizon = '-0:34'\n"
+                                   "o.date = ephem.Date('2024/3/10 00:00') - %3 * ephem.hour\n"
+                                   "t = o.next_rising(ephem.Sun()).datetime()\n"
+                                   "print((t.hour + t.minute / 60 + t.second / 3600 + %3) % 24)\n")
+                               .arg(latNorth)
+                               .arg(lonEast)
+                               .arg(hoursEast);
+    QProcess python;
+    python.start("/usr/bin/python3", {"-c", script});
+    python.waitForFinished(30000);
+    return python.readAllStandardOutput().trimmed().toDouble();
+}
+
+double ClockHours(const QString& text)
+{
+    const auto m = QRegularExpression(R"((\d+):(\d+)\s*([AP]M)?)").match(text);
+    const int hour = m.captured(1).toInt() % 12 + (m.captured(3) == "PM" ? 12 : 0);
+    return hour + m.captured(2).toInt() / 60.0;
+}
+
+} // namespace
+
+TEST(LocationMenu, PickingSydneyMovesTheMainWindowThere)
+{
+    MainWindow m;
+    ASSERT_TRUE(m.Started);
+    m.Edit(3, [](FrmLocation& e) {
+        Pick(e.Combo[0], "Australia", e, 0);
+        Pick(e.Combo[1], "Sydney", e, 1);
+        e.CloseLocation->click();
+    });
+    EXPECT_EQ(m.Title, "Location #3 ");
+    EXPECT_FALSE(m.MainVisibleMeanwhile);
+    EXPECT_TRUE(m.W->isVisible());
+    EXPECT_EQ(m.App.Config.CurLoc, 3);
+    EXPECT_EQ(m.W->StatusPanels[0]->text(), "Sydney, Australia");
+    EXPECT_EQ(m.W->Here.LocationCaption, "Sydney, Australia  Long=151.21 E Lat=33.87 S "
+                                         "TimeZone=-10  Time=STD Hemisphere=Southern ");
+    EXPECT_EQ(m.W->Pic[21].toImage(), m.W->ImageA[10].toImage()); // quarters mirrored south
+    EXPECT_EQ(m.W->Pic[23].toImage(), m.W->ImageA[8].toImage());
+    const double reference = EphemSunrise(151.21, -33.87, 10);
+    ASSERT_GT(reference, 5.0);
+    EXPECT_NEAR(ClockHours(m.W->Label[14]->text()), reference, 1.0 / 60 + 1e-9)
+        << m.W->Label[14]->text().toStdString();
+}
+
+TEST(LocationMenu, ARenameReachesBothMenusAndClosingWithoutDoneStoresNothing)
+{
+    MainWindow m;
+    ASSERT_TRUE(m.Started);
+    const Location before = m.App.Config.Locations[2];
+    m.Edit(2, [](FrmLocation& e) {
+        e.Text[4]->setText("Home Pond");
+        e.CloseLocation->click();
+    });
+    EXPECT_EQ(m.W->DLoc[2]->text(), "# 2 Home Pond");
+    EXPECT_EQ(m.W->Loc[2]->text(), "# 2 Home Pond");
+    EXPECT_DOUBLE_EQ(m.App.Config.Locations[2].Longitude, before.Longitude);
+    EXPECT_EQ(m.App.Config.Locations[2].TimeZone, before.TimeZone);
+
+    m.Edit(4, [](FrmLocation& e) {
+        e.Text[4]->setText("Not kept");
+        e.VsbDegLon->setValue(10);
+        e.reject(); // the window's close box
+    });
+    EXPECT_TRUE(m.W->isVisible());
+    EXPECT_EQ(m.App.Config.CurLoc, 4);
+    EXPECT_NE(m.App.Config.Locations[4].Name, "Not kept");
+    EXPECT_TRUE(m.W->Loc[4]->text().startsWith("# 4 "));
+    EXPECT_TRUE(m.W->DLoc[4]->isChecked());
+}

@@ -1,0 +1,118 @@
+// A program the crash tests start and kill: it runs the log's real create, compact and
+// edit-save code and dies by SIGKILL at the step it is told, as a power cut or a killed
+// process would stop the program.
+//
+//   logcrash_child create FOLDER YEAR KILL_DAY KILL_STEP
+//   logcrash_child compact PATH KILL_STEP
+//   logcrash_child edit PATH          (saves Notes "catch N" on day N, prints "saved N")
+//
+// KILL_DAY is the day of the fill at which to die (0: none); KILL_STEP the file step
+// (remove, copy, sync, rename) before which to die (0: none).
+#include "cli/forecastrun.h"
+#include "logdb/datacontrol.h"
+#include "logdb/filldata.h"
+#include "logdb/logfiles.h"
+
+#include <QCoreApplication>
+
+#include <csignal>
+#include <cstdio>
+#include <string>
+
+namespace {
+
+void Die() { std::raise(SIGKILL); }
+
+// The real file steps, counted; the program dies before the chosen one.
+class DyingOps : public FileOps {
+public:
+    explicit DyingOps(int killStep) : killStep_(killStep) {}
+    bool Remove(const QString& path) override { return Step() && FileOps::Remove(path); }
+    bool Rename(const QString& from, const QString& to) override
+    {
+        return Step() && FileOps::Rename(from, to);
+    }
+    bool Replace(const QString& from, const QString& to) override
+    {
+        return Step() && FileOps::Replace(from, to);
+    }
+    bool Copy(const QString& from, const QString& to) override
+    {
+        return Step() && FileOps::Copy(from, to);
+    }
+    bool Sync(const QString& path) override { return Step() && FileOps::Sync(path); }
+
+private:
+    bool Step()
+    {
+        if (++steps_ == killStep_)
+            Die();
+        return true;
+    }
+    int killStep_;
+    int steps_ = 0;
+};
+
+int Create(const QString& folder, int year, int killDay, int killStep)
+{
+    ForecastPlace place;
+    place.Longitude = 92.42;
+    place.Latitude = 31.25;
+    place.TimeZone = 6;
+    ForecastRun run(place);
+    const Calendar cal = YearCalendar(run.Engine, year, run.SouthernHemisphere);
+    DataControl data0;
+    DyingOps ops(killStep);
+    const auto progress = [killDay](int day, int) {
+        if (day == killDay)
+            Die();
+    };
+    const CreateYearResult created = CreateYearFile(
+        folder, year,
+        [&](const QString& path) {
+            return FillYearFile(data0, path, run.Engine, cal, -60, progress);
+        },
+        ops);
+    return created.Outcome == CreateYearResult::Status::Created ? 0 : 3;
+}
+
+int Compact(const QString& path, int killStep)
+{
+    DyingOps ops(killStep);
+    return CompactDB(path, {}, ops) ? 0 : 3;
+}
+
+int EditEveryDay(const QString& path)
+{
+    DataControl data1;
+    data1.SetDatabaseName(path);
+    data1.SetRecordSource(QStringLiteral("Select * from table1 order by juliandate"));
+    if (!data1.Refresh())
+        return 3;
+    for (int day = 1; !data1.IsEOF(); ++day) {
+        if (!data1.Edit() ||
+            !data1.SetField(QStringLiteral("Notes"), QStringLiteral("catch %1").arg(day)) ||
+            !data1.Update())
+            return 3;
+        std::printf("saved %d\n", day);
+        std::fflush(stdout);
+        data1.MoveNext();
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    const QStringList a = app.arguments();
+    if (a.size() == 6 && a[1] == "create")
+        return Create(a[2], a[3].toInt(), a[4].toInt(), a[5].toInt());
+    if (a.size() == 4 && a[1] == "compact")
+        return Compact(a[2], a[3].toInt());
+    if (a.size() == 3 && a[1] == "edit")
+        return EditEveryDay(a[2]);
+    std::fprintf(stderr, "usage: logcrash_child create|compact|edit ...\n");
+    return 2;
+}

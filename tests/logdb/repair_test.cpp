@@ -1,0 +1,204 @@
+// Repair over damaged copies of a filled year holding the angler's entries: the table's root
+// page, a leaf page's header, a long note's overflow page and a value inside a record are
+// overwritten; every record whose page is intact must come back, the message must count
+// them, and no value outside its column's range may remain. Checked with plain SQL.
+#include "logdb/logfiles.h"
+#include "logdb/logfixture.h"
+#include "support/testenv.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSqlQuery>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+using namespace logtest;
+
+namespace {
+
+const QString LongNote = [] {
+    QString note;
+    for (int i = 0; i < 900; ++i)
+        note += QString("cast %1 ").arg(i, 4, 10, QChar('0'));
+    return note; // about 9900 characters: three overflow pages
+}();
+
+// Days with the angler's own entries.
+const std::vector<int> EntryDays = {3, 150, 200, 301};
+
+QString MakeYearWithEntries(const QString& name)
+{
+    const QString path = MakeYearFile(name);
+    Database db;
+    EXPECT_TRUE(db.Open(path));
+    for (const int day : EntryDays)
+        EXPECT_TRUE(
+            db.UpdateRecord({"table1"}, "DBID", day,
+                            {{"TotalTaken", day % 7 + 1},
+                             {"TakenWith", QString("spoon %1").arg(day)},
+                             {"Notes", day == 150 ? LongNote : QString("entry %1").arg(day)}}));
+    EXPECT_TRUE(db.UpdateRecord({"table1"}, "DBID", 250, {{"DaylightHours", 12.345}}));
+    return path;
+}
+
+QByteArray Bytes(const QString& path)
+{
+    QFile f(path);
+    EXPECT_TRUE(f.open(QIODevice::ReadOnly));
+    return f.readAll();
+}
+
+void Overwrite(const QString& path, qint64 at, const QByteArray& with)
+{
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(f.seek(at));
+    ASSERT_EQ(f.write(with), with.size());
+}
+
+int PageSize(const QByteArray& file) { return (uchar(file[16]) << 8) | uchar(file[17]); }
+
+qint64 PageStart(const QByteArray& file, const QByteArray& holding)
+{
+    const qint64 at = file.indexOf(holding);
+    EXPECT_GT(at, 0) << holding.toStdString();
+    return at / PageSize(file) * PageSize(file);
+}
+
+qint64 RootPageStart(const QString& path)
+{
+    Database db;
+    EXPECT_TRUE(db.Open(path));
+    QSqlQuery q(db.Connection());
+    EXPECT_TRUE(q.exec("select rootpage from sqlite_master where name = 'table1'") && q.next());
+    return (q.value(0).toLongLong() - 1) * PageSize(Bytes(path));
+}
+
+// Plain SQL over the repaired file: the notes by record number, and no value outside what
+// its column can hold.
+std::map<int, QString> NotesByDay(const QString& path)
+{
+    Database db;
+    EXPECT_TRUE(db.Open(path));
+    QSqlQuery q(db.Connection());
+    EXPECT_TRUE(q.exec("select DBID, Notes, TakenWith from table1"));
+    std::map<int, QString> notes;
+    while (q.next())
+        notes[q.value(0).toInt()] = q.value(1).toString();
+    return notes;
+}
+
+void ExpectNothingOutOfRange(const QString& path, const std::string& where)
+{
+    Database db;
+    ASSERT_TRUE(db.Open(path));
+    QSqlQuery q(db.Connection());
+    ASSERT_TRUE(q.exec("select count(*) from table1 where IllumPercent not between 0 and 100 "
+                       "or GraphicType not between 0 and 4 or DaylightHours not between 0 and 24 "
+                       "or date(JulianDate) is not JulianDate or MoonRise > 24 or MoonRise < -1 "
+                       "or time(Major1) is not Major1 or Month not between 1 and 12"));
+    ASSERT_TRUE(q.next());
+    EXPECT_EQ(q.value(0).toInt(), 0) << where;
+}
+
+// Repairs and checks what every repair must give: counts that add up to the year, the
+// message saying them, the original kept as .BAD, and nothing out of range.
+RepairReport RepairAndCheck(const QString& path, const std::string& where)
+{
+    const RepairReport report = RepairYearFile(path);
+    EXPECT_TRUE(report.Result) << where << ": " << report.Result.Message.toStdString();
+    EXPECT_TRUE(report.Damaged) << where;
+    EXPECT_EQ(report.Kept + report.Unreadable, DaysInYear) << where;
+    EXPECT_EQ(CountRows(path, "table1"), report.Kept) << where;
+    EXPECT_TRUE(report.Summary().startsWith(
+        QString("%1 records kept, %2 could not be read.").arg(report.Kept).arg(report.Unreadable)))
+        << report.Summary().toStdString();
+    EXPECT_TRUE(report.Summary().contains("kept as 2024.BAD")) << where;
+    EXPECT_TRUE(QFile::exists(QDir(QFileInfo(path).absolutePath()).filePath("2024.BAD")));
+    ExpectNothingOutOfRange(path, where);
+    return report;
+}
+
+void ExpectEntries(const std::map<int, QString>& notes, const std::string& where)
+{
+    for (const int day : EntryDays) {
+        if (day == 150)
+            continue;
+        ASSERT_TRUE(notes.count(day)) << where << " day " << day;
+        EXPECT_EQ(notes.at(day), QString("entry %1").arg(day)) << where;
+    }
+}
+
+} // namespace
+
+TEST(Repair, DamagedRootPageKeepsEveryRecordAndEveryEntry)
+{
+    const QString path = MakeYearWithEntries("repair-root");
+    Overwrite(path, RootPageStart(path), QByteArray(24, '\xff'));
+    const RepairReport report = RepairAndCheck(path, "root page");
+    EXPECT_EQ(report.Kept, DaysInYear);
+    const auto notes = NotesByDay(path);
+    ExpectEntries(notes, "root page");
+    EXPECT_EQ(notes.at(150), LongNote);
+    EXPECT_EQ(notes.at(17), "row-017");
+}
+
+TEST(Repair, DamagedLeafHeaderKeepsTheRecordsOfThatPageToo)
+{
+    const QString path = MakeYearWithEntries("repair-leaf");
+    const QByteArray file = Bytes(path);
+    const qint64 page = PageStart(file, "row-100");
+    const int onPage = int(file.mid(page, PageSize(file)).count("row-"));
+    ASSERT_GT(onPage, 10);
+    Overwrite(path, page, QByteArray(8, '\x55'));
+    const RepairReport report = RepairAndCheck(path, "leaf header");
+    EXPECT_EQ(report.Kept, DaysInYear); // the page's records are found in its bytes
+    const auto notes = NotesByDay(path);
+    EXPECT_EQ(notes.at(100), "row-100");
+    ExpectEntries(notes, "leaf header");
+}
+
+TEST(Repair, DamagedOverflowPageKeepsTheNoteUpToTheDamage)
+{
+    const QString path = MakeYearWithEntries("repair-overflow");
+    const QByteArray file = Bytes(path);
+    const qint64 page = PageStart(file, "cast 0450 ");
+    Overwrite(path, page, QByteArray(PageSize(file), '\0'));
+    const RepairReport report = RepairAndCheck(path, "overflow page");
+    EXPECT_EQ(report.Kept, DaysInYear);
+    const QString remark = " [repair: the rest of this note could not be read]";
+    const QString note = NotesByDay(path).at(150);
+    ASSERT_TRUE(note.endsWith(remark)) << note.right(80).toStdString();
+    const QString kept = note.chopped(remark.size());
+    EXPECT_TRUE(LongNote.startsWith(kept)) << kept.right(40).toStdString();
+    EXPECT_GE(kept.size(), 400); // at least what the record's own page holds
+    EXPECT_LT(kept.size(), LongNote.size());
+    ExpectEntries(NotesByDay(path), "overflow page");
+}
+
+TEST(Repair, AValueDamagedInsideARecordIsEmptiedAndNoted)
+{
+    const QString path = MakeYearWithEntries("repair-value");
+    double hours = 12.345;
+    char stored[8];
+    std::uint64_t bits;
+    std::memcpy(&bits, &hours, 8);
+    for (int i = 0; i < 8; ++i)
+        stored[i] = char(bits >> (56 - 8 * i)); // big-endian, as the file stores a real
+    const qint64 at = Bytes(path).indexOf(QByteArray(stored, 8));
+    ASSERT_GT(at, 0);
+    Overwrite(path, at, QByteArray::fromHex("d9123456789abcde")); // about -2e121
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(path));
+        ASSERT_TRUE(CheckIntegrity(db)); // the engine sees nothing wrong
+    }
+    const RepairReport report = RepairAndCheck(path, "value");
+    EXPECT_EQ(report.Kept, DaysInYear);
+    EXPECT_EQ(report.Marked, 1);
+    EXPECT_TRUE(report.Summary().contains("Values that could not be right: 1, emptied"));
+    EXPECT_EQ(NotesByDay(path).at(250), "row-250 [repair: DaylightHours could not be read]");
+    EXPECT_EQ(CountRows(path, "table1"), DaysInYear);
+}
