@@ -2,7 +2,9 @@
 """Accuracy of per-day rise/set/transit/twilight times in forecast CSV files, against python3-ephem.
 
 Each CSV is named with its place as FILE:LAT:LON_EAST:ZONE_WEST (degrees; zone in hours, positive
-west of Greenwich; local clock = UT - zone). Times in the CSV are local clock hours of the local day.
+west of Greenwich; local clock = UT - zone). Times in the CSV are local clock hours of the local day;
+an empty cell says the event does not happen in that day (the Sun or Moon stays above or below the
+altitude, or the event falls on another day), which agrees with a reference that has none either.
 """
 import argparse
 import csv
@@ -42,15 +44,16 @@ PLACES = [
 ]
 
 
-def search(lat, lon, zone, day, column):
-    """(next event, local-day start) as ephem Dates; raises ephem's errors when there is no crossing."""
+def search(lat, lon, zone, day, column, after=0.0):
+    """(next event from `after` hours into the local day, local-day start) as ephem Dates; raises
+    ephem's errors when there is no crossing."""
     body_name, kind, horizon, use_center = EVENTS[column]
     obs = ephem.Observer()
     obs.lat, obs.lon = str(lat), str(lon)
     obs.pressure = 0
     obs.horizon = horizon
     start = ephem.Date((day.year, day.month, day.day)) + zone / 24.0
-    obs.date = start
+    obs.date = start + after / 24.0
     body = ephem.Sun() if body_name == 'sun' else ephem.Moon()
     if kind == 'transit':
         return obs.next_transit(body), start
@@ -59,13 +62,23 @@ def search(lat, lon, zone, day, column):
     return obs.next_setting(body, use_center=use_center), start
 
 
-def reference(lat, lon, zone, day, column):
-    """Local clock hours of the event inside the local day, or None."""
+def reference(lat, lon, zone, day, column, after=0.0):
+    """Local clock hours of the first event inside the local day from `after` hours on, or None."""
     try:
-        t, start = search(lat, lon, zone, day, column)
+        t, start = search(lat, lon, zone, day, column, after)
     except (ephem.AlwaysUpError, ephem.NeverUpError):
         return None
     return (t - start) * 24.0 if t < start + 1 else None
+
+
+def nearest_reference(lat, lon, zone, day, column, ours):
+    """The day's event nearest to ours: near the solstices a twilight can happen twice in one
+    local day (just after midnight and again before the next), and either is that day's."""
+    ref = reference(lat, lon, zone, day, column)
+    if ours is None or ref is None or abs(ours - ref) < 1.0 / 60.0:
+        return ref
+    again = reference(lat, lon, zone, day, column, after=ref + 1.0 / 60.0)
+    return again if again is not None and abs(ours - again) < abs(ours - ref) else ref
 
 
 def sun_never_crosses(lat, lon, zone, day, column):
@@ -102,6 +115,11 @@ class Stats:
     def worst(self):
         return max(self.errors)[0] if self.errors else 0.0
 
+    def share_within(self, minutes):
+        """Percent of the events either side has that agree within `minutes`."""
+        total = len(self.errors) + self.only_file + self.only_reference + self.no_crossing
+        return 100.0 * sum(e[0] <= minutes for e in self.errors) / total if total else 0.0
+
     def line(self, column):
         n = len(self.errors)
         if n == 0:
@@ -130,13 +148,13 @@ def compare(sources):
                         continue
                     cell = row[column].strip()
                     ours = float(cell) if cell else None
-                    ref = reference(lat, lon, zone, day, column)
+                    ref = nearest_reference(lat, lon, zone, day, column, ours)
                     no_crossing = ours is not None and ref is None and sun_never_crosses(lat, lon, zone, day, column)
                     stats[column].add(ours, ref, day, place, no_crossing)
     return stats
 
 
-def report(stats, max_minutes):
+def report(stats, max_minutes, min_share=None):
     print(f'{"quantity":18} {"count":>7} {"<=0.5m":>7} {"<=1m":>7} {"max(min)":>9} {"rms":>8} '
           f'{"only-csv":>7} {"only-ref":>7}')
     failed = []
@@ -146,6 +164,8 @@ def report(stats, max_minutes):
             print(f'{"":18} {s.no_crossing} twilight times where the Sun never reaches that altitude (known difference)')
         if max_minutes is not None and (s.worst() > max_minutes or not s.errors):
             failed.append(column)
+        if min_share is not None and s.share_within(1.0) < min_share:
+            failed.append(f'{column} ({s.share_within(1.0):.2f}% within 1 min of all events)')
     if failed:
         print(f'FAIL: largest error above {max_minutes} min (or nothing compared): {", ".join(failed)}')
     return 1 if failed else 0
@@ -216,6 +236,9 @@ def main():
     ap = argparse.ArgumentParser(description=__doc__)
     ap.add_argument('csv', nargs='*', help='FILE:LAT:LON_EAST:ZONE_WEST')
     ap.add_argument('--max-minutes', type=float, help='exit non-zero when a largest error exceeds this')
+    ap.add_argument('--min-share', type=float,
+                    help='exit non-zero when a quantity has fewer than this percent of all events '
+                         '(compared, missed on either side) within one minute')
     ap.add_argument('--generate', metavar='COMMAND',
                     help='forecast command template run per place; fields {start} {days} {lat} {lon} '
                          '{zone} {lat_ns} {lon_ew}')
@@ -233,7 +256,7 @@ def main():
         sources += generate(args.generate, args.start, args.days, outdir)
     if not sources:
         ap.error('no CSV files given')
-    return report(compare(sources), args.max_minutes)
+    return report(compare(sources), args.max_minutes, args.min_share)
 
 
 if __name__ == '__main__':

@@ -802,7 +802,17 @@ void FrmCalendar::RecordPosition()
 void FrmCalendar::closeEvent(QCloseEvent* event)
 {
     RecordPosition();
-    SaveSettings(App.Config, App.Store);
+    if (!SaveSettings(App.Config, App.Store) &&
+        App.Messages.MsgBox(
+            QStringLiteral("The settings cannot be saved to\n%1\n(the file or its folder is not "
+                           "writable).\n\nClose Quillmere without saving them? Choose No to "
+                           "keep it open while you make the folder writable.")
+                .arg(App.Store.FilePath()),
+            MsgButtons::YesNo, QStringLiteral("Quillmere"),
+            MsgIcon::Exclamation) != MsgResult::Yes) {
+        event->ignore();
+        return;
+    }
     event->accept();
     QApplication::quit();
 }

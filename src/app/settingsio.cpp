@@ -74,10 +74,25 @@ bool ToBool(const std::string& key, const std::string& text)
     }
 }
 
-// Coordinates pass through their stored form, so they are held with two decimals.
-double Degrees(const std::string& key, const std::string& text, const char* pattern)
+// Coordinates pass through their stored form, so they are held with two decimals. A value
+// beyond `limit` degrees either way is reported like one that does not convert.
+double Degrees(const std::string& key, const std::string& text, const char* pattern, double limit)
 {
-    return ToDouble(key, VbFormat(ToDouble(key, text), pattern) + "0");
+    const double v = ToDouble(key, text);
+    if (std::fabs(v) > limit)
+        throw SettingError{key, text,
+                           "a number of degrees from -" + std::to_string(int(limit)) + " to " +
+                               std::to_string(int(limit))};
+    return ToDouble(key, VbFormat(v, pattern) + "0");
+}
+
+// Time zones are whole hours west of Greenwich, -12 to 12.
+std::int16_t ZoneHours(const std::string& key, const std::string& text)
+{
+    const auto v = ToInt<std::int16_t>(key, text);
+    if (v < -12 || v > 12)
+        throw SettingError{key, text, "a time zone from -12 to 12 hours"};
+    return v;
 }
 
 std::string K(const QString& key) { return key.toStdString(); }
@@ -105,14 +120,14 @@ void LoadSettings(Settings& s, const SettingsStore& store)
         Location& loc = s.Locations[std::size_t(n)];
         const QString lon = Key("Usr", n, "Long"), lat = Key("Usr", n, "Lat");
         const QString tz = Key("Usr", n, "TZ"), name = Key("Usr", n, "Name");
-        loc.Longitude = Degrees(K(lon), Read(store, lon, d.Longitude), "###.00");
-        loc.Latitude = Degrees(K(lat), Read(store, lat, d.Latitude), "##.00");
-        loc.TimeZone = ToInt<std::int16_t>(K(tz), Read(store, tz, d.TimeZone));
+        loc.Longitude = Degrees(K(lon), Read(store, lon, d.Longitude), "###.00", 180.0);
+        loc.Latitude = Degrees(K(lat), Read(store, lat, d.Latitude), "##.00", 90.0);
+        loc.TimeZone = ZoneHours(K(tz), Read(store, tz, d.TimeZone));
         loc.Name = Read(store, name, d.Name);
     }
 }
 
-void SaveSettings(const Settings& s, SettingsStore& store)
+bool SaveSettings(const Settings& s, SettingsStore& store)
 {
     auto write = [&store](const QString& key, const std::string& text) {
         store.Write(key, QString::fromStdString(text));
@@ -134,7 +149,7 @@ void SaveSettings(const Settings& s, SettingsStore& store)
     write("MouseClick", s.MouseClick ? "True" : "False");
     write("ParallacticAngle", s.ParallacticAngle);
     write("TimeFormats", std::to_string(s.TimeFormats));
-    store.Flush();
+    return store.Flush();
 }
 
 void WriteFirstStartValues(SettingsStore& store)

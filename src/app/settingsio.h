@@ -7,9 +7,11 @@
 class SettingsStore;
 
 // Reads every key in the program's order; a missing key takes its default. Throws
-// SettingError when a stored text does not convert.
+// SettingError when a stored text does not convert or a location's longitude, latitude or
+// time zone lies out of range.
 void LoadSettings(Settings& s, const SettingsStore& store);
-void SaveSettings(const Settings& s, SettingsStore& store);
+// False when the store's file cannot be written.
+[[nodiscard]] bool SaveSettings(const Settings& s, SettingsStore& store);
 // The complete set of values a first start writes before reading them back.
 void WriteFirstStartValues(SettingsStore& store);
 

@@ -8,6 +8,8 @@
 #include "platform/singleinstance.h"
 #include "platform/systemlocale.h"
 
+#include <cstdio>
+
 namespace {
 // The first start is recorded beside the settings, in a file a reset does not wipe, so that
 // after a reset the defaults apply unchanged.
@@ -19,6 +21,18 @@ bool FirstStart()
     install.Write(QStringLiteral("Started"), Clock::Now().toString(Qt::ISODate));
     install.Flush();
     return true;
+}
+
+// Any argument at all resets the settings; a one-line note on stderr makes sure that no
+// argument (--version, --help) wipes them without a word.
+void ResetSettings(SettingsStore& store)
+{
+    store.DeleteAll();
+    if (store.Flush())
+        std::fputs("Stored settings reset to their defaults.\n", stderr);
+    else
+        std::fprintf(stderr, "Stored settings could not be reset: %s is not writable.\n",
+                     qUtf8Printable(store.FilePath()));
 }
 
 QString BadSettingText(const SettingError& e)
@@ -42,7 +56,7 @@ StartOutcome StartUp(AppState& app, const QStringList& arguments, SingleInstance
     }
     const bool reset = !arguments.isEmpty();
     if (reset)
-        app.Store.DeleteAll();
+        ResetSettings(app.Store);
 
     const DateOrder order = SystemDateOrder();
     s.MonthFirstDates = order.MonthFirstDates;

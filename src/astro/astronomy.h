@@ -95,6 +95,9 @@ public:
     // altitude and azimuths in [3..5], statuses 0 (in the local day) or 2 in [9..11].
     void FindEvents();
     void MoonEventsForDay(double jd);
+    // Whether the Moon's lower transit falls in the local day of jd (the day of the second
+    // major period); overwrites the search's results.
+    bool MoonLowerTransitInDay(double jd);
     void SunEventsForDay(double jd);
 
     // ---- the day forecast ----

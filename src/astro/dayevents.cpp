@@ -126,6 +126,16 @@ void Astronomy::MoonEventsForDay(double jd)
     e.AboveHorizonState = AboveHorizonState;
 }
 
+// The lower transit is the upper transit seen from the opposite meridian: the same search with
+// the longitude turned by 180 degrees.
+bool Astronomy::MoonLowerTransitInDay(double jd)
+{
+    SearchMoonEvents(JulianDay0(jd));
+    EventLongitude += EventLongitude > 0.0 ? -180.0 : 180.0;
+    FindEvents();
+    return PositionResult[9] == 0.0;
+}
+
 void Astronomy::SunEventsForDay(double jd)
 {
     const double J0 = JulianDay0(jd);
@@ -137,13 +147,18 @@ void Astronomy::SunEventsForDay(double jd)
     SunEventTable& s = Forecast.SunEvents;
     for (int r = 0; r <= 3; ++r) {
         // Twilights decide the local day with the standard zone.
+        const bool clockDay = r == 0 || Site.TwilightsInClockDay;
         const double zone =
-            r == 0 ? Site.CurTimeZone + 24.0 * Site.DstOffsetDays : Site.CurTimeZone;
+            clockDay ? Site.CurTimeZone + 24.0 * Site.DstOffsetDays : Site.CurTimeZone;
         PrepareEventSearch(J0, r == 0 ? SunriseAltitude : -6.0 * r * DegToRad, zone);
         FindEvents();
         s(r, 0) = LocalHours(PositionResult[1]);
         s(r, 1) = LocalHours(PositionResult[0]);
         s(r, 2) = LocalHours(PositionResult[2]);
+        Forecast.SunStatus[std::size_t(r)] = {static_cast<std::int16_t>(PositionResult[10]),
+                                              static_cast<std::int16_t>(PositionResult[9]),
+                                              static_cast<std::int16_t>(PositionResult[11]),
+                                              AboveHorizonState};
         if (r == 0) {
             s(0, 3) = PositionResult[4];
             s(0, 4) = PositionResult[3];

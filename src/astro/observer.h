@@ -11,6 +11,9 @@ struct Observer {
     std::int16_t CurTimeZone = 0;
     double ZoneDays = 0.0;
     double DstOffsetDays = 0.0; // -1/24 while "Daylight Savings" is chosen
+    // The windows decide which twilights fall in a day with the standard zone; the command
+    // line, which reports the events of the clock's own day, sets this.
+    bool TwilightsInClockDay = false;
     std::int16_t TimeFormats = 1;
     double HourInstant = 0.5; // hour bar / 1440 + ZoneDays
     bool AMPM = true;         // clock texts with " AM"/" PM"

@@ -29,3 +29,13 @@ struct SunEventTable {
     double& operator()(int r, int c) { return Values[std::size_t(r + 4 * c)]; }
     double operator()(int r, int c) const { return Values[std::size_t(r + 4 * c)]; }
 };
+
+// Whether each row of the Sun's table happens in the local day: the statuses of its rise,
+// transit and set (0 or 2, as for the Moon) and whether the Sun crosses the row's altitude (0),
+// stays above it (1) or stays below it (-1) all day.
+struct SunEventStatus {
+    std::int16_t RiseFlag = 2;
+    std::int16_t TransitFlag = 2;
+    std::int16_t SetFlag = 2;
+    std::int16_t AboveHorizonState = 0;
+};

@@ -1,5 +1,6 @@
 #include "cli/arguments.h"
 
+#include "astro/timebase.h"
 #include "calendar/calendar.h"
 
 #include <algorithm>
@@ -19,13 +20,17 @@ Usage:
   quillmere-forecast month [--year YYYY --month M] [LOCATION] [--dst] [--pdf FILE]
   quillmere-forecast calendar --year YYYY --month M [LOCATION] [--dst] --pdf FILE
   quillmere-forecast glance --year YYYY --month M [LOCATION] --pdf FILE
+  quillmere-forecast --version
 
 Commands:
   days     one line (or record) per day from --from on, --days of them (default 1, at most
            36525): sunrise, sunset, twilights, moonrise, transit, moonset, the major and
-           minor periods, illumination, rating and the day's events.
+           minor periods, illumination, rating and the day's events. An event that does
+           not happen in that local day has no time ("*****" in text, empty in CSV, null in
+           JSON) and a status: "above" or "below" (all day) or "none" (on another day).
   events   the year's moon phases, perigees and apogees, greatest declinations, equinoxes
-           and solstices in time order.
+           and solstices whose local date lies in the year, in time order ("jd" in JSON is
+           universal time, "local" its local clock text).
   month    the month's daily times as the Monthly data list shows them (default: this month).
   calendar the month's printed calendar page: ratings, phases, majors and minors.
   glance   the month at a glance: the lunar events on one time line, printed.
@@ -44,6 +49,7 @@ Options:
                    majors as 2-hour and minors as 70-minute events)
   --pdf FILE       write the printed page(s) as a PDF file instead of text
   --help           this text
+  --version        the program's version
 
 Years run from 1900 to 2500. Bad input prints one line on stderr and exits with status 2.
 
@@ -68,6 +74,37 @@ std::optional<int> ToInt(const std::string& text)
 }
 
 bool ValidYear(int y) { return y >= 1900 && y <= 2500; }
+
+// Well-formed UTF-8 (shortest forms, no surrogates) without control characters: a name must
+// stand in a text table, a JSON string and an iCalendar value alike.
+bool PrintableUtf8(const std::string& text)
+{
+    for (std::size_t i = 0; i < text.size();) {
+        const auto b = static_cast<unsigned char>(text[i]);
+        if (b < 0x80) {
+            if (b < 0x20 || b == 0x7F)
+                return false;
+            ++i;
+            continue;
+        }
+        const std::size_t n = b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : b >= 0xC2 ? 2 : 0;
+        if (n == 0 || b > 0xF4 || i + n > text.size())
+            return false;
+        char32_t cp = b & (0x7F >> n);
+        for (std::size_t j = 1; j < n; ++j) {
+            const auto c = static_cast<unsigned char>(text[i + j]);
+            if ((c & 0xC0) != 0x80)
+                return false;
+            cp = (cp << 6) | (c & 0x3F);
+        }
+        const char32_t least = n == 2 ? 0x80 : n == 3 ? 0x800 : 0x10000;
+        if (cp < least || cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF) ||
+            (cp >= 0x80 && cp < 0xA0))
+            return false;
+        i += n;
+    }
+    return true;
+}
 
 int DaysIn(int y, int m) { return Calendar::DaysInMonth(m) + (m == 2 && IsLeapYear(y) ? 1 : 0); }
 
@@ -160,6 +197,8 @@ std::optional<UsageError> ReadLocation(const Options& o, ForecastRequest& r)
         return UsageError{"malformed latitude '" + o.at("--lat") + "' (example: 31.25N)"};
     if (!zone || *zone < -14 || *zone > 12)
         return UsageError{"--zone takes whole hours west of Greenwich, -14 to 12"};
+    if (o.count("--name") && (o.at("--name").empty() || !PrintableUtf8(o.at("--name"))))
+        return UsageError{"--name takes printable UTF-8 text without line breaks"};
     c.Longitude = *lon;
     c.Latitude = *lat;
     c.TimeZone = *zone;
@@ -197,6 +236,8 @@ std::optional<UsageError> ReadCommand(const Options& o, ForecastRequest& r, int 
                 return UsageError{"--days takes a whole number from 1 to 36525"};
             r.Days = *n;
         }
+        if (CivilToJd(r.Year, r.Month, r.Day) + r.Days - 1 > CivilToJd(2500, 12, 31))
+            return UsageError{"the days run past 2500-12-31, the last day the program covers"};
         break;
     }
     case Command::Events:
@@ -249,18 +290,20 @@ std::optional<double> ParseCoordinate(const std::string& text, char positive, ch
     const std::string number = text.substr(0, text.size() - 1);
     double v = 0.0;
     const auto [end, ec] = std::from_chars(number.data(), number.data() + number.size(), v);
-    if (ec != std::errc{} || end != number.data() + number.size() || v < 0 || v > limit)
+    if (ec != std::errc{} || end != number.data() + number.size() || !std::isfinite(v) || v < 0 ||
+        v > limit)
         return std::nullopt;
     return h == positive ? v : -v;
 }
 
-std::variant<ForecastRequest, UsageError, HelpRequested>
-ParseArguments(const std::vector<std::string>& args, int todayYear, int todayMonth)
+ParsedArguments ParseArguments(const std::vector<std::string>& args, int todayYear, int todayMonth)
 {
     if (args.empty())
         return UsageError{"no command given: days, events or month (see --help)"};
     if (args[0] == "--help" || args[0] == "-h" || args[0] == "help")
         return HelpRequested{};
+    if (args.size() == 1 && args[0] == "--version")
+        return VersionRequested{};
     ForecastRequest r;
     static const std::map<std::string, Command> commands = {{"days", Command::Days},
                                                             {"events", Command::Events},

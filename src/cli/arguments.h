@@ -34,11 +34,13 @@ struct UsageError {
 };
 
 struct HelpRequested {};
+struct VersionRequested {};
+
+using ParsedArguments = std::variant<ForecastRequest, UsageError, HelpRequested, VersionRequested>;
 
 // Parses the arguments after the program name. `todayYear`/`todayMonth` fill in a month
 // command given without --year/--month.
-std::variant<ForecastRequest, UsageError, HelpRequested>
-ParseArguments(const std::vector<std::string>& args, int todayYear, int todayMonth);
+ParsedArguments ParseArguments(const std::vector<std::string>& args, int todayYear, int todayMonth);
 
 // "92.42W" -> 92.42, "31.25S" -> -31.25; nothing when malformed or out of range.
 std::optional<double> ParseCoordinate(const std::string& text, char positive, char negative,

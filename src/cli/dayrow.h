@@ -1,18 +1,30 @@
 // One day's forecast as the command line prints it, gathered from the engine and the year
-// day table. Hours are local clock hours as computed.
+// day table. The command line reports what happens in the local day: an event carries its
+// time only when it falls in that day, and otherwise says why it has none.
 #pragma once
 
 #include <optional>
 #include <string>
 
+// Happens: the event falls in the local day. Above, Below: the body stays above or below the
+// event's altitude all day. None: the event falls on another day.
+enum class EventStatus { Happens, Above, Below, None };
+
+struct DayEvent {
+    std::optional<double> Hours; // local clock hours, only when the event happens
+    EventStatus Status = EventStatus::None;
+
+    static DayEvent At(double hours) { return {hours, EventStatus::Happens}; }
+};
+
 struct DayRow {
     int Year = 0, Month = 0, Day = 0;
-    double Sunrise = 0, Sunset = 0, SunTransit = 0;
-    double CivilDawn = 0, CivilDusk = 0, NauticalDawn = 0, NauticalDusk = 0;
-    double AstronomicalDawn = 0, AstronomicalDusk = 0, DayLength = 0;
-    std::optional<double> Moonrise, MoonTransit, Moonset; // none when the day lacks the event
-    double Major1 = 0, Major2 = 0;
-    std::optional<double> Minor1, Minor2;
+    DayEvent Sunrise, Sunset, SunTransit;
+    DayEvent CivilDawn, CivilDusk, NauticalDawn, NauticalDusk;
+    DayEvent AstronomicalDawn, AstronomicalDusk;
+    std::optional<double> DayLength; // hours of the local day with the Sun above the horizon
+    DayEvent Moonrise, MoonTransit, Moonset;
+    DayEvent Major1, Major2, Minor1, Minor2;
     std::string Major1Text, Major2Text, Minor1Text, Minor2Text, SunriseText, SunsetText;
     int IllumPercent = 0, Waxing = 0, Rating = 0, MoonAge = 0;
     int Phase = 0, Perigee = 0, Declination = 0, Season = 0;
@@ -23,8 +35,8 @@ struct DayRow {
     double UtcOffsetHours = 0; // universal time = local clock time + this
 };
 
-// An event of the year: its kind ("new_moon", "perigee", ...), the instant as the year day
-// table keeps it, the same instant in local clock time and the date of the day that holds it.
+// An event of the year: its kind ("new_moon", "perigee", ...), the instant in universal time,
+// the same instant in local clock time and the local date that holds it.
 struct EventRow {
     std::string Type;
     double JD = 0;

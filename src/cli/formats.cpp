@@ -39,30 +39,58 @@ std::string JsonString(const std::string& s)
 
 std::string Optional(const std::optional<double>& v) { return v ? ExactNumber(*v) : "null"; }
 
-// The columns of CSV and JSON, in one place: key and the value's JSON text.
-using Field = std::pair<const char*, std::function<std::string(const DayRow&)>>;
-
-const std::vector<Field>& Fields()
+const char* StatusName(EventStatus s)
 {
-    static const std::vector<Field> fields = {
-        {"date", [](const DayRow& r) { return JsonString(Date(r.Year, r.Month, r.Day)); }},
-        {"sunrise", [](const DayRow& r) { return ExactNumber(r.Sunrise); }},
-        {"sunset", [](const DayRow& r) { return ExactNumber(r.Sunset); }},
-        {"sun_transit", [](const DayRow& r) { return ExactNumber(r.SunTransit); }},
-        {"civil_dawn", [](const DayRow& r) { return ExactNumber(r.CivilDawn); }},
-        {"civil_dusk", [](const DayRow& r) { return ExactNumber(r.CivilDusk); }},
-        {"nautical_dawn", [](const DayRow& r) { return ExactNumber(r.NauticalDawn); }},
-        {"nautical_dusk", [](const DayRow& r) { return ExactNumber(r.NauticalDusk); }},
-        {"astronomical_dawn", [](const DayRow& r) { return ExactNumber(r.AstronomicalDawn); }},
-        {"astronomical_dusk", [](const DayRow& r) { return ExactNumber(r.AstronomicalDusk); }},
-        {"day_length", [](const DayRow& r) { return ExactNumber(r.DayLength); }},
-        {"moonrise", [](const DayRow& r) { return Optional(r.Moonrise); }},
-        {"moon_transit", [](const DayRow& r) { return Optional(r.MoonTransit); }},
-        {"moonset", [](const DayRow& r) { return Optional(r.Moonset); }},
-        {"major1", [](const DayRow& r) { return ExactNumber(r.Major1); }},
-        {"major2", [](const DayRow& r) { return ExactNumber(r.Major2); }},
-        {"minor1", [](const DayRow& r) { return Optional(r.Minor1); }},
-        {"minor2", [](const DayRow& r) { return Optional(r.Minor2); }},
+    switch (s) {
+    case EventStatus::Happens:
+        return "ok";
+    case EventStatus::Above:
+        return "above";
+    case EventStatus::Below:
+        return "below";
+    case EventStatus::None:
+        break;
+    }
+    return "none";
+}
+
+// The columns of CSV and JSON, in one place: key and the value's JSON text.
+using Field = std::pair<std::string, std::function<std::string(const DayRow&)>>;
+
+// An event's time (null unless it happens in the day) and, beside it, its status.
+void AddEvent(std::vector<Field>& fields, const std::string& key, DayEvent DayRow::*event)
+{
+    fields.emplace_back(key, [event](const DayRow& r) { return Optional((r.*event).Hours); });
+    fields.emplace_back(key + "_status", [event](const DayRow& r) {
+        return "\"" + std::string(StatusName((r.*event).Status)) + "\"";
+    });
+}
+
+std::vector<Field> MakeFields()
+{
+    std::vector<Field> f = {
+        {"date", [](const DayRow& r) { return JsonString(Date(r.Year, r.Month, r.Day)); }}};
+    const std::pair<const char*, DayEvent DayRow::*> sunEvents[] = {
+        {"sunrise", &DayRow::Sunrise},
+        {"sunset", &DayRow::Sunset},
+        {"sun_transit", &DayRow::SunTransit},
+        {"civil_dawn", &DayRow::CivilDawn},
+        {"civil_dusk", &DayRow::CivilDusk},
+        {"nautical_dawn", &DayRow::NauticalDawn},
+        {"nautical_dusk", &DayRow::NauticalDusk},
+        {"astronomical_dawn", &DayRow::AstronomicalDawn},
+        {"astronomical_dusk", &DayRow::AstronomicalDusk}};
+    for (const auto& [key, event] : sunEvents)
+        AddEvent(f, key, event);
+    f.emplace_back("day_length", [](const DayRow& r) { return Optional(r.DayLength); });
+    const std::pair<const char*, DayEvent DayRow::*> moonEvents[] = {
+        {"moonrise", &DayRow::Moonrise}, {"moon_transit", &DayRow::MoonTransit},
+        {"moonset", &DayRow::Moonset},   {"major1", &DayRow::Major1},
+        {"major2", &DayRow::Major2},     {"minor1", &DayRow::Minor1},
+        {"minor2", &DayRow::Minor2}};
+    for (const auto& [key, event] : moonEvents)
+        AddEvent(f, key, event);
+    const std::vector<Field> rest = {
         {"major1_text", [](const DayRow& r) { return JsonString(r.Major1Text); }},
         {"major2_text", [](const DayRow& r) { return JsonString(r.Major2Text); }},
         {"minor1_text", [](const DayRow& r) { return JsonString(r.Minor1Text); }},
@@ -86,6 +114,13 @@ const std::vector<Field>& Fields()
         {"moon_parallactic_angle",
          [](const DayRow& r) { return ExactNumber(r.MoonParallacticAngle); }},
     };
+    f.insert(f.end(), rest.begin(), rest.end());
+    return f;
+}
+
+const std::vector<Field>& Fields()
+{
+    static const std::vector<Field> fields = MakeFields();
     return fields;
 }
 
@@ -130,11 +165,12 @@ std::string Trimmed(std::string s)
     return s;
 }
 
-std::string Clock24(const std::optional<double>& h)
+// "HH:MM", or the program's "*****" for an event that does not happen in the day.
+std::string Clock24(const DayEvent& e)
 {
-    if (!h)
-        return "  -  ";
-    const int minutes = static_cast<int>(std::floor(*h * 60.0));
+    if (!e.Hours)
+        return "*****";
+    const int minutes = static_cast<int>(std::floor(*e.Hours * 60.0));
     char buf[8];
     std::snprintf(buf, sizeof buf, "%02d:%02d", minutes / 60 % 24, minutes % 60);
     return buf;
@@ -144,6 +180,8 @@ std::string Clock24(const std::optional<double>& h)
 
 std::string ExactNumber(double v)
 {
+    if (!std::isfinite(v))
+        return "null";
     std::array<char, 32> buf{};
     const auto [end, ec] = std::to_chars(buf.data(), buf.data() + buf.size(), v);
     return ec == std::errc{} ? std::string(buf.data(), end) : "null";
@@ -227,19 +265,31 @@ std::string IcsLine(const std::string& line)
 {
     std::string out;
     for (std::size_t i = 0; i < line.size();) {
-        std::size_t n = std::min<std::size_t>(i == 0 ? 75 : 74, line.size() - i);
-        while (i + n < line.size() && (static_cast<unsigned char>(line[i + n]) & 0xC0) == 0x80)
+        const std::size_t width = std::min<std::size_t>(i == 0 ? 75 : 74, line.size() - i);
+        std::size_t n = width;
+        while (n > 0 && i + n < line.size() &&
+               (static_cast<unsigned char>(line[i + n]) & 0xC0) == 0x80)
             --n;
+        if (n == 0) // no character start in reach (not UTF-8): cut at the width
+            n = width;
         out += (i ? " " : "") + line.substr(i, n) + "\r\n";
         i += n;
     }
     return out;
 }
 
+// A TEXT value: backslash, semicolon and comma escaped, a line break as "\n"; other control
+// characters cannot stand in a value and are left out.
 std::string IcsText(const std::string& s)
 {
     std::string out;
     for (const char c : s) {
+        if (c == '\n') {
+            out += "\\n";
+            continue;
+        }
+        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F)
+            continue;
         if (c == ',' || c == ';' || c == '\\')
             out += '\\';
         out += c;
@@ -247,48 +297,53 @@ std::string IcsText(const std::string& s)
     return out;
 }
 
+// UIDs name the day, the kind and the place, so that the calendars of two places can be
+// imported side by side.
+std::string Uid(const DayRow& r, const std::string& what, const std::string& placeId)
+{
+    return "UID:" + Date(r.Year, r.Month, r.Day) + "-" + what + "-" + placeId + "@quillmere";
+}
+
 // A major (two hours) or minor (70 minutes) period around its centre.
 std::string TimedEvent(const DayRow& r, const std::string& what, double centre,
-                       const std::string& stamp, const std::string& place)
+                       const std::string& stamp, const IcsPlace& place)
 {
     const bool major = what.starts_with("major");
     const double halfMinutes = major ? 60.0 : 35.0;
-    const std::string day = Date(r.Year, r.Month, r.Day);
-    return IcsLine("BEGIN:VEVENT") + IcsLine("UID:" + day + "-" + what + "@quillmere") +
-           IcsLine("DTSTAMP:" + stamp) +
+    return IcsLine("BEGIN:VEVENT") + IcsLine(Uid(r, what, place.Id)) + IcsLine("DTSTAMP:" + stamp) +
            IcsLine("DTSTART:" + UtcStamp(r, centre - halfMinutes / 60.0)) +
            IcsLine("DTEND:" + UtcStamp(r, centre + halfMinutes / 60.0)) +
            IcsLine("SUMMARY:" + IcsText((major ? "Major period" : "Minor period") +
-                                        std::string(" (") + place + ")")) +
+                                        std::string(" (") + place.Name + ")")) +
            IcsLine("TRANSP:TRANSPARENT") + IcsLine("END:VEVENT");
 }
 
 } // namespace
 
-std::string DaysAsIcs(const std::vector<DayRow>& rows, const std::string& locationName,
+std::string DaysAsIcs(const std::vector<DayRow>& rows, const IcsPlace& place,
                       const std::string& stamp)
 {
     std::string out = IcsLine("BEGIN:VCALENDAR") + IcsLine("VERSION:2.0") +
                       IcsLine("PRODID:-//Quillmere//Fishing forecast//EN") +
                       IcsLine("CALSCALE:GREGORIAN") +
-                      IcsLine("X-WR-CALNAME:" + IcsText("Fishing times, " + locationName));
+                      IcsLine("X-WR-CALNAME:" + IcsText("Fishing times, " + place.Name));
     for (const DayRow& r : rows) {
-        const std::string day = Date(r.Year, r.Month, r.Day);
         if (r.Rating >= 1) {
             char compact[9];
             std::snprintf(compact, sizeof compact, "%04d%02d%02d", r.Year, r.Month, r.Day);
-            out += IcsLine("BEGIN:VEVENT") + IcsLine("UID:" + day + "-rating@quillmere") +
+            out += IcsLine("BEGIN:VEVENT") + IcsLine(Uid(r, "rating", place.Id)) +
                    IcsLine("DTSTAMP:" + stamp) +
                    IcsLine("DTSTART;VALUE=DATE:" + std::string(compact)) + IcsLine("DURATION:P1D") +
                    IcsLine("SUMMARY:" + RatingName(r.Rating)) + IcsLine("TRANSP:TRANSPARENT") +
                    IcsLine("END:VEVENT");
         }
-        out += TimedEvent(r, "major1", r.Major1, stamp, locationName);
-        out += TimedEvent(r, "major2", r.Major2, stamp, locationName);
-        if (r.Minor1)
-            out += TimedEvent(r, "minor1", *r.Minor1, stamp, locationName);
-        if (r.Minor2)
-            out += TimedEvent(r, "minor2", *r.Minor2, stamp, locationName);
+        // Only periods that happen in the day: one Major event per real transit.
+        for (const auto& [what, period] : {std::pair{"major1", &r.Major1},
+                                           {"major2", &r.Major2},
+                                           {"minor1", &r.Minor1},
+                                           {"minor2", &r.Minor2}})
+            if (period->Hours)
+                out += TimedEvent(r, what, *period->Hours, stamp, place);
     }
     return out + IcsLine("END:VCALENDAR");
 }

@@ -10,8 +10,14 @@
 std::string DaysAsText(const std::vector<DayRow>& rows, const std::string& locationCaption);
 std::string DaysAsCsv(const std::vector<DayRow>& rows);
 std::string DaysAsJson(const std::vector<DayRow>& rows);
+// The place of an iCalendar file: its name for the texts and a short text that tells it from
+// other places in the events' UIDs.
+struct IcsPlace {
+    std::string Name;
+    std::string Id;
+};
 // `stamp` is the creation time, "YYYYMMDDTHHMMSSZ".
-std::string DaysAsIcs(const std::vector<DayRow>& rows, const std::string& locationName,
+std::string DaysAsIcs(const std::vector<DayRow>& rows, const IcsPlace& place,
                       const std::string& stamp);
 
 std::string EventsAsText(int year, const std::vector<EventRow>& events,

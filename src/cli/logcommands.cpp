@@ -11,12 +11,13 @@
 #include "logdb/filldata.h"
 #include "logdb/logexport.h"
 #include "logdb/logfiles.h"
-#include "logdb/logreport.h"
 #include "logdb/logimport.h"
+#include "logdb/logreport.h"
 #include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
+#include "platform/version.h"
 
 #include <QDir>
 #include <QFile>
@@ -101,6 +102,7 @@ Options:
   --skip           import: leave the days that hold an entry, import the other lines
   --overwrite      import: replace the entries of those days too
   --help           this text
+  --version        the program's version
 
 The program's folder is $QUILLMERE_HOME, else ~/.local/share/Quillmere. Years run from
 1900 to 2500. Bad input prints one line on stderr and exits with status 2; a failed
@@ -138,11 +140,11 @@ struct Streams {
 
 std::string Std(const QString& text) { return text.toStdString(); }
 
-// The stored settings; a store the program has never written gets the first-start values,
-// as the program itself would write them.
+// The stored settings; a store the program has never written gives the first-start values,
+// kept in memory: the command line never writes the settings.
 Settings StoredSettings()
 {
-    SettingsStore store;
+    SettingsStore store = SettingsStore::ReadOnly();
     if (!store.Contains(QStringLiteral("Usr1Name")))
         WriteFirstStartValues(store);
     Settings s;
@@ -537,6 +539,10 @@ int RunLogCommand(const std::vector<std::string>& args, std::ostream& out, std::
                      "query or report (see --help)");
     if (args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
         out << LogUsageText;
+        return 0;
+    }
+    if (args.size() == 1 && args[0] == "--version") {
+        out << VersionLine("quillmere-log");
         return 0;
     }
     const auto& commands = Commands();

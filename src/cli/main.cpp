@@ -10,12 +10,16 @@
 #include "platform/clock.h"
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
+#include "platform/version.h"
 #include "views/monthlylist.h"
 
 #include <QCoreApplication>
 
+#include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <iostream>
 
 namespace {
@@ -26,7 +30,8 @@ struct NamedPlace {
 };
 
 // The location of the request: coordinates as given, or one of the ten stored locations
-// (the store gets the first-start values when the program has never run).
+// (the first-start values when the program has never run; they stay in memory, since the
+// command line never writes the settings).
 NamedPlace PlaceOf(const ForecastRequest& r)
 {
     NamedPlace p;
@@ -36,7 +41,7 @@ NamedPlace PlaceOf(const ForecastRequest& r)
         p.Place.TimeZone = r.AtCoordinates->TimeZone;
         p.Name = r.AtCoordinates->Name;
     } else {
-        SettingsStore store;
+        SettingsStore store = SettingsStore::ReadOnly();
         if (!store.Contains(QStringLiteral("Usr1Name")))
             WriteFirstStartValues(store);
         Settings s;
@@ -64,6 +69,16 @@ std::string Caption(const NamedPlace& p)
     return text;
 }
 
+// Tells the place from others in iCalendar UIDs: "92.4200W-31.2500N-z6".
+std::string PlaceId(const ForecastPlace& p)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, "%.4f%c-%.4f%c-z%d", std::abs(p.Longitude),
+                  p.Longitude < 0 ? 'E' : 'W', std::abs(p.Latitude), p.Latitude < 0 ? 'S' : 'N',
+                  p.TimeZone);
+    return text;
+}
+
 std::string UtcStampNow()
 {
     const QDateTime now = Clock::Now().toUTC();
@@ -79,8 +94,6 @@ std::string Days(const ForecastRequest& r, const NamedPlace& p)
     sys_days day{year{r.Year} / month{unsigned(r.Month)} / unsigned(r.Day)};
     for (int i = 0; i < r.Days; ++i, day += days{1}) {
         const year_month_day ymd{day};
-        if (int(ymd.year()) > 2500)
-            break;
         rows.push_back(
             run.Day(int(ymd.year()), int(unsigned(ymd.month())), int(unsigned(ymd.day()))));
     }
@@ -90,7 +103,7 @@ std::string Days(const ForecastRequest& r, const NamedPlace& p)
     case OutputFormat::Json:
         return DaysAsJson(rows);
     case OutputFormat::Ics:
-        return DaysAsIcs(rows, p.Name, UtcStampNow());
+        return DaysAsIcs(rows, {p.Name, PlaceId(p.Place)}, UtcStampNow());
     case OutputFormat::Text:
         break;
     }
@@ -121,16 +134,47 @@ std::string Month(const ForecastRequest& r, const NamedPlace& p)
     return out;
 }
 
+// Writes the whole output; a full disk or a closed pipe is reported in one line and the run
+// fails.
+int Write(const std::string& text)
+{
+    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
+        return 0;
+    const int error = errno;
+    std::fprintf(stderr, "quillmere-forecast: cannot write the output: %s\n", std::strerror(error));
+    return 1;
+}
+
+// The text output of the commands that have one (calendar and glance print only).
+std::string Output(const ForecastRequest& r, const NamedPlace& place)
+{
+    switch (r.What) {
+    case Command::Days:
+        return Days(r, place);
+    case Command::Events:
+        return Events(r, place);
+    case Command::Month:
+        return Month(r, place);
+    case Command::CalendarPage:
+    case Command::Glance:
+        break;
+    }
+    return "";
+}
+
 int Run(int argc, char** argv)
 {
+    // A closed pipe then fails the write with EPIPE, which is reported, instead of ending the
+    // program by a signal.
+    std::signal(SIGPIPE, SIG_IGN);
     const std::vector<std::string> args(argv + 1, argv + argc);
     const QDate today = Clock::Now().date();
     const auto parsed = ParseArguments(args, today.year(), today.month());
     const auto app = ApplicationFor(std::get_if<ForecastRequest>(&parsed), argc, argv);
-    if (std::holds_alternative<HelpRequested>(parsed)) {
-        std::cout << UsageText;
-        return 0;
-    }
+    if (std::holds_alternative<HelpRequested>(parsed))
+        return Write(UsageText);
+    if (std::holds_alternative<VersionRequested>(parsed))
+        return Write(VersionLine("quillmere-forecast"));
     if (const auto* e = std::get_if<UsageError>(&parsed)) {
         std::cerr << "quillmere-forecast: " << e->Message << "\n";
         return 2;
@@ -143,21 +187,7 @@ int Run(int argc, char** argv)
             std::cerr << "quillmere-forecast: " << error << "\n";
         return error.empty() ? 0 : 1;
     }
-    switch (r.What) {
-    case Command::Days:
-        std::cout << Days(r, place);
-        break;
-    case Command::Events:
-        std::cout << Events(r, place);
-        break;
-    case Command::Month:
-        std::cout << Month(r, place);
-        break;
-    case Command::CalendarPage:
-    case Command::Glance: // these always print (--pdf)
-        break;
-    }
-    return 0;
+    return Write(Output(r, place));
 }
 } // namespace
 

@@ -12,23 +12,57 @@ const QString Section = QStringLiteral("Settings/");
 
 SettingsStore::SettingsStore(QString file) : FileName(std::move(file)) {}
 
+SettingsStore SettingsStore::ReadOnly(QString file)
+{
+    SettingsStore store(std::move(file));
+    store.InMemory = true;
+    return store;
+}
+
 QString SettingsStore::Read(const QString& key, const QString& defaultText) const
 {
-    return Open(FileName).value(Section + key, defaultText).toString();
+    if (InMemory && (MemoryCleared || Memory.contains(key)))
+        return Memory.value(key, defaultText);
+    const QVariant v = Open(FileName).value(Section + key, defaultText);
+    // An unquoted comma makes QSettings split the text; the parts were separated by a comma
+    // and the blanks around it, which the file's writer most likely meant as ", ".
+    if (v.typeId() == QMetaType::QStringList)
+        return v.toStringList().join(QStringLiteral(", "));
+    return v.toString();
 }
 
 void SettingsStore::Write(const QString& key, const QString& text)
 {
-    Open(FileName).setValue(Section + key, text);
+    if (InMemory)
+        Memory.insert(key, text);
+    else
+        Open(FileName).setValue(Section + key, text);
 }
 
 bool SettingsStore::Contains(const QString& key) const
 {
+    if (InMemory && (MemoryCleared || Memory.contains(key)))
+        return Memory.contains(key);
     return Open(FileName).contains(Section + key);
 }
 
-void SettingsStore::DeleteAll() { Open(FileName).clear(); }
+void SettingsStore::DeleteAll()
+{
+    if (InMemory) {
+        Memory.clear();
+        MemoryCleared = true;
+        return;
+    }
+    Open(FileName).clear();
+}
 
-void SettingsStore::Flush() { Open(FileName).sync(); }
+bool SettingsStore::Flush()
+{
+    if (InMemory)
+        return true;
+    QSettings settings = Open(FileName);
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
 
 QString SettingsStore::FilePath() const { return Open(FileName).fileName(); }

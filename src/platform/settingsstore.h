@@ -2,6 +2,7 @@
 // text. An INI file under $XDG_CONFIG_HOME/Quillmere/.
 #pragma once
 
+#include <QHash>
 #include <QString>
 
 class SettingsStore {
@@ -9,16 +10,23 @@ public:
     // `file` names the INI file inside the application's folder; the settings proper live in
     // "Quillmere", the record of the first start in "Install" (which a reset must not wipe).
     explicit SettingsStore(QString file = QStringLiteral("Quillmere"));
+    // A store that reads the file but keeps its writes in memory, for the command-line
+    // programs, which must never change the stored settings.
+    static SettingsStore ReadOnly(QString file = QStringLiteral("Quillmere"));
 
+    // A value written by hand with commas (QSettings would read it as a list) is read whole.
     QString Read(const QString& key, const QString& defaultText) const;
     void Write(const QString& key, const QString& text);
     bool Contains(const QString& key) const;
     // Deletes every key of the application.
     void DeleteAll();
-    // Writes pending changes to disk; QSettings otherwise does it on destruction.
-    void Flush();
+    // Writes pending changes to disk; false when the file cannot be written.
+    bool Flush();
     QString FilePath() const;
 
 private:
     QString FileName;
+    bool InMemory = false;
+    bool MemoryCleared = false; // DeleteAll in memory: the file's values no longer count
+    QHash<QString, QString> Memory;
 };

@@ -5,6 +5,7 @@
 #include "platform/singleinstance.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QTimer>
 
@@ -49,7 +50,9 @@ TEST(StartUp, AnyArgumentResetsToTheDefaultsTable)
     SettingsStore().Write("DefLoc", "4");
     SettingsStore().Write("TimeFormats", "0");
     AppState reset;
-    ASSERT_EQ(Start(reset, {"--reset"}), StartOutcome::Run);
+    testing::internal::CaptureStderr();
+    ASSERT_EQ(Start(reset, {"--version"}), StartOutcome::Run);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Stored settings reset to their defaults.\n");
     EXPECT_EQ(reset.Config.CurLoc, 1);
     EXPECT_EQ(reset.Config.TimeFormats, 1);
     EXPECT_EQ(reset.Config.FormLeft, 300);
@@ -119,4 +122,31 @@ TEST(FrmCalendar, ClosingMaximizedStoresTheTopLeftCorner)
     }
     EXPECT_EQ(SettingsStore().Read("FormLeft", ""), "0");
     EXPECT_EQ(SettingsStore().Read("FormTop", ""), "0");
+}
+
+// Settings that cannot be saved are reported with the file's name; No keeps the window open,
+// Yes closes it without saving.
+TEST(FrmCalendar, ClosingSaysWhenTheSettingsCannotBeSaved)
+{
+    NeverStarted();
+    AppState app;
+    ASSERT_EQ(Start(app, {"x"}), StartOutcome::Run);
+    const QString path = app.Store.FilePath();
+    QFile::remove(path);
+    ASSERT_TRUE(QDir().mkpath(path)); // a folder where the file should be: not writable
+    MsgResult answer = MsgResult::No;
+    app.Messages.Script([&answer](const ShownMessage&) { return answer; });
+    {
+        FrmCalendar w(app);
+        w.show();
+        w.close();
+        ASSERT_EQ(app.Messages.Shown().size(), 1u);
+        EXPECT_TRUE(app.Messages.Shown()[0].Text.contains(path));
+        EXPECT_TRUE(w.isVisible());
+        answer = MsgResult::Yes;
+        w.close();
+        EXPECT_EQ(app.Messages.Shown().size(), 2u);
+        EXPECT_FALSE(w.isVisible());
+    }
+    QDir(path).removeRecursively();
 }

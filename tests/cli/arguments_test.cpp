@@ -74,3 +74,28 @@ TEST(ForecastArguments, BadInputIsRefusedWithOneClearLine)
     EXPECT_NE(Error({}), "");
     EXPECT_TRUE(std::holds_alternative<HelpRequested>(ParseArguments({"--help"}, 2026, 1)));
 }
+
+// Not-a-number passes a range test unnoticed; names must be printable UTF-8; the days must end
+// by 2500; --version stands alone.
+TEST(ForecastArguments, NanNamesAndTheLastDayAreChecked)
+{
+    const auto place = [](const std::string& lon, const std::string& lat, const std::string& name) {
+        return Error({"days", "--from", "2024-01-01", "--lon", lon, "--lat", lat, "--zone", "6",
+                      "--name", name});
+    };
+    EXPECT_NE(place("nanW", "31N", "Camp"), "");
+    EXPECT_NE(place("92W", "nanN", "Camp"), "");
+    EXPECT_NE(place("infW", "31N", "Camp"), "");
+    EXPECT_NE(place("92W", "31N", "Camp\nEND:VCALENDAR"), "");
+    EXPECT_NE(place("92W", "31N", std::string(200, '\x80')), "");
+    EXPECT_NE(place("92W", "31N", "\xed\xa0\x80"), ""); // a UTF-16 surrogate
+    EXPECT_NE(place("92W", "31N", ""), "");
+    EXPECT_EQ(
+        place("92W", "31N", "S\xc3\xa3o Jo\xc3\xa3o, \xe6\x9d\xb1\xe4\xba\xac \xf0\x9f\x8e\xa3"),
+        "");
+    EXPECT_NE(Error({"days", "--from", "2500-12-25", "--days", "100"}).find("2500-12-31"),
+              std::string::npos);
+    EXPECT_EQ(Parse({"days", "--from", "2500-12-25", "--days", "7"}).Days, 7);
+    EXPECT_TRUE(std::holds_alternative<VersionRequested>(ParseArguments({"--version"}, 2026, 1)));
+    EXPECT_NE(Error({"days", "--version"}), "");
+}
