@@ -71,6 +71,15 @@ QString MakeYearFile(const QString& folderName, int days)
     return created.Path;
 }
 
+QString MakeYearFileWithoutEntries(const QString& folderName)
+{
+    const QString path = MakeYearFile(folderName);
+    Database db;
+    EXPECT_TRUE(db.Open(path));
+    EXPECT_TRUE(db.Execute("UPDATE table1 SET Notes = NULL"));
+    return path;
+}
+
 int CountRows(const QString& path, const QString& table, const QString& connect)
 {
     Database db;

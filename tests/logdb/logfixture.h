@@ -31,6 +31,9 @@ FieldValues DayRecord(int number);
 // A fresh folder holding Default.mdb and a filled "2024.mdb"; returns the year file's path.
 QString MakeYearFile(const QString& folderName, int days = DaysInYear);
 
+// MakeYearFile without the notes, so that no day holds an entry of the angler.
+QString MakeYearFileWithoutEntries(const QString& folderName);
+
 // Number of records of a table, or -1 when it cannot be read.
 int CountRows(const QString& path, const QString& table, const QString& connect = {});
 
