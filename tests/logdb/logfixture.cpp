@@ -80,6 +80,18 @@ QString MakeYearFileWithoutEntries(const QString& folderName)
     return path;
 }
 
+std::vector<int> RecordIds(const QString& path, const QString& recordSource)
+{
+    DataControl data;
+    data.SetDatabaseName(path);
+    data.SetRecordSource(recordSource);
+    EXPECT_TRUE(data.Refresh()) << recordSource.toStdString();
+    std::vector<int> ids;
+    for (; !data.IsEOF(); data.MoveNext())
+        ids.push_back(data.Field("DBID").toInt());
+    return ids;
+}
+
 int CountRows(const QString& path, const QString& table, const QString& connect)
 {
     Database db;

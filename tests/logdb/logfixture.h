@@ -34,6 +34,9 @@ QString MakeYearFile(const QString& folderName, int days = DaysInYear);
 // MakeYearFile without the notes, so that no day holds an entry of the angler.
 QString MakeYearFileWithoutEntries(const QString& folderName);
 
+// The DBIDs of the records the record source gives, in its order, read through DataControl.
+std::vector<int> RecordIds(const QString& path, const QString& recordSource);
+
 // Number of records of a table, or -1 when it cannot be read.
 int CountRows(const QString& path, const QString& table, const QString& connect = {});
 

@@ -27,14 +27,7 @@ protected:
     // The DBIDs of Table3 in the given order.
     std::vector<int> Result(const QString& order = "select * from table3 order by juliandate")
     {
-        DataControl data;
-        data.SetDatabaseName(path_);
-        data.SetRecordSource(order);
-        EXPECT_TRUE(data.Refresh());
-        std::vector<int> ids;
-        for (; !data.IsEOF(); data.MoveNext())
-            ids.push_back(data.Field("dbid").toInt());
-        return ids;
+        return RecordIds(path_, order);
     }
 
     static std::vector<int> DaysWhere(const std::function<bool(const Day&)>& keep)
