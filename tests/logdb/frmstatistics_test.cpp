@@ -33,10 +33,7 @@ namespace {
 // has its first major at 11:51 PM.
 QString YearWithCatches(const QString& folderName)
 {
-    const QString path = MakeYearFileWithoutEntries(folderName);
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    const std::vector<std::pair<int, FieldValues>> catches = {
+    const Entries catches = {
         {10, {{"TotalTaken", 3}, {"PeakTime", "11:00 PM"}, {"Minor2", 2.0}}},
         {27, {{"TotalTaken", 6}, {"PeakTime", "12:00 AM"}}},
         {100, {{"Notes", "lost a big one"}}},
@@ -44,16 +41,14 @@ QString YearWithCatches(const QString& folderName)
         {201, {{"TakenWith", "worms"}}}, // nothing that makes a day fished
         {204, {{"TotalTaken", 9}, {"PeakTime", "9:00 AM"}}},
     };
-    for (const auto& [dbid, fields] : catches)
-        EXPECT_TRUE(db.UpdateRecord({"table1"}, "DBID", dbid, fields));
-    return path;
+    return MakeYearFileWithEntries(folderName, catches);
 }
 
 // A year fished every third day, more taken on better rated days, the peak time a few hours
 // either side of the first major: something worth a screenshot.
 QString BusyYear(const QString& folderName)
 {
-    const QString path = MakeYearFileWithoutEntries(folderName);
+    const QString path = MakeYearFileWithEntries(folderName);
     Database db;
     EXPECT_TRUE(db.Open(path));
     QSqlDatabase link = db.Connection();

@@ -71,12 +71,14 @@ QString MakeYearFile(const QString& folderName, int days)
     return created.Path;
 }
 
-QString MakeYearFileWithoutEntries(const QString& folderName)
+QString MakeYearFileWithEntries(const QString& folderName, const Entries& entries)
 {
     const QString path = MakeYearFile(folderName);
     Database db;
     EXPECT_TRUE(db.Open(path));
     EXPECT_TRUE(db.Execute("UPDATE table1 SET Notes = NULL"));
+    for (const auto& [dbid, fields] : entries)
+        EXPECT_TRUE(db.UpdateRecord({"table1"}, "DBID", dbid, fields)) << dbid;
     return path;
 }
 

@@ -31,8 +31,10 @@ FieldValues DayRecord(int number);
 // A fresh folder holding Default.mdb and a filled "2024.mdb"; returns the year file's path.
 QString MakeYearFile(const QString& folderName, int days = DaysInYear);
 
-// MakeYearFile without the notes, so that no day holds an entry of the angler.
-QString MakeYearFileWithoutEntries(const QString& folderName);
+// MakeYearFile without the fixture's notes, so that the angler's only entries are the given
+// fields of the given records (by DBID).
+using Entries = std::vector<std::pair<int, FieldValues>>;
+QString MakeYearFileWithEntries(const QString& folderName, const Entries& entries = {});
 
 // The DBIDs of the records the record source gives, in its order, read through DataControl.
 std::vector<int> RecordIds(const QString& path, const QString& recordSource);

@@ -23,11 +23,7 @@ namespace {
 // A 2024 file without the fixture's notes, whose 11 January already holds a catch.
 QString YearToImportInto(const QString& folderName)
 {
-    const QString path = MakeYearFileWithoutEntries(folderName);
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    EXPECT_TRUE(db.UpdateRecord({"table1"}, "DBID", 11, {{"TotalTaken", 1}}));
-    return path;
+    return MakeYearFileWithEntries(folderName, {{11, {{"TotalTaken", 1}}}});
 }
 
 const QByteArray EveryKindOfRow =
