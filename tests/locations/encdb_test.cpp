@@ -1,26 +1,18 @@
 // The city database the build generates, asked directly with plain SQL, against published
 // coordinates and the zones' standard offsets.
+#include "cityfolder.h"
 #include "logdb/database.h"
 
-#include <QSqlQuery>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-QVariant Scalar(const QString& sql)
+// The first value of a plain SQL query on the built city database.
+QVariant Scalar(const QString& sql, const QVariantList& values = {})
 {
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), "encdb-plain");
-    db.setDatabaseName(QStringLiteral(QUILLMERE_ENCDB));
-    QVariant value;
-    if (db.open()) {
-        QSqlQuery q(db);
-        if (q.exec(sql) && q.next())
-            value = q.value(0);
-    }
-    db = QSqlDatabase();
-    QSqlDatabase::removeDatabase("encdb-plain");
-    return value;
+    return cityfolder::Column(QFileInfo(QUILLMERE_ENCDB).absolutePath(), sql, values).value(0);
 }
 
 struct KnownCity {
@@ -71,25 +63,19 @@ TEST(Encdb, KnownCitiesWithTheirStandardZones)
                                 {"Ireland", "Dublin", 6.260, 53.350, 0}};
     for (const KnownCity& c : cities) {
         SCOPED_TRACE(c.City);
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), "encdb-known");
-        db.setDatabaseName(QStringLiteral(QUILLMERE_ENCDB));
-        ASSERT_TRUE(db.open());
-        {
-            QSqlQuery q(db);
-            q.prepare("SELECT LongInDegrees, LongChar, LatInDegrees, LatChar, Timezone FROM Table1 "
-                      "WHERE State = ? AND City = ?");
-            q.addBindValue(QString::fromUtf8(c.State));
-            q.addBindValue(QString::fromUtf8(c.City));
-            ASSERT_TRUE(q.exec());
-            ASSERT_TRUE(q.next());
-            const double lon = q.value(0).toDouble() * (q.value(1).toString() == "W" ? 1 : -1);
-            const double lat = q.value(2).toDouble() * (q.value(3).toString() == "N" ? 1 : -1);
-            EXPECT_NEAR(lon, c.LonWest, 0.05);
-            EXPECT_NEAR(lat, c.LatNorth, 0.05);
-            EXPECT_EQ(q.value(4).toInt(), c.Zone);
-        }
-        db = QSqlDatabase();
-        QSqlDatabase::removeDatabase("encdb-known");
+        // West and north positive, then the zone.
+        const QStringList found =
+            Scalar("SELECT (CASE LongChar WHEN 'W' THEN 1 ELSE -1 END * LongInDegrees) || ' ' "
+                   "|| (CASE LatChar WHEN 'N' THEN 1 ELSE -1 END * LatInDegrees) || ' ' || "
+                   "Timezone FROM Table1 "
+                   "WHERE State = ? AND City = ?",
+                   {QString::fromUtf8(c.State), QString::fromUtf8(c.City)})
+                .toString()
+                .split(' ');
+        ASSERT_EQ(found.size(), 3);
+        EXPECT_NEAR(found[0].toDouble(), c.LonWest, 0.05);
+        EXPECT_NEAR(found[1].toDouble(), c.LatNorth, 0.05);
+        EXPECT_EQ(found[2].toInt(), c.Zone);
     }
 }
 

@@ -28,6 +28,8 @@ struct Editor {
         W->show();
     }
     QString Text(int i) const { return W->Text[std::size_t(i)]->text(); }
+    // The degree and hundredth boxes of longitude, then of latitude.
+    QString Boxes() const { return QStringList{Text(0), Text(1), Text(2), Text(3)}.join(' '); }
     QString Zone() const { return W->List1->currentItem()->text(); }
     // Picks the entry as a user does, by its text.
     void Pick(int combo, const QString& text)
@@ -52,10 +54,7 @@ TEST(FrmLocation, ShowsALocationInTheBoxesOptionsAndZoneList)
 {
     const QString folder = cityfolder::Make("loc-show");
     Editor east(folder, {"Greenwich east", -0.5, 51.48, -1});
-    EXPECT_EQ(east.Text(0), "000");
-    EXPECT_EQ(east.Text(1), "50");
-    EXPECT_EQ(east.Text(2), "51");
-    EXPECT_EQ(east.Text(3), "48");
+    EXPECT_EQ(east.Boxes(), "000 50 51 48");
     EXPECT_TRUE(east.W->SSOption[1]->isChecked()); // E
     EXPECT_TRUE(east.W->SSOption[2]->isChecked()); // N
     EXPECT_EQ(east.Zone(), "+1");
@@ -68,14 +67,12 @@ TEST(FrmLocation, ShowsALocationInTheBoxesOptionsAndZoneList)
     EXPECT_EQ(east.Locations[3].TimeZone, -1);
 
     Editor miami(folder, {"Miami, FL", 80.2, -25.77, 5});
-    EXPECT_EQ(miami.Text(0), "080");
-    EXPECT_EQ(miami.Text(1), "20");
+    EXPECT_EQ(miami.Boxes(), "080 20 25 77");
     EXPECT_TRUE(miami.W->SSOption[0]->isChecked()); // W
     EXPECT_TRUE(miami.W->SSOption[3]->isChecked()); // S
     EXPECT_EQ(miami.Zone(), "-5  (Eastern)");
     Editor utc(folder, {"Seattle", 122.34, 47.61, 0});
-    EXPECT_EQ(utc.Text(0), "122");
-    EXPECT_EQ(utc.Text(1), "34");
+    EXPECT_EQ(utc.Boxes(), "122 34 47 61");
     EXPECT_EQ(utc.Zone(), " 0  (UTC)");
 }
 
@@ -94,10 +91,7 @@ TEST(FrmLocation, StateFillsCitiesInOrderAndACityFillsEveryField)
     EXPECT_EQ(shown, cities);
 
     e.Pick(1, "Sydney");
-    EXPECT_EQ(e.Text(0), "151");
-    EXPECT_EQ(e.Text(1), "21");
-    EXPECT_EQ(e.Text(2), "33");
-    EXPECT_EQ(e.Text(3), "87");
+    EXPECT_EQ(e.Boxes(), "151 21 33 87");
     EXPECT_TRUE(e.W->SSOption[1]->isChecked()); // E
     EXPECT_TRUE(e.W->SSOption[3]->isChecked()); // S
     EXPECT_EQ(e.Zone(), "+10");
@@ -117,8 +111,7 @@ TEST(FrmLocation, NamesWithAQuoteArePickedLikeAnyOther)
     Editor e(folder, {"Somewhere", 90.0, 30.0, 6});
     e.Pick(0, "ID");
     e.Pick(1, "Coeur d'Alene");
-    EXPECT_EQ(e.Text(0), "116");
-    EXPECT_EQ(e.Text(1), "78");
+    EXPECT_EQ(e.Boxes().left(6), "116 78");
     EXPECT_EQ(e.Zone(), "-8  (Pacific)");
     EXPECT_EQ(e.Text(4), "Coeur d'Alene, ID");
     EXPECT_TRUE(e.Messages.Shown().empty());

@@ -5,22 +5,18 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 TEST(LocationRules, BoxTextsAndDegreeParts)
 {
-    EXPECT_EQ(Pad(0), "000");
-    EXPECT_EQ(Pad(80), "080");
-    EXPECT_EQ(Pad(122), "122");
-    EXPECT_EQ(PadFrac(5), "05");
-    EXPECT_EQ(PadFrac(34), "34");
-    const DegreeParts east = SplitDegrees(-0.5);
-    EXPECT_EQ(east.Whole, 0);
-    EXPECT_EQ(east.Hundredths, 50);
-    const DegreeParts miami = SplitDegrees(80.2); // 80.2 - 80 is 0.2000000000000028
-    EXPECT_EQ(miami.Whole, 80);
-    EXPECT_EQ(miami.Hundredths, 20);
-    EXPECT_EQ(SplitDegrees(122.34).Hundredths, 34);
-    EXPECT_EQ(SplitDegrees(0.996).Whole, 1); // rounds up into the next degree
-    EXPECT_EQ(SplitDegrees(0.996).Hundredths, 0);
+    EXPECT_EQ(Pad(0) + Pad(80) + Pad(122), "000080122");
+    EXPECT_EQ(PadFrac(5) + PadFrac(34), "0534");
+    // 80.2 - 80 is 0.2000000000000028; 0.996 rounds up into the next degree.
+    for (const auto& [degrees, whole, hundredths] :
+         {std::tuple{-0.5, 0, 50}, {80.2, 80, 20}, {122.34, 122, 34}, {0.996, 1, 0}}) {
+        EXPECT_EQ(SplitDegrees(degrees).Whole, whole) << degrees;
+        EXPECT_EQ(SplitDegrees(degrees).Hundredths, hundredths) << degrees;
+    }
     EXPECT_DOUBLE_EQ(JoinDegrees(0, 50, true), -0.5);
     EXPECT_DOUBLE_EQ(JoinDegrees(80, 20, false), 80.2);
 }
@@ -31,11 +27,12 @@ TEST(LocationRules, TimeZoneListShowsOffsetAndCarriesItsNegation)
     ASSERT_EQ(list.size(), 25u);
     EXPECT_EQ(list.front().Text, "+12");
     EXPECT_EQ(list.front().Value, -12);
-    EXPECT_EQ(list[std::size_t(TimeZoneListPosition(-1))].Text, "+1");
-    EXPECT_EQ(list[std::size_t(TimeZoneListPosition(0))].Text, " 0  (UTC)");
-    EXPECT_EQ(list[std::size_t(TimeZoneListPosition(3))].Text, "-3");
-    EXPECT_EQ(list[std::size_t(TimeZoneListPosition(5))].Text, "-5  (Eastern)");
-    EXPECT_EQ(list[std::size_t(TimeZoneListPosition(11))].Text, "-11  (Midway Is.)");
+    for (const auto& [zone, text] : {std::pair{-1, "+1"},
+                                     {0, " 0  (UTC)"},
+                                     {3, "-3"},
+                                     {5, "-5  (Eastern)"},
+                                     {11, "-11  (Midway Is.)"}})
+        EXPECT_EQ(list[std::size_t(TimeZoneListPosition(zone))].Text, text);
     EXPECT_EQ(list.back().Text, "-12");
     for (int zone = -12; zone <= 12; ++zone)
         EXPECT_EQ(list[std::size_t(TimeZoneListPosition(zone))].Value, zone);

@@ -1,15 +1,16 @@
 // Backups of the year files on real files: a copy only when the file changed, ten kept per
 // year, restoring that keeps the current file, and the windows that make and restore them.
 #include "logdb/backups.h"
+#include "logdb/filledyear.h"
 #include "logdb/frmbackups.h"
 #include "logdb/frmselectdb.h"
 #include "logdb/logfixture.h"
 #include "logdb/logwindowenv.h"
+#include "support/testenv.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QListWidget>
-#include <QSqlQuery>
 
 #include <gtest/gtest.h>
 
@@ -29,20 +30,8 @@ void SetTaken(const QString& path, int dbid, int taken)
 // TotalTaken of a record, asked of the file in plain SQL.
 int Taken(const QString& path, int dbid)
 {
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    QSqlQuery q(db.Connection());
-    q.prepare("SELECT TotalTaken FROM table1 WHERE DBID = ?");
-    q.addBindValue(dbid);
-    EXPECT_TRUE(q.exec() && q.next()) << path.toStdString();
-    return q.value(0).toInt();
-}
-
-QByteArray Bytes(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
+    const QString sql = QString("SELECT TotalTaken FROM table1 WHERE DBID = %1").arg(dbid);
+    return PlainColumn(path, sql).at(0).toInt();
 }
 
 // Twelve changes to the year file, each followed by a backup an hour later than the last.
@@ -73,7 +62,7 @@ TEST(Backups, CopiesOnlyAChangedFileAndKeepsTheLastTenOfEachYear)
     }
     EXPECT_EQ(QFileInfo(kept[0]).fileName(), "2024_2026-05-01_18-00-00.mdb");
     EXPECT_EQ(QFileInfo(kept[0]).absolutePath(), QFileInfo(path).absolutePath() + "/backups");
-    EXPECT_EQ(Bytes(kept[0]), Bytes(path));
+    EXPECT_EQ(testenv::FileBytes(kept[0]), testenv::FileBytes(path));
     EXPECT_EQ(ListBackups(other).size(), 1); // another year's copies are not counted or pruned
 
     // Two changes within one second get two copies.
@@ -117,7 +106,7 @@ TEST(Backups, OpeningAYearFileBacksItUpAndTheBackupsWindowRestores)
         select.OpenDBFile_Click();
     }
     ASSERT_EQ(ListBackups(path).size(), 2);
-    EXPECT_EQ(Bytes(ListBackups(path)[0]), Bytes(path));
+    EXPECT_EQ(testenv::FileBytes(ListBackups(path)[0]), testenv::FileBytes(path));
 
     SetTaken(path, 2, 77);
     FrmBackups w(env.Context(), path);

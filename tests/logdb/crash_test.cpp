@@ -2,6 +2,7 @@
 // code and is killed with SIGKILL at many points; the folder must then hold no year file or a
 // whole one with every saved entry, and the program must open it.
 #include "logdb/datacontrol.h"
+#include "logdb/filledyear.h"
 #include "logdb/logfiles.h"
 #include "logdb/logfixture.h"
 #include "support/testenv.h"
@@ -70,13 +71,9 @@ bool CheckYearFileWholeOrAbsent(const QString& folder, const std::string& where)
 // The Notes of every day, in date order.
 QStringList NotesOf(const QString& path)
 {
-    Database db;
-    RowSet rows;
-    EXPECT_TRUE(db.Open(path));
-    EXPECT_TRUE(db.Query("select Notes from table1 order by juliandate", rows));
     QStringList notes;
-    for (const auto& row : rows.Rows)
-        notes << row.at(0).toString();
+    for (const QVariant& note : PlainColumn(path, "select Notes from table1 order by JulianDate"))
+        notes << note.toString();
     return notes;
 }
 

@@ -1,6 +1,8 @@
 // The data control over a filled year: moving, finding, editing, adding and deleting, and
-// what reaches the file.
+// what reaches the file; values given apart from the statement ("?" marks), so that a
+// user's text with quotes stays a value and never becomes SQL.
 #include "logdb/datacontrol.h"
+#include "logdb/jetcondition.h"
 #include "logdb/logfixture.h"
 
 #include <QFileInfo>
@@ -301,4 +303,63 @@ TEST_F(DataControlTest, MissingFileIsReportedNotCreated)
     EXPECT_FALSE(opened);
     EXPECT_TRUE(opened.Message.contains("Could not find file"));
     EXPECT_FALSE(QFileInfo::exists(path_ + ".gone"));
+}
+
+TEST_F(DataControlTest, RecordSourceAndFindFirstTakeTextWithQuotesAsValues)
+{
+    DataControl data;
+    Open(data, "select * from table1 where dbid = 7");
+    ASSERT_TRUE(data.Edit());
+    const QString note = "Bob's lure'; DROP TABLE table1; --";
+    ASSERT_TRUE(data.SetField("Notes", note));
+    ASSERT_TRUE(data.Update());
+
+    data.SetRecordSource("select * from table1 where Notes = ? and Month = ?", {note, 1});
+    ASSERT_TRUE(data.Refresh());
+    ASSERT_EQ(data.RecordCount(), 1);
+    EXPECT_EQ(data.Field("dbid").toInt(), 7);
+
+    data.SetRecordSource("select * from table1 order by dbid");
+    ASSERT_TRUE(data.Refresh());
+    EXPECT_EQ(data.RecordCount(), DaysInYear);                  // the table is still there
+    ASSERT_TRUE(data.FindFirst("Notes = ?", {note.toUpper()})); // text compares ignore case
+    EXPECT_FALSE(data.NoMatch());
+    EXPECT_EQ(data.Field("dbid").toInt(), 7);
+    ASSERT_TRUE(data.FindFirst("dbid > ? and dbid < ?", {30, 32}));
+    EXPECT_EQ(data.Field("dbid").toInt(), 31);
+    ASSERT_TRUE(data.FindFirst("Notes = ?", {QString("Bob's")}));
+    EXPECT_TRUE(data.NoMatch());
+}
+
+TEST(JetConditionValues, MarksAndValuesMustMatch)
+{
+    std::string error;
+    EXPECT_FALSE(JetCondition::Parse("City = ?", error, {}));
+    EXPECT_FALSE(error.empty());
+    EXPECT_FALSE(JetCondition::Parse("City = 'Austin'", error, {JetValue{{}, "x", false}}));
+    const auto parsed =
+        JetCondition::Parse("City = ? or City = ?", error,
+                            {JetValue{{}, "Xi'an", false}, JetValue{{}, "Ya'an", false}});
+    ASSERT_TRUE(parsed);
+    EXPECT_TRUE(parsed->Matches([](std::string_view) { return JetValue{{}, "ya'AN", false}; }));
+    EXPECT_FALSE(parsed->Matches([](std::string_view) { return JetValue{{}, "Lu'an", false}; }));
+}
+
+// Many records changed by key in one transaction: all of them, or on a failure none.
+TEST_F(DataControlTest, UpdateRecordsAllOrNoneThenTheResultIsReadAgain)
+{
+    DataControl data;
+    Open(data, "select * from table1 order by dbid");
+    const std::vector<RecordChange> bad = {{2, {{"Notes", "kept?"}}},
+                                           {3, {{"TotalTaken", "many"}}}}; // not a number
+    EXPECT_FALSE(data.UpdateRecords(bad));
+    ASSERT_TRUE(data.Refresh());
+    ASSERT_TRUE(data.FindFirst("Notes = ?", {QString("kept?")}));
+    EXPECT_TRUE(data.NoMatch());
+
+    ASSERT_TRUE(data.UpdateRecords({{2, {{"Notes", "two"}}}, {3, {{"Notes", "three"}}}}));
+    EXPECT_EQ(data.AbsolutePosition(), 0);
+    ASSERT_TRUE(data.FindFirst("Notes = 'three'"));
+    EXPECT_FALSE(data.NoMatch());
+    EXPECT_EQ(data.Field("dbid").toInt(), 3);
 }

@@ -1,6 +1,7 @@
 // The browser never drops a catch entry: every way out while a record is being edited asks
 // "Save changes to this day?", and Save, Discard and Cancel do what they say, as read back
 // from the file with plain SQL.
+#include "logdb/filledyear.h"
 #include "logdb/frmtable1.h"
 #include "logdb/logfixture.h"
 #include "logdb/logwindowenv.h"
@@ -20,14 +21,9 @@ using namespace logtest;
 
 namespace {
 
-QString StoredField(const QString& path, const QString& field, int dbid = 1)
+QString StoredField(const QString& path, const QString& field)
 {
-    Database db;
-    RowSet rows;
-    EXPECT_TRUE(db.Open(path));
-    EXPECT_TRUE(
-        db.Query(QString("select %1 from table1 where dbid = %2").arg(field).arg(dbid), rows));
-    return rows.Rows.at(0).at(0).toString();
+    return PlainColumn(path, "select " + field + " from table1 where dbid = 1").at(0).toString();
 }
 
 struct WayOut {
@@ -49,8 +45,7 @@ TEST(EditSafety, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
         for (const MsgResult answer : {MsgResult::Cancel, MsgResult::Discard, MsgResult::Save}) {
             const std::string where =
                 std::string(way.Name) + " answered " + std::to_string(int(answer));
-            LogWindowEnv env(QString{});
-            env.State.DBPath = MakeYearFile("edit-safety", 5);
+            LogWindowEnv env(QString{}, MakeYearFile("edit-safety", 5));
             QWidget owner;
             owner.show();
             frmTable1 w(env.Context(), &owner);
@@ -93,8 +88,7 @@ TEST(EditSafety, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
 
 TEST(EditSafety, LeavingWhileBrowsingAsksNothing)
 {
-    LogWindowEnv env(QString{});
-    env.State.DBPath = MakeYearFile("edit-safety-browse", 5);
+    LogWindowEnv env(QString{}, MakeYearFile("edit-safety-browse", 5));
     frmTable1 w(env.Context());
     w.show();
     QTest::keyClick(&w, Qt::Key_Escape);
@@ -104,8 +98,7 @@ TEST(EditSafety, LeavingWhileBrowsingAsksNothing)
 
 TEST(EditSafety, TakenWithHoldsWhatItsColumnHoldsAndDaylightShowsFifteenDigits)
 {
-    LogWindowEnv env(QString{});
-    env.State.DBPath = MakeYearFile("edit-safety-length", 5);
+    LogWindowEnv env(QString{}, MakeYearFile("edit-safety-length", 5));
     {
         Database db;
         ASSERT_TRUE(db.Open(env.State.DBPath));

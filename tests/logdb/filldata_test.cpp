@@ -4,17 +4,18 @@
 #include "calendar/calendar.h"
 #include "logdb/datacontrol.h"
 #include "logdb/filldata.h"
+#include "logdb/filledyear.h"
 #include "logdb/logfiles.h"
 #include "logdb/storedforms.h"
 #include "support/testenv.h"
 
 #include <QDir>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+
+using namespace logtest;
 
 namespace {
 
@@ -72,11 +73,7 @@ FilledYear Fill(const QString& folderName, Astronomy& engine, const Calendar& ca
     FilledYear out;
     out.Path = CreateYearFile(folder, cal.CurYear).Path;
     DataControl data0;
-    data0.SetDatabaseName(out.Path);
-    data0.SetRecordSource("select * from table1");
-    EXPECT_TRUE(data0.Refresh());
-    out.Result = FillYear(engine, cal, -60, data0, progress);
-    data0.Close();
+    out.Result = FillYearFile(data0, out.Path, engine, cal, -60, progress);
     out.Rows = ReadYear(out.Path);
     return out;
 }
@@ -214,28 +211,12 @@ TEST(FillYear, ARecordThatCannotBeSavedLeavesNoRecordAndRestoresTheObserver)
 {
     const QString folder = testenv::FreshDir("fill-fails");
     const QString path = CreateYearFile(folder, 2024).Path;
-    {
-        // The engine refuses the record of 1 July, half-way through the year.
-        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "fill-fails");
-        db.setDatabaseName(path);
-        ASSERT_TRUE(db.open());
-        QSqlQuery q(db);
-        ASSERT_TRUE(q.exec("CREATE TRIGGER full BEFORE INSERT ON table1 WHEN "
-                           "NEW.JulianDate = '2024-07-01' BEGIN SELECT RAISE(ABORT, 'disk is "
-                           "full'); END"));
-        q = QSqlQuery();
-        db.close();
-        db = QSqlDatabase();
-        QSqlDatabase::removeDatabase("fill-fails");
-    }
+    // The engine refuses the record of 1 July, half-way through the year.
+    PlainExec(path, DiskFullOnJuly1);
     Astronomy engine = Pittsburgh();
     const Calendar cal = YearCalendar(engine, 2024, 0);
     DataControl data0;
-    data0.SetDatabaseName(path);
-    data0.SetRecordSource("select * from table1");
-    ASSERT_TRUE(data0.Refresh());
-    const DbResult filled = FillYear(engine, cal, -60, data0);
-    data0.Close();
+    const DbResult filled = FillYearFile(data0, path, engine, cal, -60);
     EXPECT_FALSE(filled);
     EXPECT_TRUE(filled.Message.contains("disk is full")) << filled.Message.toStdString();
     EXPECT_TRUE(ReadYear(path).empty());

@@ -24,23 +24,22 @@ QString MakeFilledYearFile(const QString& folderName)
     engine.Site.SetPlace(80.0, 40.44, 5);
     const Calendar cal = YearCalendar(engine, 2024, 0);
     DataControl data0;
-    data0.SetDatabaseName(path);
-    data0.SetRecordSource("select * from table1");
-    EXPECT_TRUE(data0.Refresh());
-    const DbResult filled = FillYear(engine, cal, -60, data0);
+    const DbResult filled = FillYearFile(data0, path, engine, cal, -60);
     EXPECT_TRUE(filled) << filled.Message.toStdString();
-    data0.Close();
-    QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "filledyear");
+    PlainExec(path, "UPDATE table1 SET TotalTaken = DBID % 7 WHERE DBID % 10 = 0");
+    return path;
+}
+
+void PlainExec(const QString& path, const QString& sqliteSql)
+{
     {
+        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "plainexec");
         db.setDatabaseName(path);
         EXPECT_TRUE(db.open());
         QSqlQuery q(db);
-        EXPECT_TRUE(q.exec("UPDATE table1 SET TotalTaken = DBID % 7 WHERE DBID % 10 = 0"));
-        db.close();
+        EXPECT_TRUE(q.exec(sqliteSql)) << q.lastError().text().toStdString();
     }
-    db = QSqlDatabase();
-    QSqlDatabase::removeDatabase("filledyear");
-    return path;
+    QSqlDatabase::removeDatabase("plainexec");
 }
 
 std::vector<std::vector<QVariant>> PlainRows(const QString& path, const QString& sqliteSql)

@@ -14,6 +14,13 @@ namespace logtest {
 // Every tenth day has a catch entered (TotalTaken = day of the year % 7).
 QString MakeFilledYearFile(const QString& folderName);
 
+// A trigger that refuses the record of 1 July 2024 as a full disk would.
+inline const QString DiskFullOnJuly1 =
+    "CREATE TRIGGER full BEFORE INSERT ON table1 WHEN NEW.JulianDate = '2024-07-01' "
+    "BEGIN SELECT RAISE(ABORT, 'disk is full'); END";
+
+// Runs one SQLite statement on the file without the program's layer.
+void PlainExec(const QString& path, const QString& sqliteSql);
 // The rows the SQLite statement gives, read without the program's layer.
 std::vector<std::vector<QVariant>> PlainRows(const QString& path, const QString& sqliteSql);
 // The first column of every row the SQLite statement gives, read without the program's layer.

@@ -1,5 +1,6 @@
 // "Database Functions" offscreen on real folders: the file list, the messages, creating and
 // filling a year, deleting, compacting and repairing, and the browser it opens.
+#include "logdb/filledyear.h"
 #include "logdb/frmselectdb.h"
 #include "logdb/frmtable1.h"
 #include "logdb/logfiles.h"
@@ -7,13 +8,10 @@
 #include "logdb/logwindowenv.h"
 #include "support/testenv.h"
 
-#include <QCryptographicHash>
 #include <QFile>
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -50,16 +48,10 @@ void Select(FrmSelectDB& w, const QString& name)
                       w.DBFiles->visualItemRect(items[0]).center());
 }
 
-QByteArray Checksum(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256);
-}
-
 // The window shown, with the browser it would open recorded instead of shown.
 struct Opened {
     QStringList Browsed;
+    explicit Opened(FrmSelectDB& w) { Watch(w); }
     void Watch(FrmSelectDB& w)
     {
         w.ShowBrowser = [this](const QString& path) { Browsed << path; };
@@ -97,8 +89,7 @@ TEST(FrmSelectDB, EveryFileButtonWantsASelectionFirst)
 {
     LogWindowEnv env(ProgramFolderWithFiles("select-none"));
     FrmSelectDB w(env.Context());
-    Opened opened;
-    opened.Watch(w);
+    Opened opened(w);
     for (QPushButton* b : {w.OpenDBFile, w.DeleteDBFile, w.CmdCompact, w.CmdRepair})
         QTest::mouseClick(b, Qt::LeftButton);
     ASSERT_EQ(env.Messages.Shown().size(), 4u);
@@ -116,8 +107,7 @@ TEST(FrmSelectDB, AClickSelectsAndADoubleClickOpensTheBrowser)
 {
     LogWindowEnv env(ProgramFolderWithFiles("select-open"));
     FrmSelectDB w(env.Context());
-    Opened opened;
-    opened.Watch(w);
+    Opened opened(w);
     Select(w, "2005.mdb");
     EXPECT_EQ(env.State.DBPath, QDir(env.Folder).filePath("2005.mdb"));
     EXPECT_TRUE(opened.Browsed.isEmpty());
@@ -135,8 +125,7 @@ TEST(FrmSelectDB, CreateFillsTheShownYearAndLeavesAnExistingOneAlone)
     const QString path = QDir(env.Folder).filePath("2024.mdb");
     {
         FrmSelectDB w(env.Context(2024));
-        Opened opened;
-        opened.Watch(w);
+        Opened opened(w);
         env.Answers = {MsgResult::Yes};
         QTest::mouseClick(w.CmdCreate, Qt::LeftButton);
         EXPECT_EQ(env.ShownTexts(), QStringList{"Create DataBase for 2024"});
@@ -156,16 +145,15 @@ TEST(FrmSelectDB, CreateFillsTheShownYearAndLeavesAnExistingOneAlone)
         ASSERT_TRUE(db.Open(path));
         ASSERT_TRUE(db.UpdateRecord({"table1"}, "DBID", 10, {{"Notes", "pike"}}));
     }
-    const QByteArray before = Checksum(path);
+    const QByteArray before = testenv::FileBytes(path);
     FrmSelectDB again(env.Context(2024));
-    Opened opened;
-    opened.Watch(again);
+    Opened opened(again);
     env.Answers = {MsgResult::Yes};
     QTest::mouseClick(again.CmdCreate, Qt::LeftButton);
     EXPECT_EQ(env.ShownTexts().mid(1),
               QStringList({"Create DataBase for 2024", "DataBase already exists for 2024"}));
     EXPECT_EQ(env.Messages.Shown().back().Buttons, MsgButtons::OKCancel);
-    EXPECT_EQ(Checksum(path), before);
+    EXPECT_EQ(testenv::FileBytes(path), before);
     EXPECT_EQ(opened.Browsed, QStringList{path});
 }
 
@@ -173,8 +161,7 @@ TEST(FrmSelectDB, AnsweringNoCreatesNothingAndBrowsesOnlyAnExistingFile)
 {
     LogWindowEnv env(ProgramFolderWithFiles("select-no"));
     FrmSelectDB w(env.Context(2024));
-    Opened opened;
-    opened.Watch(w);
+    Opened opened(w);
     env.Answers = {MsgResult::No};
     QTest::mouseClick(w.CmdCreate, Qt::LeftButton);
     EXPECT_FALSE(QFile::exists(QDir(env.Folder).filePath("2024.mdb")));
@@ -193,27 +180,11 @@ TEST(FrmSelectDB, AFailedFillKeepsNoFileAndCreateWorksAgain)
 {
     LogWindowEnv env(ProgramFolderWithFiles("select-fail"));
     const QString templatePath = QDir(env.Folder).filePath("Default.mdb");
-    const QByteArray sound = [&] {
-        QFile file(templatePath);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }();
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "select-fail");
-        db.setDatabaseName(templatePath);
-        ASSERT_TRUE(db.open());
-        QSqlQuery q(db);
-        ASSERT_TRUE(q.exec("CREATE TRIGGER full BEFORE INSERT ON table1 WHEN NEW.JulianDate = "
-                           "'2024-07-01' BEGIN SELECT RAISE(ABORT, 'disk is full'); END"));
-        q = QSqlQuery();
-        db.close();
-        db = QSqlDatabase();
-        QSqlDatabase::removeDatabase("select-fail");
-    }
+    const QByteArray sound = testenv::FileBytes(templatePath);
+    PlainExec(templatePath, DiskFullOnJuly1);
     const QString path = QDir(env.Folder).filePath("2024.mdb");
     FrmSelectDB w(env.Context(2024));
-    Opened opened;
-    opened.Watch(w);
+    Opened opened(w);
     env.Answers = {MsgResult::Yes};
     QTest::mouseClick(w.CmdCreate, Qt::LeftButton);
     ASSERT_EQ(env.Messages.Shown().size(), 2u);
@@ -228,11 +199,7 @@ TEST(FrmSelectDB, AFailedFillKeepsNoFileAndCreateWorksAgain)
     EXPECT_FALSE(Listed(w).contains("2024.mdb"));
 
     // With a sound template the same window creates the year.
-    QFile::remove(templatePath);
-    QFile file(templatePath);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(sound);
-    file.close();
+    testenv::WriteFile(templatePath, sound);
     env.Answers = {MsgResult::Yes};
     QTest::mouseClick(w.CmdCreate, Qt::LeftButton);
     EXPECT_EQ(CountRows(path, "table1"), 366);
@@ -243,8 +210,7 @@ TEST(FrmSelectDB, DeleteAsksAndKeepsTheFileOnNo)
 {
     LogWindowEnv env(ProgramFolderWithFiles("select-delete"));
     FrmSelectDB w(env.Context());
-    Opened opened;
-    opened.Watch(w);
+    Opened opened(w);
     Select(w, "2004.mdb");
     env.Answers = {MsgResult::No};
     QTest::mouseClick(w.DeleteDBFile, Qt::LeftButton);
@@ -253,13 +219,12 @@ TEST(FrmSelectDB, DeleteAsksAndKeepsTheFileOnNo)
     EXPECT_TRUE(QFile::exists(QDir(env.Folder).filePath("2004.mdb")));
     Select(w, "2004.mdb");
     // An unfinished journal goes with its file, so that it cannot touch a later 2004.mdb.
-    QFile journal(QDir(env.Folder).filePath("2004.mdb-journal"));
-    ASSERT_TRUE(journal.open(QIODevice::WriteOnly));
-    journal.close();
+    const QString journal = QDir(env.Folder).filePath("2004.mdb-journal");
+    testenv::WriteFile(journal);
     env.Answers = {MsgResult::Yes};
     QTest::mouseClick(w.DeleteDBFile, Qt::LeftButton);
     EXPECT_FALSE(QFile::exists(QDir(env.Folder).filePath("2004.mdb")));
-    EXPECT_FALSE(journal.exists());
+    EXPECT_FALSE(QFile::exists(journal));
     EXPECT_EQ(Listed(w), QStringList{"2005.mdb"});
 }
 
@@ -269,8 +234,7 @@ TEST(FrmSelectDB, CompactingTwiceKeepsOneBackupAndRepairSaysSo)
     const QString path = MakeYearFile("select-compact");
     env.Folder = QFileInfo(path).absolutePath();
     FrmSelectDB w(env.Context());
-    Opened opened;
-    opened.Watch(w);
+    Opened opened(w);
     Select(w, "2024.mdb");
     QTest::mouseClick(w.CmdCompact, Qt::LeftButton);
     QTest::mouseClick(w.CmdCompact, Qt::LeftButton);
@@ -292,13 +256,9 @@ TEST(FrmSelectDB, AFileThatIsNoDatabaseCannotBeCompactedOrRepaired)
 {
     LogWindowEnv env(ProgramFolderWithFiles("select-broken"));
     const QString path = QDir(env.Folder).filePath("2006.mdb");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(8192, 'x'));
-    file.close();
+    testenv::WriteFile(path, QByteArray(8192, 'x'));
     FrmSelectDB w(env.Context());
-    Opened opened;
-    opened.Watch(w);
+    Opened opened(w);
     Select(w, "2006.mdb");
     QTest::mouseClick(w.CmdCompact, Qt::LeftButton);
     QTest::mouseClick(w.CmdRepair, Qt::LeftButton);

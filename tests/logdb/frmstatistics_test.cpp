@@ -2,6 +2,7 @@
 // files in plain SQL; the statistics window opened from the record browser, its summary,
 // charts, table and copy, with screenshots.
 #include "logdb/catchdays.h"
+#include "logdb/filledyear.h"
 #include "logdb/frmstatistics.h"
 #include "logdb/frmtable1.h"
 #include "logdb/logfixture.h"
@@ -32,11 +33,7 @@ namespace {
 // has its first major at 11:51 PM.
 QString YearWithCatches(const QString& folderName)
 {
-    const QString path = MakeYearFile(folderName);
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    QSqlQuery(db.Connection()).exec("UPDATE table1 SET Notes = NULL");
-    const std::vector<std::pair<int, FieldValues>> catches = {
+    const Entries catches = {
         {10, {{"TotalTaken", 3}, {"PeakTime", "11:00 PM"}, {"Minor2", 2.0}}},
         {27, {{"TotalTaken", 6}, {"PeakTime", "12:00 AM"}}},
         {100, {{"Notes", "lost a big one"}}},
@@ -44,21 +41,18 @@ QString YearWithCatches(const QString& folderName)
         {201, {{"TakenWith", "worms"}}}, // nothing that makes a day fished
         {204, {{"TotalTaken", 9}, {"PeakTime", "9:00 AM"}}},
     };
-    for (const auto& [dbid, fields] : catches)
-        EXPECT_TRUE(db.UpdateRecord({"table1"}, "DBID", dbid, fields));
-    return path;
+    return MakeYearFileWithEntries(folderName, catches);
 }
 
 // A year fished every third day, more taken on better rated days, the peak time a few hours
 // either side of the first major: something worth a screenshot.
 QString BusyYear(const QString& folderName)
 {
-    const QString path = MakeYearFile(folderName);
+    const QString path = MakeYearFileWithEntries(folderName);
     Database db;
     EXPECT_TRUE(db.Open(path));
     QSqlDatabase link = db.Connection();
     link.transaction();
-    QSqlQuery(link).exec("UPDATE table1 SET Notes = NULL");
     QSqlQuery q(link);
     q.prepare("UPDATE table1 SET TotalTaken = ?, PeakTime = ? WHERE DBID = ?");
     for (int n = 3; n <= DaysInYear; n += 3) {
@@ -78,16 +72,13 @@ std::map<int, std::pair<int, long>> SqlRatingCounts(const QStringList& paths)
 {
     std::map<int, std::pair<int, long>> counts;
     for (const QString& path : paths) {
-        Database db;
-        EXPECT_TRUE(db.Open(path));
-        QSqlQuery q(db.Connection());
-        EXPECT_TRUE(q.exec("SELECT GraphicType, count(*), total(TotalTaken) FROM table1 "
-                           "WHERE TotalTaken IS NOT NULL OR trim(PeakTime) <> '' "
-                           "OR trim(Notes) <> '' GROUP BY GraphicType"));
-        while (q.next()) {
-            auto& [days, total] = counts[q.value(0).toInt()];
-            days += q.value(1).toInt();
-            total += q.value(2).toLongLong();
+        for (const auto& row : PlainRows(path, "SELECT GraphicType, count(*), total(TotalTaken) "
+                                               "FROM table1 WHERE TotalTaken IS NOT NULL OR "
+                                               "trim(PeakTime) <> '' OR trim(Notes) <> '' "
+                                               "GROUP BY GraphicType")) {
+            auto& [days, total] = counts[row[0].toInt()];
+            days += row[1].toInt();
+            total += row[2].toLongLong();
         }
     }
     return counts;

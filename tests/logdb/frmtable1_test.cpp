@@ -52,8 +52,7 @@ std::vector<QLabel*> VisibleFish(frmTable1& w)
 
 TEST(FrmTable1, ShowsTheFirstOf365RecordsWithItsDay)
 {
-    LogWindowEnv env(QString{});
-    env.State.DBPath = BrowsedYear("browse-first");
+    LogWindowEnv env(QString{}, BrowsedYear("browse-first"));
     frmTable1 w(env.Context());
     EXPECT_EQ(w.windowTitle(), "Quillmere DataBase");
     w.Form_Activate();
@@ -78,8 +77,7 @@ TEST(FrmTable1, ShowsTheFirstOf365RecordsWithItsDay)
 
 TEST(FrmTable1, RepositionShowsMissingEventsPerigeeNotesRatingsAndTheMoon)
 {
-    LogWindowEnv env(QString{});
-    env.State.DBPath = BrowsedYear("browse-reposition");
+    LogWindowEnv env(QString{}, BrowsedYear("browse-reposition"));
     frmTable1 w(env.Context());
     w.Form_Activate();
 
@@ -116,8 +114,7 @@ TEST(FrmTable1, RepositionShowsMissingEventsPerigeeNotesRatingsAndTheMoon)
 
 TEST(FrmTable1, EditingHoldsTheRecordAndTheCatchSurvivesReopening)
 {
-    LogWindowEnv env(QString{});
-    env.State.DBPath = BrowsedYear("browse-edit");
+    LogWindowEnv env(QString{}, BrowsedYear("browse-edit"));
     {
         frmTable1 w(env.Context());
         w.Form_Activate();
@@ -174,8 +171,7 @@ TEST(FrmTable1, EditingHoldsTheRecordAndTheCatchSurvivesReopening)
 
 TEST(FrmTable1, ACatchEnteredOnAQueryResultReachesTheLogTable)
 {
-    LogWindowEnv env(QString{});
-    env.State.DBPath = BrowsedYear("browse-query");
+    LogWindowEnv env(QString{}, BrowsedYear("browse-query"));
     RunQueryStep(env.State.DBPath, "select * into Table2 from table1 where GraphicType = 4");
     {
         frmTable1 w(env.Context());
@@ -201,8 +197,7 @@ TEST(FrmTable1, ACatchEnteredOnAQueryResultReachesTheLogTable)
 
 TEST(FrmTable1, AFileThatCannotBeReadIsReportedAsADataError)
 {
-    LogWindowEnv env(QString{});
-    env.State.DBPath = testenv::FreshDir("browse-missing") + "/2030.mdb";
+    LogWindowEnv env(QString{}, testenv::FreshDir("browse-missing") + "/2030.mdb");
     frmTable1 w(env.Context());
     w.Form_Activate();
     ASSERT_EQ(env.Messages.Shown().size(), 1u);

@@ -2,14 +2,15 @@
 // back by Python's strict CSV and JSON readers and compared with the file through Python's
 // own SQLite module.
 #include "logdb/backups.h"
+#include "logdb/filledyear.h"
 #include "logdb/logfiles.h"
+#include "support/pdftext.h"
 #include "support/testenv.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
-#include <QSqlQuery>
 
 #include <gtest/gtest.h>
 
@@ -114,15 +115,9 @@ TEST(LogCommand, CreateListExportCompactAndRepairAYear)
               "");
 
     // A second create leaves the file alone and says so.
-    const QByteArray before = [&] {
-        QFile f(YearPath(home));
-        f.open(QIODevice::ReadOnly);
-        return f.readAll();
-    }();
+    const QByteArray before = testenv::FileBytes(YearPath(home));
     ExpectOneLineRefusal(RunLog(home, {"create", "--year", "2024"}), 1, "create again");
-    QFile after(YearPath(home));
-    ASSERT_TRUE(after.open(QIODevice::ReadOnly));
-    EXPECT_EQ(after.readAll(), before);
+    EXPECT_EQ(testenv::FileBytes(YearPath(home)), before);
 }
 
 TEST(LogCommand, BadInputExitsWithTwoAndFailuresWithOne)
@@ -204,10 +199,7 @@ TEST(LogCommand, QueryAndReportTheSelectedDays)
     const LogRun printed =
         RunLog(home, {"report", "--year", "2024", "--months", "1-2", "--pdf", pdf});
     ASSERT_EQ(printed.Status, 0) << printed.Err.toStdString();
-    QProcess pdftotext;
-    pdftotext.start("pdftotext", {"-layout", pdf, "-"});
-    ASSERT_TRUE(pdftotext.waitForFinished(20000));
-    const QStringList pages = QString::fromUtf8(pdftotext.readAllStandardOutput()).split('\f');
+    const QStringList pages = testenv::PdfText(pdf).split('\f');
     ASSERT_GE(pages.size(), 2);
     EXPECT_TRUE(pages[1].trimmed().startsWith("Quillmere DataBase Report - Page # 2"));
     EXPECT_TRUE(pages[1].simplified().contains("060 02/29/2024")) << pages[1].toStdString();
@@ -221,16 +213,13 @@ namespace {
 // Every day's catch columns, in date order, asked of the file.
 QStringList CatchEntries(const QString& path)
 {
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    QSqlQuery q(db.Connection());
-    EXPECT_TRUE(q.exec("SELECT JulianDate, TotalTaken, TakenWith, PeakTime, Notes FROM table1 "
-                       "ORDER BY JulianDate"));
     QStringList rows;
-    while (q.next()) {
+    for (const auto& row : logtest::PlainRows(path, "SELECT JulianDate, TotalTaken, TakenWith, "
+                                                    "PeakTime, Notes FROM table1 ORDER BY "
+                                                    "JulianDate")) {
         QStringList fields;
-        for (int i = 0; i < 5; ++i)
-            fields << (q.value(i).isNull() ? "<null>" : q.value(i).toString());
+        for (const QVariant& v : row)
+            fields << (v.isNull() ? "<null>" : v.toString());
         rows << fields.join('|');
     }
     return rows;
@@ -265,10 +254,7 @@ TEST(LogCommand, ExportThenImportIntoAFreshYearGivesTheSameEntries)
     ASSERT_EQ(exported.Status, 0) << exported.Err.toStdString();
     const QString into = CreatedYear("log-import-into");
     const QString csv = QDir(into).filePath("catches.csv");
-    QFile out(csv);
-    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-    out.write(exported.Out.toUtf8());
-    out.close();
+    testenv::WriteFile(csv, exported.Out.toUtf8());
 
     const LogRun imported = RunLog(into, {"import", "--year", "2024", csv});
     ASSERT_EQ(imported.Status, 0) << imported.Err.toStdString() << imported.Out.toStdString();

@@ -1,10 +1,9 @@
-// The year files on disk: listing, creating, compacting, repairing and protecting them.
+// The year files on disk: listing, creating, compacting and protecting them.
 #include "logdb/datacontrol.h"
 #include "logdb/logfiles.h"
 #include "logdb/logfixture.h"
 #include "support/testenv.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 
@@ -13,13 +12,6 @@
 using namespace logtest;
 
 namespace {
-
-QByteArray Checksum(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256);
-}
 
 QStringList FilesIn(const QString& folder)
 {
@@ -48,10 +40,8 @@ TEST(YearFiles, ListShowsOnlyFourCharacterMdbNames)
 {
     const QString folder = testenv::FreshDir("listing");
     for (const char* name : {"Default.mdb", "Encdb.MDB", "2004.mdb", "2005.mdb", "2006.MDB",
-                             "20071.mdb", "204.mdb", "2008.mdb.bak", "2009.BAK", "notes.txt"}) {
-        QFile file(QDir(folder).filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
+                             "20071.mdb", "204.mdb", "2008.mdb.bak", "2009.BAK", "notes.txt"})
+        testenv::WriteFile(QDir(folder).filePath(name));
     QDir().mkpath(QDir(folder).filePath("2010.mdb")); // a folder, not a file
     EXPECT_EQ(ListYearFiles(folder), QStringList({"2004.mdb", "2005.mdb", "2006.MDB"}));
 }
@@ -66,11 +56,11 @@ TEST(YearFiles, CreateCopiesTheTemplateAndLeavesAnExistingYearAlone)
     EXPECT_EQ(CountRows(QDir(folder).filePath("Default.mdb"), "table1"), 0);
 
     const QString path = MakeYearFile("create-existing", 20);
-    const QByteArray before = Checksum(path);
+    const QByteArray before = testenv::FileBytes(path);
     const CreateYearResult again = CreateYearFile(FolderOf(path), Year);
     EXPECT_EQ(again.Outcome, CreateYearResult::Status::AlreadyExists);
     EXPECT_EQ(again.Path, path);
-    EXPECT_EQ(Checksum(path), before);
+    EXPECT_EQ(testenv::FileBytes(path), before);
     EXPECT_EQ(CountRows(path, "table1"), 20);
 }
 
@@ -109,10 +99,10 @@ TEST(Compaction, TwiceLeavesTheCompactedFileAndOneBackup)
     EXPECT_LT(QFileInfo(path).size(), grown);
     EXPECT_EQ(FilesIn(FolderOf(path)), QStringList({"2024.BAK", "2024.mdb", "Default.mdb"}));
 
-    const QByteArray beforeSecond = Checksum(path);
+    const QByteArray beforeSecond = testenv::FileBytes(path);
     ASSERT_TRUE(CompactDB(path));
     EXPECT_EQ(FilesIn(FolderOf(path)), QStringList({"2024.BAK", "2024.mdb", "Default.mdb"}));
-    EXPECT_EQ(Checksum(QDir(FolderOf(path)).filePath("2024.BAK")), beforeSecond);
+    EXPECT_EQ(testenv::FileBytes(QDir(FolderOf(path)).filePath("2024.BAK")), beforeSecond);
     EXPECT_EQ(CountRows(path, "table1"), 182);
 }
 
@@ -131,58 +121,6 @@ TEST(Compaction, AFailureLeavesTheYearFileReadable)
     EXPECT_FALSE(CompactDB(path));
     EXPECT_EQ(CountRows(path, "table1"), DaysInYear);
     EXPECT_FALSE(CompactDB(QDir(folder).filePath("1999.mdb")));
-}
-
-TEST(Repair, RebuildsADamagedFileKeepingTheReadableRecords)
-{
-    constexpr int Rows = 300;
-    const QString path = MakeYearFile("repair", Rows);
-    EXPECT_TRUE(RepairDB(path)); // a sound file is left as it is
-    EXPECT_FALSE(QFileInfo::exists(QDir(FolderOf(path)).filePath("2024.BAD")));
-    {
-        Database db;
-        ASSERT_TRUE(db.Open(path));
-        ASSERT_TRUE(db.Execute("delete from table1 where dbid > 295"));
-    }
-
-    // Zero the page that holds the middle record.
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    const QByteArray bytes = file.readAll();
-    const qsizetype at = bytes.indexOf("row-150");
-    ASSERT_GT(at, 0);
-    const int pageSize = (uchar(bytes[16]) << 8) | uchar(bytes[17]);
-    ASSERT_TRUE(file.seek(at / pageSize * pageSize));
-    file.write(QByteArray(pageSize, '\0'));
-    file.close();
-    {
-        Database db;
-        ASSERT_TRUE(db.Open(path));
-        ASSERT_FALSE(CheckIntegrity(db));
-    }
-
-    const DbResult repaired = RepairDB(path);
-    ASSERT_TRUE(repaired) << repaired.Message.toStdString();
-    Database db;
-    ASSERT_TRUE(db.Open(path));
-    EXPECT_TRUE(CheckIntegrity(db));
-    RowSet rows;
-    ASSERT_TRUE(db.Query("select notes from table1 order by dbid", rows));
-    const int kept = int(rows.Rows.size());
-    EXPECT_LT(kept, 295);
-    EXPECT_GT(kept, 295 - pageSize / 100); // only the records of one page are lost
-    EXPECT_EQ(rows.Rows.front().front(), QVariant("row-001"));
-    EXPECT_EQ(rows.Rows.back().front(), QVariant("row-295"));
-    EXPECT_TRUE(QFileInfo::exists(QDir(FolderOf(path)).filePath("2024.BAD")));
-
-    // Numbering goes on after the highest record number, not after the last one kept.
-    DataControl data;
-    data.SetDatabaseName(path);
-    data.SetRecordSource("select * from table1");
-    ASSERT_TRUE(data.Refresh());
-    ASSERT_TRUE(data.AddNew());
-    ASSERT_TRUE(data.Update());
-    EXPECT_EQ(data.LastModified().toInt(), Rows + 1);
 }
 
 TEST(Password, AProtectedFileOpensOnlyWithItsPassword)

@@ -71,6 +71,29 @@ QString MakeYearFile(const QString& folderName, int days)
     return created.Path;
 }
 
+QString MakeYearFileWithEntries(const QString& folderName, const Entries& entries)
+{
+    const QString path = MakeYearFile(folderName);
+    Database db;
+    EXPECT_TRUE(db.Open(path));
+    EXPECT_TRUE(db.Execute("UPDATE table1 SET Notes = NULL"));
+    for (const auto& [dbid, fields] : entries)
+        EXPECT_TRUE(db.UpdateRecord({"table1"}, "DBID", dbid, fields)) << dbid;
+    return path;
+}
+
+std::vector<int> RecordIds(const QString& path, const QString& recordSource)
+{
+    DataControl data;
+    data.SetDatabaseName(path);
+    data.SetRecordSource(recordSource);
+    EXPECT_TRUE(data.Refresh()) << recordSource.toStdString();
+    std::vector<int> ids;
+    for (; !data.IsEOF(); data.MoveNext())
+        ids.push_back(data.Field("DBID").toInt());
+    return ids;
+}
+
 int CountRows(const QString& path, const QString& table, const QString& connect)
 {
     Database db;

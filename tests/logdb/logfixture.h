@@ -31,6 +31,14 @@ FieldValues DayRecord(int number);
 // A fresh folder holding Default.mdb and a filled "2024.mdb"; returns the year file's path.
 QString MakeYearFile(const QString& folderName, int days = DaysInYear);
 
+// MakeYearFile without the fixture's notes, so that the angler's only entries are the given
+// fields of the given records (by DBID).
+using Entries = std::vector<std::pair<int, FieldValues>>;
+QString MakeYearFileWithEntries(const QString& folderName, const Entries& entries = {});
+
+// The DBIDs of the records the record source gives, in its order, read through DataControl.
+std::vector<int> RecordIds(const QString& path, const QString& recordSource);
+
 // Number of records of a table, or -1 when it cannot be read.
 int CountRows(const QString& path, const QString& table, const QString& connect = {});
 

@@ -3,15 +3,16 @@
 // that already hold an entry, checked by asking the file in plain SQL.
 #include "logdb/backups.h"
 #include "logdb/csvread.h"
+#include "logdb/filledyear.h"
 #include "logdb/frmselectdb.h"
 #include "logdb/logfixture.h"
 #include "logdb/logimport.h"
 #include "logdb/logwindowenv.h"
+#include "support/testenv.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QListWidget>
-#include <QSqlQuery>
 
 #include <gtest/gtest.h>
 
@@ -22,12 +23,7 @@ namespace {
 // A 2024 file without the fixture's notes, whose 11 January already holds a catch.
 QString YearToImportInto(const QString& folderName)
 {
-    const QString path = MakeYearFile(folderName);
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    EXPECT_TRUE(QSqlQuery(db.Connection()).exec("UPDATE table1 SET Notes = NULL"));
-    EXPECT_TRUE(db.UpdateRecord({"table1"}, "DBID", 11, {{"TotalTaken", 1}}));
-    return path;
+    return MakeYearFileWithEntries(folderName, {{11, {{"TotalTaken", 1}}}});
 }
 
 const QByteArray EveryKindOfRow =
@@ -46,23 +42,13 @@ const QByteArray EveryKindOfRow =
 // The catch columns of a day, asked of the file.
 QStringList Entry(const QString& path, const QString& date)
 {
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    QSqlQuery q(db.Connection());
-    q.prepare("SELECT TotalTaken, TakenWith, PeakTime, Notes FROM table1 WHERE JulianDate = ?");
-    q.addBindValue(date);
-    EXPECT_TRUE(q.exec() && q.next());
+    const auto rows = PlainRows(path, "SELECT TotalTaken, TakenWith, PeakTime, Notes FROM table1 "
+                                      "WHERE JulianDate = '" +
+                                          date + "'");
     QStringList values;
-    for (int i = 0; i < 4; ++i)
-        values << (q.value(i).isNull() ? "<null>" : q.value(i).toString());
+    for (const QVariant& v : rows.at(0))
+        values << (v.isNull() ? "<null>" : v.toString());
     return values;
-}
-
-QByteArray Bytes(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
 }
 
 } // namespace
@@ -82,7 +68,7 @@ TEST(ReadCsv, QuotedCommasQuotesAndLineBreaksWithTheirStartingLines)
 TEST(LogImport, ReportsEveryBadRowByLineBeforeWritingAnything)
 {
     const QString path = YearToImportInto("import-plan");
-    const QByteArray before = Bytes(path);
+    const QByteArray before = testenv::FileBytes(path);
     ImportPlan plan;
     ASSERT_TRUE(PlanImport(path, 2024, EveryKindOfRow, plan));
     EXPECT_EQ(
@@ -97,7 +83,7 @@ TEST(LogImport, ReportsEveryBadRowByLineBeforeWritingAnything)
     ASSERT_EQ(plan.Rows.size(), 3u);
     EXPECT_EQ(plan.Rows[1].Line, 8);
     EXPECT_EQ(plan.OccupiedRows(), 1);
-    EXPECT_EQ(Bytes(path), before);
+    EXPECT_EQ(testenv::FileBytes(path), before);
 
     ImportPlan none;
     const DbResult noDate = PlanImport(path, 2024, "Date,TotalTaken\n01/05/2024,3\n", none);
@@ -133,10 +119,7 @@ TEST(LogImport, DatabaseFunctionsShowsTheProblemsThenImportsAfterABackup)
     const QString path = YearToImportInto("import-window");
     LogWindowEnv env(QFileInfo(path).absolutePath());
     const QString csv = env.Folder + "/catches.csv";
-    QFile out(csv);
-    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-    out.write(EveryKindOfRow);
-    out.close();
+    testenv::WriteFile(csv, EveryKindOfRow);
     FrmSelectDB w(env.Context());
     w.ChooseImportFile = [&] { return csv; };
     w.CmdImport_Click(); // nothing selected

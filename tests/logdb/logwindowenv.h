@@ -20,8 +20,10 @@ struct LogWindowEnv {
     QString Folder;
     std::vector<MsgResult> Answers; // given in turn; OK when they run out
 
-    explicit LogWindowEnv(QString folder) : Folder(std::move(folder))
+    // dbPath is the year file the log has open, as the record browser finds it.
+    explicit LogWindowEnv(QString folder, QString dbPath = {}) : Folder(std::move(folder))
     {
+        State.DBPath = std::move(dbPath);
         Engine.Site.SetPlace(80.0, 40.44, 5);
         Engine.Site.DstOffsetDays = -60 / 1440.0;
         Messages.Script([this](const ShownMessage&) {

@@ -188,16 +188,3 @@ TEST(QueryInjection, ValueBoxesRefuseWhatTheirConditionCannotHold)
     months.Values[2] = "12; DROP TABLE table1";
     EXPECT_FALSE(PlanSelection(months).Ok());
 }
-
-TEST(QueryOrders, CaptionsAndFixedSelections)
-{
-    EXPECT_EQ(OrderingOf(0).Caption, "Sorted by Date");
-    EXPECT_EQ(OrderingOf(4).RecordSource, "Select * from table3 order by Graphictype,juliandate");
-    EXPECT_EQ(OrderingOf(4).Caption, "Sorted by Fish Rating");
-    EXPECT_EQ(OrderingOf(5).Entry, "Total Taken");
-    EXPECT_EQ(MonthSource(2), "select * from table1 where  month between 2 and 2");
-    EXPECT_EQ(DaySelections()[7].Caption, "Sundays");
-    EXPECT_EQ(DaySelections()[13].RecordSource, "select * from table1 where DayofWeek_ = 7");
-    EXPECT_EQ(DaySelections()[4].RecordSource,
-              "select * from table1 where DayofWeek_ = 1 or DayofWeek_ = 7");
-}

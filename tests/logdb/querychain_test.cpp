@@ -2,7 +2,6 @@
 // the browser writes them.
 #include "logdb/datacontrol.h"
 #include "logdb/logfixture.h"
-#include "logdb/storedforms.h"
 
 #include <gtest/gtest.h>
 
@@ -28,14 +27,7 @@ protected:
     // The DBIDs of Table3 in the given order.
     std::vector<int> Result(const QString& order = "select * from table3 order by juliandate")
     {
-        DataControl data;
-        data.SetDatabaseName(path_);
-        data.SetRecordSource(order);
-        EXPECT_TRUE(data.Refresh());
-        std::vector<int> ids;
-        for (; !data.IsEOF(); data.MoveNext())
-            ids.push_back(data.Field("dbid").toInt());
-        return ids;
+        return RecordIds(path_, order);
     }
 
     static std::vector<int> DaysWhere(const std::function<bool(const Day&)>& keep)
@@ -138,21 +130,6 @@ TEST_F(QueryChain, OrderByMajor1FollowsTheClock)
                     (a.Major1Minute == b.Major1Minute && a.Number < b.Number))
             << "day " << a.Number << " before day " << b.Number;
     }
-}
-
-TEST_F(QueryChain, FixedSelectionsReadTheLogTable)
-{
-    DataControl data;
-    data.SetDatabaseName(path_);
-    data.SetRecordSource("select * from table1 where  month between 2 and 2");
-    ASSERT_TRUE(data.Refresh());
-    EXPECT_EQ(data.RecordCount(), 29);
-    data.SetRecordSource("select * from table1 where DayofWeek_ > 1 and DayofWeek_ < 7");
-    ASSERT_TRUE(data.Refresh());
-    EXPECT_EQ(data.RecordCount(),
-              int(DaysWhere([](const Day& d) { return d.Weekday > 1 && d.Weekday < 7; }).size()));
-    EXPECT_EQ(FormatStored(data.Field("JulianDate").toString().toStdString(), "mm/dd/yyyy"),
-              "01/01/2024");
 }
 
 TEST_F(QueryChain, MalformedStepsFailWithoutHarm)

@@ -1,14 +1,16 @@
 // Repair over damaged copies of a filled year holding the angler's entries: the table's root
 // page, a leaf page's header, a long note's overflow page and a value inside a record are
 // overwritten; every record whose page is intact must come back, the message must count
-// them, and no value outside its column's range may remain. Checked with plain SQL.
+// them, and no value outside its column's range may remain. Checked with plain SQL. A whole
+// leaf page zeroed loses only that page's records.
+#include "logdb/datacontrol.h"
+#include "logdb/filledyear.h"
 #include "logdb/logfiles.h"
 #include "logdb/logfixture.h"
 #include "support/testenv.h"
 
 #include <QDir>
 #include <QFile>
-#include <QSqlQuery>
 
 #include <gtest/gtest.h>
 
@@ -43,13 +45,6 @@ QString MakeYearWithEntries(const QString& name)
     return path;
 }
 
-QByteArray Bytes(const QString& path)
-{
-    QFile f(path);
-    EXPECT_TRUE(f.open(QIODevice::ReadOnly));
-    return f.readAll();
-}
-
 void Overwrite(const QString& path, qint64 at, const QByteArray& with)
 {
     QFile f(path);
@@ -69,38 +64,32 @@ qint64 PageStart(const QByteArray& file, const QByteArray& holding)
 
 qint64 RootPageStart(const QString& path)
 {
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    QSqlQuery q(db.Connection());
-    EXPECT_TRUE(q.exec("select rootpage from sqlite_master where name = 'table1'") && q.next());
-    return (q.value(0).toLongLong() - 1) * PageSize(Bytes(path));
+    const QVariant root =
+        PlainColumn(path, "select rootpage from sqlite_master where name = 'table1'").at(0);
+    return (root.toLongLong() - 1) * PageSize(testenv::FileBytes(path));
 }
 
 // Plain SQL over the repaired file: the notes by record number, and no value outside what
 // its column can hold.
 std::map<int, QString> NotesByDay(const QString& path)
 {
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    QSqlQuery q(db.Connection());
-    EXPECT_TRUE(q.exec("select DBID, Notes, TakenWith from table1"));
     std::map<int, QString> notes;
-    while (q.next())
-        notes[q.value(0).toInt()] = q.value(1).toString();
+    for (const auto& row : PlainRows(path, "select DBID, Notes, TakenWith from table1"))
+        notes[row[0].toInt()] = row[1].toString();
     return notes;
 }
 
 void ExpectNothingOutOfRange(const QString& path, const std::string& where)
 {
-    Database db;
-    ASSERT_TRUE(db.Open(path));
-    QSqlQuery q(db.Connection());
-    ASSERT_TRUE(q.exec("select count(*) from table1 where IllumPercent not between 0 and 100 "
-                       "or GraphicType not between 0 and 4 or DaylightHours not between 0 and 24 "
-                       "or date(JulianDate) is not JulianDate or MoonRise > 24 or MoonRise < -1 "
-                       "or time(Major1) is not Major1 or Month not between 1 and 12"));
-    ASSERT_TRUE(q.next());
-    EXPECT_EQ(q.value(0).toInt(), 0) << where;
+    EXPECT_EQ(PlainColumn(path, "select count(*) from table1 where IllumPercent not between 0 "
+                                "and 100 or GraphicType not between 0 and 4 or DaylightHours not "
+                                "between 0 and 24 or date(JulianDate) is not JulianDate or "
+                                "MoonRise > 24 or MoonRise < -1 or time(Major1) is not Major1 or "
+                                "Month not between 1 and 12")
+                  .at(0)
+                  .toInt(),
+              0)
+        << where;
 }
 
 // Repairs and checks what every repair must give: counts that add up to the year, the
@@ -148,7 +137,7 @@ TEST(Repair, DamagedRootPageKeepsEveryRecordAndEveryEntry)
 TEST(Repair, DamagedLeafHeaderKeepsTheRecordsOfThatPageToo)
 {
     const QString path = MakeYearWithEntries("repair-leaf");
-    const QByteArray file = Bytes(path);
+    const QByteArray file = testenv::FileBytes(path);
     const qint64 page = PageStart(file, "row-100");
     const int onPage = int(file.mid(page, PageSize(file)).count("row-"));
     ASSERT_GT(onPage, 10);
@@ -163,7 +152,7 @@ TEST(Repair, DamagedLeafHeaderKeepsTheRecordsOfThatPageToo)
 TEST(Repair, DamagedOverflowPageKeepsTheNoteUpToTheDamage)
 {
     const QString path = MakeYearWithEntries("repair-overflow");
-    const QByteArray file = Bytes(path);
+    const QByteArray file = testenv::FileBytes(path);
     const qint64 page = PageStart(file, "cast 0450 ");
     Overwrite(path, page, QByteArray(PageSize(file), '\0'));
     const RepairReport report = RepairAndCheck(path, "overflow page");
@@ -187,7 +176,7 @@ TEST(Repair, AValueDamagedInsideARecordIsEmptiedAndNoted)
     std::memcpy(&bits, &hours, 8);
     for (int i = 0; i < 8; ++i)
         stored[i] = char(bits >> (56 - 8 * i)); // big-endian, as the file stores a real
-    const qint64 at = Bytes(path).indexOf(QByteArray(stored, 8));
+    const qint64 at = testenv::FileBytes(path).indexOf(QByteArray(stored, 8));
     ASSERT_GT(at, 0);
     Overwrite(path, at, QByteArray::fromHex("d9123456789abcde")); // about -2e121
     {
@@ -201,4 +190,50 @@ TEST(Repair, AValueDamagedInsideARecordIsEmptiedAndNoted)
     EXPECT_TRUE(report.Summary().contains("Values that could not be right: 1, emptied"));
     EXPECT_EQ(NotesByDay(path).at(250), "row-250 [repair: DaylightHours could not be read]");
     EXPECT_EQ(CountRows(path, "table1"), DaysInYear);
+}
+
+TEST(Repair, RebuildsADamagedFileKeepingTheReadableRecords)
+{
+    constexpr int Rows = 300;
+    const QString path = MakeYearFile("repair", Rows);
+    EXPECT_TRUE(RepairDB(path)); // a sound file is left as it is
+    EXPECT_FALSE(QFileInfo::exists(QDir(QFileInfo(path).absolutePath()).filePath("2024.BAD")));
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(path));
+        ASSERT_TRUE(db.Execute("delete from table1 where dbid > 295"));
+    }
+
+    // Zero the page that holds the middle record.
+    const QByteArray bytes = testenv::FileBytes(path);
+    const int pageSize = PageSize(bytes);
+    Overwrite(path, PageStart(bytes, "row-150"), QByteArray(pageSize, '\0'));
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(path));
+        ASSERT_FALSE(CheckIntegrity(db));
+    }
+
+    const DbResult repaired = RepairDB(path);
+    ASSERT_TRUE(repaired) << repaired.Message.toStdString();
+    Database db;
+    ASSERT_TRUE(db.Open(path));
+    EXPECT_TRUE(CheckIntegrity(db));
+    RowSet rows;
+    ASSERT_TRUE(db.Query("select notes from table1 order by dbid", rows));
+    const int kept = int(rows.Rows.size());
+    EXPECT_LT(kept, 295);
+    EXPECT_GT(kept, 295 - pageSize / 100); // only the records of one page are lost
+    EXPECT_EQ(rows.Rows.front().front(), QVariant("row-001"));
+    EXPECT_EQ(rows.Rows.back().front(), QVariant("row-295"));
+    EXPECT_TRUE(QFileInfo::exists(QDir(QFileInfo(path).absolutePath()).filePath("2024.BAD")));
+
+    // Numbering goes on after the highest record number, not after the last one kept.
+    DataControl data;
+    data.SetDatabaseName(path);
+    data.SetRecordSource("select * from table1");
+    ASSERT_TRUE(data.Refresh());
+    ASSERT_TRUE(data.AddNew());
+    ASSERT_TRUE(data.Update());
+    EXPECT_EQ(data.LastModified().toInt(), Rows + 1);
 }

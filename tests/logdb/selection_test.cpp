@@ -27,19 +27,7 @@ protected:
         EXPECT_TRUE(s.Refused.isEmpty()) << s.Refused.join('|').toStdString();
         if (caption)
             *caption = s.Caption;
-        return Ids(s.RecordSource);
-    }
-
-    static std::vector<int> Ids(const QString& recordSource)
-    {
-        DataControl data;
-        data.SetDatabaseName(*Path);
-        data.SetRecordSource(recordSource);
-        EXPECT_TRUE(data.Refresh());
-        std::vector<int> ids;
-        for (int i = 0; i < data.RecordCount(); ++i, data.MoveNext())
-            ids.push_back(data.Field("DBID").toInt());
-        return ids;
+        return RecordIds(*Path, s.RecordSource);
     }
 
     static std::vector<int> Plain(const QString& where)
@@ -175,5 +163,5 @@ TEST_F(Selecting, RefusedValuesLeaveTheLogAndTheLastResultAlone)
     EXPECT_TRUE(clock.Error.startsWith("Either Major Between, first box: "))
         << clock.Error.toStdString();
     EXPECT_EQ(CountRows(*Path, "table1"), 366);
-    EXPECT_EQ(Ids("select * from table3 order by juliandate"), before);
+    EXPECT_EQ(RecordIds(*Path, "select * from table3 order by juliandate"), before);
 }

@@ -1,10 +1,13 @@
 #include "support/testenv.h"
 
 #include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <cstdlib>
 #include <memory>
+
+#include <gtest/gtest.h>
 
 namespace {
 std::unique_ptr<QTemporaryDir>& RootDir()
@@ -45,6 +48,20 @@ QString FreshDir(const QString& name)
     dir.removeRecursively();
     QDir().mkpath(dir.path());
     return dir.path();
+}
+
+QByteArray FileBytes(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+void WriteFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    EXPECT_EQ(file.write(bytes), bytes.size()) << path.toStdString();
 }
 
 } // namespace testenv

@@ -2,6 +2,7 @@
 // test reads or writes the user's settings or log files.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace testenv {
@@ -11,4 +12,8 @@ void Isolate();
 QString Root();
 // A fresh empty folder below the root.
 QString FreshDir(const QString& name);
+// The whole content of a file; a test failure when it cannot be read.
+QByteArray FileBytes(const QString& path);
+// Writes the bytes as the whole content of the file; a test failure when it cannot be written.
+void WriteFile(const QString& path, const QByteArray& bytes = {});
 } // namespace testenv
