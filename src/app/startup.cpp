@@ -3,6 +3,7 @@
 #include "app/appstate.h"
 #include "app/settingsio.h"
 #include "astro/timebase.h"
+#include "logdb/logfiles.h"
 #include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/singleinstance.h"
@@ -75,10 +76,13 @@ StartOutcome StartUp(AppState& app, const QStringList& arguments, SingleInstance
         return StartOutcome::BadSetting;
     }
     s.CurLoc = s.DefaultLocation();
-    if (ProgramFolder::Path().isEmpty())
+    const QString folder = ProgramFolder::Path();
+    if (folder.isEmpty())
         app.Messages.MsgBox(QStringLiteral("The program folder for the fishing log and the help "
                                            "cannot be created. Check that your home folder is "
                                            "writable, or set QUILLMERE_HOME to a folder that is."),
                             MsgButtons::OK, QStringLiteral("Quillmere"), MsgIcon::Exclamation);
+    else
+        CleanLeftovers(folder); // what a crash of a create or compaction left behind
     return StartOutcome::Run;
 }

@@ -42,6 +42,21 @@ TEST(StartUp, FirstStartWritesInitialValuesAndMakesTheDefaultLocationCurrent)
     qunsetenv("QUILLMERE_NOW");
 }
 
+// A create that a crash interrupted leaves only forecasts under a temporary name: the next
+// start removes it.
+TEST(StartUp, RemovesWhatAnInterruptedCreateLeft)
+{
+    NeverStarted();
+    const QString leftover = ProgramFolder::File("2031.mdb.creating");
+    QFile file(leftover);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("half a year of forecasts");
+    file.close();
+    AppState app;
+    ASSERT_EQ(Start(app), StartOutcome::Run);
+    EXPECT_FALSE(QFile::exists(leftover));
+}
+
 TEST(StartUp, AnyArgumentResetsToTheDefaultsTable)
 {
     NeverStarted();
