@@ -159,7 +159,7 @@ std::variant<ForecastPlace, UsageError> PlaceOf(const LogRequest& r)
     std::vector<std::string> args = {"events", "--year", std::to_string(r.Year)};
     for (const char* name : {"--location", "--lon", "--lat", "--zone", "--name", "--dst"}) {
         if (const auto it = r.Options.find(name); it != r.Options.end()) {
-            args.push_back(name);
+            args.emplace_back(name);
             if (std::string(name) != "--dst")
                 args.push_back(it->second);
         }
@@ -281,6 +281,7 @@ std::string TableAsCsv(const LogTable& table)
 {
     const auto line = [](const std::vector<QString>& texts) {
         std::vector<std::string> fields;
+        fields.reserve(texts.size());
         for (const QString& text : texts)
             fields.push_back(Std(text));
         return CsvLine(fields);
