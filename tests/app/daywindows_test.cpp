@@ -1,7 +1,7 @@
-#include "app/appstate.h"
 #include "app/daycellwidget.h"
 #include "app/frmcalendar.h"
 #include "app/frmyearcal.h"
+#include "app/mainwindowtest.h"
 #include "app/settingsio.h"
 #include "views/daygraph.h"
 #include "views/frmdetail.h"
@@ -20,20 +20,10 @@
 
 namespace {
 
-// The main window over the first-start settings on 10 March 2024, with the windows it opens.
-class DayWindows : public ::testing::Test {
+// The main window on 10 March 2024, with the windows it opens.
+class DayWindows : public MainWindowTest {
 protected:
-    void SetUp() override
-    {
-        qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
-        SettingsStore().DeleteAll();
-        WriteFirstStartValues(App.Store);
-        LoadSettings(App.Config, App.Store);
-        App.Config.CurLoc = App.Config.DefaultLocation();
-        W = std::make_unique<FrmCalendar>(App);
-        W->show();
-    }
-    void TearDown() override { qunsetenv("QUILLMERE_NOW"); }
+    DayWindows() : MainWindowTest("2024-03-10T07:30:00") {}
 
     // Runs `act` on the modal window the next step opens, then lets the step return.
     template <typename Window> void WithModal(std::function<void(Window&)> act)
@@ -46,10 +36,6 @@ protected:
                 w->close();
         });
     }
-    std::string Text(int label) const { return W->Label[std::size_t(label)]->text().toStdString(); }
-
-    AppState App;
-    std::unique_ptr<FrmCalendar> W;
 };
 
 // "&Yearly" stands between "DataBase" and "&Options" in the menu bar.

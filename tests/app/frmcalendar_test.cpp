@@ -1,6 +1,6 @@
-#include "app/appstate.h"
 #include "app/daycellwidget.h"
 #include "app/frmcalendar.h"
+#include "app/mainwindowtest.h"
 #include "app/settingsio.h"
 #include "astro/timebase.h"
 
@@ -15,22 +15,10 @@
 
 namespace {
 
-// A window over the first-start settings at a fixed "now" (10 March 2024, 07:30), shown.
-class Window : public ::testing::Test {
+// The main window on 10 March 2024, 07:30.
+class Window : public MainWindowTest {
 protected:
-    void SetUp() override
-    {
-        qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
-        SettingsStore().DeleteAll();
-        WriteFirstStartValues(App.Store);
-        LoadSettings(App.Config, App.Store);
-        App.Config.CurLoc = App.Config.DefaultLocation();
-        W = std::make_unique<FrmCalendar>(App);
-        W->show();
-    }
-    void TearDown() override { qunsetenv("QUILLMERE_NOW"); }
-
-    std::string Text(int label) const { return W->Label[std::size_t(label)]->text().toStdString(); }
+    Window() : MainWindowTest("2024-03-10T07:30:00") {}
     int FramedCell() const
     {
         for (int i = 0; i < 37; ++i)
@@ -38,16 +26,6 @@ protected:
                 return i;
         return -1;
     }
-    void SetMonth(int year, int month)
-    {
-        App.Cal.CurYear = std::int16_t(year);
-        App.Cal.CurMonth = std::int16_t(month);
-        W->VsbYear->setValue(year);
-        W->RefreshMonth();
-    }
-
-    AppState App;
-    std::unique_ptr<FrmCalendar> W;
 };
 
 TEST_F(Window, OpensOnTodayAtNoon)

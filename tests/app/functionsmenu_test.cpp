@@ -1,7 +1,7 @@
-#include "app/appstate.h"
 #include "app/calendarpage.h"
 #include "app/frmcalendar.h"
 #include "app/frmprint.h"
+#include "app/mainwindowtest.h"
 #include "app/settingsio.h"
 #include "calendar/calendar.h"
 #include "support/pdftext.h"
@@ -24,30 +24,14 @@
 
 namespace {
 
-// The main window at Alexandria, LA (the first-start default) on a fixed "now", shown.
-class Functions : public ::testing::Test {
+// The main window at Alexandria, LA (the first-start default) in February 2024.
+class Functions : public MainWindowTest {
 protected:
-    void SetUp() override
-    {
-        qputenv("QUILLMERE_NOW", "2024-02-10T07:30:00");
-        SettingsStore().DeleteAll();
-        WriteFirstStartValues(App.Store);
-        LoadSettings(App.Config, App.Store);
-        App.Config.CurLoc = App.Config.DefaultLocation();
-        W = std::make_unique<FrmCalendar>(App);
-        W->show();
-    }
+    Functions() : MainWindowTest("2024-02-10T07:30:00") {}
     void TearDown() override
     {
-        qunsetenv("QUILLMERE_NOW");
+        MainWindowTest::TearDown();
         qunsetenv("QUILLMERE_PRINT_PDF");
-    }
-    void SetMonth(int year, int month)
-    {
-        App.Cal.CurYear = std::int16_t(year);
-        App.Cal.CurMonth = std::int16_t(month);
-        W->VsbYear->setValue(year);
-        W->RefreshMonth();
     }
     // Prints into a fresh PDF file and returns its path.
     QString PrintTo(const QString& name)
@@ -57,9 +41,6 @@ protected:
         return path;
     }
     static QString Screenshots() { return QStringLiteral(QUILLMERE_SCREENSHOTS); }
-
-    AppState App;
-    std::unique_ptr<FrmCalendar> W;
 };
 
 template <typename T> T* OpenWindow()
