@@ -2,8 +2,8 @@
 // reading the records and computing every grouping.
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
+#include "db/datacontrol.h"
 #include "logdb/catchdays.h"
-#include "logdb/datacontrol.h"
 #include "logdb/filldata.h"
 #include "logdb/logfiles.h"
 

@@ -3,7 +3,7 @@
 // command line walk them (positions at 0h of neighbouring days reused); and the command
 // line's whole row, with the year table's marks.
 #include "astro/timebase.h"
-#include "cli/forecastrun.h"
+#include "cli/common/forecastrun.h"
 
 #include <benchmark/benchmark.h>
 

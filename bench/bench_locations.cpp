@@ -1,8 +1,8 @@
 // How quickly the location editor opens: the window built, the location shown and the state
 // list read from the city database (offscreen), and the city list of one state.
-#include "app/location.h"
-#include "locations/frmlocation.h"
-#include "platform/messageservice.h"
+#include "model/location.h"
+#include "ui/common/messageservice.h"
+#include "ui/locations/frmlocation.h"
 
 #include <QApplication>
 #include <QComboBox>

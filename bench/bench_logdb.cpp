@@ -6,13 +6,13 @@
 // record browser, and the report of the whole year.
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
-#include "logdb/datacontrol.h"
+#include "db/datacontrol.h"
 #include "logdb/filldata.h"
-#include "logdb/frmtable1.h"
 #include "logdb/logfiles.h"
 #include "logdb/logreport.h"
 #include "logdb/querybuilder.h"
-#include "platform/messageservice.h"
+#include "ui/common/messageservice.h"
+#include "ui/log/frmtable1.h"
 
 #include <QApplication>
 #include <QCheckBox>

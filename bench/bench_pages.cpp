@@ -1,12 +1,12 @@
 // Cost of the printed month views: a month's calendar page (its 29..31 forecasts, the drawing
 // and the PDF file written and renamed into place), the month at a glance as a PDF, and the
 // monthly list's lines.
-#include "app/calendarpage.h"
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
-#include "platform/pages.h"
-#include "views/glancechart.h"
-#include "views/monthlylist.h"
+#include "pages/calendarpage.h"
+#include "pages/glancechart.h"
+#include "pages/pages.h"
+#include "viewrules/monthlylist.h"
 
 #include <QDir>
 #include <QGuiApplication>

@@ -3,12 +3,12 @@
 // moon picture, and the repaint); a pointer move along the day graph (Sun and Moon at that
 // moment and the strips and read-outs repainted); filling the year calendar (twelve months and
 // the repaint). All offscreen.
-#include "app/appstate.h"
-#include "app/frmcalendar.h"
-#include "app/frmyearcal.h"
-#include "app/settingsio.h"
 #include "astro/timebase.h"
-#include "views/daygraph.h"
+#include "platform/settingsio.h"
+#include "ui/calendar/frmcalendar.h"
+#include "ui/calendar/frmyearcal.h"
+#include "ui/common/appstate.h"
+#include "ui/views/daygraph.h"
 
 #include <QApplication>
 #include <QLabel>

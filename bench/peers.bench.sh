@@ -12,7 +12,7 @@ fi
 [ -f "$src/bench/peers/libnova_peer.c" ] || { echo "peers.bench.sh: source tree not found from $here" >&2; exit 1; }
 peers="$src/bench/peers"
 out="$src/build/peers"
-ours=${1:-${QUILLMERE_FORECAST:-$here/../src/cli/quillmere-forecast}}
+ours=${1:-${QUILLMERE_FORECAST:-$here/../bin/quillmere-forecast}}
 lat=31.25 lon=-92.42 zone=6   # Alexandria, Louisiana
 mkdir -p "$out"
 rm -f "$out"/*.csv   # no stale results from an earlier run

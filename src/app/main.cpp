@@ -1,8 +1,8 @@
 // Quillmere: a fishing calendar. Any command-line argument resets the stored settings.
-#include "app/appstate.h"
-#include "app/frmcalendar.h"
 #include "app/startup.h"
 #include "platform/singleinstance.h"
+#include "ui/calendar/frmcalendar.h"
+#include "ui/common/appstate.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -1,13 +1,13 @@
 #include "app/startup.h"
 
-#include "app/appstate.h"
-#include "app/settingsio.h"
 #include "astro/timebase.h"
 #include "logdb/logfiles.h"
 #include "platform/clock.h"
 #include "platform/programfolder.h"
+#include "platform/settingsio.h"
 #include "platform/singleinstance.h"
 #include "platform/systemlocale.h"
+#include "ui/common/appstate.h"
 
 #include <cstdio>
 

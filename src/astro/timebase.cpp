@@ -1,6 +1,6 @@
 #include "astro/timebase.h"
 
-#include "platform/vbformat.h"
+#include "text/vbformat.h"
 
 #include <chrono>
 #include <cmath>

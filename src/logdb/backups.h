@@ -3,7 +3,7 @@
 // changed since its last copy. The last ten copies of each year are kept.
 #pragma once
 
-#include "logdb/database.h"
+#include "db/database.h"
 
 #include <QDateTime>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "logdb/catchdays.h"
 
-#include "logdb/storedforms.h"
+#include "db/storedforms.h"
 
 #include <QDate>
 #include <QFileInfo>

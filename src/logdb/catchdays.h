@@ -1,8 +1,8 @@
 // Reads what the catch statistics need from year files.
 #pragma once
 
+#include "db/database.h"
 #include "logdb/catchstats.h"
-#include "logdb/database.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #include "logdb/catchstats.h"
 
-#include "logdb/storedforms.h"
+#include "db/storedforms.h"
 
 #include <algorithm>
 #include <cctype>

@@ -2,8 +2,8 @@
 
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
-#include "logdb/datacontrol.h"
-#include "platform/vbformat.h"
+#include "db/datacontrol.h"
+#include "text/vbformat.h"
 
 namespace {
 

@@ -1,8 +1,7 @@
-// Filling a new year file with that year's forecasts, and the enabled state of the log
-// windows' controls.
+// Filling a new year file with that year's forecasts.
 #pragma once
 
-#include "logdb/database.h"
+#include "db/database.h"
 
 #include <cstdint>
 #include <functional>
@@ -10,9 +9,7 @@
 class Astronomy;
 class Calendar;
 class DataControl;
-class QAction;
 class QString;
-class QWidget;
 
 // Told of each day as it is computed: the day of the year (1..days) and the number of days.
 using FillProgress = std::function<void(int day, int days)>;
@@ -37,9 +34,3 @@ DbResult FillYear(Astronomy& engine, const Calendar& cal, std::int32_t daylightB
 DbResult FillYearFile(DataControl& data0, const QString& path, Astronomy& engine,
                       const Calendar& cal, std::int32_t daylightBias,
                       const FillProgress& progress = {});
-
-// The log windows switch between browsing and editing through these two.
-void DisableControl(QWidget* control);
-void EnableControl(QWidget* control);
-void DisableControl(QAction* control);
-void EnableControl(QAction* control);

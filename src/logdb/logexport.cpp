@@ -1,7 +1,7 @@
 #include "logdb/logexport.h"
 
 #include "astro/timebase.h"
-#include "logdb/storedforms.h"
+#include "db/storedforms.h"
 
 #include <array>
 

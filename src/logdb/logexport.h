@@ -2,7 +2,7 @@
 // clock times in their display forms, hours of events the day does not have left empty.
 #pragma once
 
-#include "logdb/database.h"
+#include "db/database.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "logdb/logfiles.h"
 
-#include "logdb/jetsql.h"
+#include "db/jetsql.h"
 #include "logdb/logrepair.h"
 
 #include <QDir>

@@ -3,7 +3,7 @@
 // returns what happened so that the "Database Functions" window can say it.
 #pragma once
 
-#include "logdb/database.h"
+#include "db/database.h"
 
 #include <QString>
 #include <QStringList>

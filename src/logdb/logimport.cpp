@@ -1,8 +1,8 @@
 #include "logdb/logimport.h"
 
+#include "db/storedforms.h"
 #include "logdb/csvread.h"
 #include "logdb/logfiles.h"
-#include "logdb/storedforms.h"
 
 #include <QSqlQuery>
 #include <algorithm>

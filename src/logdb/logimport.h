@@ -4,7 +4,7 @@
 // into the year's records by date in one transaction.
 #pragma once
 
-#include "logdb/database.h"
+#include "db/database.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 #include "logdb/logrepair.h"
 
-#include "logdb/database.h"
+#include "db/database.h"
 #include "logdb/pagesalvage.h"
 
 #include <QFile>

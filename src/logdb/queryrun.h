@@ -1,7 +1,7 @@
 // Running the query builder's chain of select-into steps on a year file.
 #pragma once
 
-#include "logdb/database.h"
+#include "db/database.h"
 #include "logdb/querybuilder.h"
 
 #include <QStringList>

@@ -1,7 +1,7 @@
 #include "logdb/reportlines.h"
 
 #include "astro/timebase.h"
-#include "platform/vbformat.h"
+#include "text/vbformat.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // The main window's "DataBase" entry: the log's "Database Functions" window, modal, for the
 // shown year, with the main window out of view until it closes.
-#include "app/appstate.h"
-#include "app/frmcalendar.h"
 #include "app/startup.h"
-#include "logdb/frmselectdb.h"
 #include "platform/singleinstance.h"
+#include "ui/calendar/frmcalendar.h"
+#include "ui/common/appstate.h"
+#include "ui/log/frmselectdb.h"
 
 #include <QApplication>
 #include <QMenuBar>

@@ -1,10 +1,10 @@
 // "Edit A Location": the main window hides, the location editor opens on the chosen location,
 // and whichever way it closes the main window comes back showing the location as stored.
-#include "app/appstate.h"
-#include "app/frmcalendar.h"
 #include "app/startup.h"
-#include "locations/frmlocation.h"
 #include "platform/singleinstance.h"
+#include "ui/calendar/frmcalendar.h"
+#include "ui/common/appstate.h"
+#include "ui/locations/frmlocation.h"
 
 #include <QApplication>
 #include <QComboBox>

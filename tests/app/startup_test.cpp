@@ -1,8 +1,8 @@
-#include "app/appstate.h"
-#include "app/frmcalendar.h"
 #include "app/startup.h"
 #include "platform/programfolder.h"
 #include "platform/singleinstance.h"
+#include "ui/calendar/frmcalendar.h"
+#include "ui/common/appstate.h"
 
 #include <QApplication>
 #include <QDir>

@@ -8,8 +8,8 @@
 //
 // KILL_DAY is the day of the fill at which to die (0: none); KILL_STEP the file step
 // (remove, copy, sync, rename) before which to die (0: none).
-#include "cli/forecastrun.h"
-#include "logdb/datacontrol.h"
+#include "cli/common/forecastrun.h"
+#include "db/datacontrol.h"
 #include "logdb/filldata.h"
 #include "logdb/logfiles.h"
 

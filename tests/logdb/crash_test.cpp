@@ -1,10 +1,10 @@
 // Crash safety of the log's files: a child process runs the real create, compact and save
 // code and is killed with SIGKILL at many points; the folder must then hold no year file or a
 // whole one with every saved entry, and the program must open it.
-#include "logdb/datacontrol.h"
-#include "logdb/filledyear.h"
+#include "db/datacontrol.h"
 #include "logdb/logfiles.h"
-#include "logdb/logfixture.h"
+#include "support/filledyear.h"
+#include "support/logfixture.h"
 #include "support/testenv.h"
 
 #include <QDir>

@@ -2,11 +2,11 @@
 // daylight-saving days, the missing events, and nothing kept when a record cannot be saved.
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
-#include "logdb/datacontrol.h"
+#include "db/datacontrol.h"
+#include "db/storedforms.h"
 #include "logdb/filldata.h"
-#include "logdb/filledyear.h"
 #include "logdb/logfiles.h"
-#include "logdb/storedforms.h"
+#include "support/filledyear.h"
 #include "support/testenv.h"
 
 #include <QDir>

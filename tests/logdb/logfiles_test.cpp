@@ -1,7 +1,7 @@
 // The year files on disk: listing, creating, compacting and protecting them.
-#include "logdb/datacontrol.h"
+#include "db/datacontrol.h"
 #include "logdb/logfiles.h"
-#include "logdb/logfixture.h"
+#include "support/logfixture.h"
 #include "support/testenv.h"
 
 #include <QDir>

@@ -3,10 +3,10 @@
 // overwritten; every record whose page is intact must come back, the message must count
 // them, and no value outside its column's range may remain. Checked with plain SQL. A whole
 // leaf page zeroed loses only that page's records.
-#include "logdb/datacontrol.h"
-#include "logdb/filledyear.h"
+#include "db/datacontrol.h"
 #include "logdb/logfiles.h"
-#include "logdb/logfixture.h"
+#include "support/filledyear.h"
+#include "support/logfixture.h"
 #include "support/testenv.h"
 
 #include <QDir>

@@ -1,9 +1,9 @@
 // "Select Data Where" on a real year of forecasts, checked against the same questions asked
 // of the file in plain SQLite and against orders sorted here.
-#include "logdb/datacontrol.h"
-#include "logdb/filledyear.h"
-#include "logdb/logfixture.h"
+#include "db/datacontrol.h"
 #include "logdb/queryrun.h"
+#include "support/filledyear.h"
+#include "support/logfixture.h"
 
 #include <gtest/gtest.h>
 

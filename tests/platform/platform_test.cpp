@@ -1,10 +1,8 @@
 #include "platform/clock.h"
-#include "platform/messageservice.h"
 #include "platform/programfolder.h"
 #include "platform/settingsstore.h"
 #include "platform/singleinstance.h"
 #include "platform/systemlocale.h"
-#include "platform/twips.h"
 #include "support/testenv.h"
 
 #include <QDir>
@@ -56,28 +54,6 @@ TEST(SingleInstance, SecondCopyIsRefusedUntilTheFirstEnds)
     EXPECT_TRUE(SingleInstance(QStringLiteral("lock-test")).Acquire());
 }
 
-TEST(MessageService, ScriptedAnswersAndTheRecordOfWhatWasShown)
-{
-    MessageService m;
-    m.Script(
-        [](const ShownMessage& msg) {
-            return msg.Buttons == MsgButtons::YesNo ? MsgResult::No : MsgResult::OK;
-        },
-        [](const ShownInput&) { return std::optional<QString>("2004"); });
-    EXPECT_EQ(m.MsgBox("Confirm?", MsgButtons::YesNo, "Delete"), MsgResult::No);
-    EXPECT_EQ(m.MsgBox("Done"), MsgResult::OK);
-    EXPECT_EQ(m.InputBox("Year?", "Create", "2024"), "2004");
-    ASSERT_EQ(m.Shown().size(), 2u);
-    EXPECT_EQ(m.Shown()[0].Title, "Delete");
-    EXPECT_EQ(m.Shown()[1].Title, "Quillmere");
-    EXPECT_EQ(m.Shown()[1].Buttons, MsgButtons::OK);
-    EXPECT_EQ(m.Asked().at(0).DefaultText, "2024");
-
-    MessageService cancelled;
-    cancelled.Script({}, [](const ShownInput&) { return std::optional<QString>(); });
-    EXPECT_EQ(cancelled.InputBox("Year?"), "");
-}
-
 TEST(Clock, FixedByEnvironment)
 {
     qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
@@ -93,15 +69,4 @@ TEST(ProgramFolder, CreatedAndSeededWithoutOverwritingTheUsersFiles)
     EXPECT_EQ(ProgramFolder::Path(), home);
     EXPECT_TRUE(QDir(home).exists());
     EXPECT_EQ(ProgramFolder::File("2004.mdb"), home + "/2004.mdb");
-}
-
-TEST(Twips, FifteenToAPixelAndBgrColours)
-{
-    EXPECT_EQ(Twips(6390), 426);
-    EXPECT_EQ(Twips(300), 20);
-    EXPECT_EQ(PixelsToTwips(20), 300);
-    EXPECT_EQ(TwipsRect(15, 30, 150, 300), QRect(1, 2, 10, 20));
-    EXPECT_EQ(VbColor(0x0000FF), QColor(255, 0, 0)); // 0x00BBGGRR: red is the low byte
-    EXPECT_EQ(VbColor(0xC0C0C0), QColor(192, 192, 192));
-    EXPECT_EQ(ToVbColor(QColor(0, 0, 255)), 0xFF0000u);
 }

@@ -1,0 +1,206 @@
+// quillmere-forecast: the day forecasts, the year's events and the monthly list of the
+// program's engine, for scripts and the terminal.
+#include "calendar/calendar.h"
+#include "cli/common/arguments.h"
+#include "cli/common/forecastrun.h"
+#include "cli/common/formats.h"
+#include "cli/forecast/pdfpages.h"
+#include "model/settings.h"
+#include "platform/clock.h"
+#include "platform/settingsio.h"
+#include "platform/settingsstore.h"
+#include "platform/systemlocale.h"
+#include "text/version.h"
+#include "viewrules/monthlylist.h"
+
+#include <QCoreApplication>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <iostream>
+
+namespace {
+
+struct NamedPlace {
+    ForecastPlace Place;
+    std::string Name;
+};
+
+// The location of the request: coordinates as given, or one of the ten stored locations
+// (the first-start values when the program has never run; they stay in memory, since the
+// command line never writes the settings).
+NamedPlace PlaceOf(const ForecastRequest& r)
+{
+    NamedPlace p;
+    if (r.AtCoordinates) {
+        p.Place.Longitude = r.AtCoordinates->Longitude;
+        p.Place.Latitude = r.AtCoordinates->Latitude;
+        p.Place.TimeZone = r.AtCoordinates->TimeZone;
+        p.Name = r.AtCoordinates->Name;
+    } else {
+        SettingsStore store = SettingsStore::ReadOnly();
+        if (!store.Contains(QStringLiteral("Usr1Name")))
+            WriteFirstStartValues(store);
+        Settings s;
+        LoadSettings(s, store);
+        const Location& loc =
+            s.Locations[std::size_t(r.StoredLocation.value_or(s.DefaultLocation()))];
+        p.Place.Longitude = loc.Longitude;
+        p.Place.Latitude = loc.Latitude;
+        p.Place.TimeZone = loc.TimeZone;
+        p.Place.AmPm = s.AmPm();
+        p.Name = loc.Name;
+    }
+    p.Place.DstOffsetDays = r.Dst ? SystemDaylightBias() / 1440.0 : 0.0;
+    p.Place.HourMinutes = r.HourMinutes;
+    return p;
+}
+
+std::string Caption(const NamedPlace& p)
+{
+    char text[160];
+    std::snprintf(text, sizeof text, "%s  %.2f%c %.2f%c  zone %d%s", p.Name.c_str(),
+                  std::abs(p.Place.Longitude), p.Place.Longitude < 0 ? 'E' : 'W',
+                  std::abs(p.Place.Latitude), p.Place.Latitude < 0 ? 'S' : 'N', p.Place.TimeZone,
+                  p.Place.DstOffsetDays != 0.0 ? "  daylight saving" : "");
+    return text;
+}
+
+// Tells the place from others in iCalendar UIDs: "92.4200W-31.2500N-z6".
+std::string PlaceId(const ForecastPlace& p)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, "%.4f%c-%.4f%c-z%d", std::abs(p.Longitude),
+                  p.Longitude < 0 ? 'E' : 'W', std::abs(p.Latitude), p.Latitude < 0 ? 'S' : 'N',
+                  p.TimeZone);
+    return text;
+}
+
+std::string UtcStampNow()
+{
+    const QDateTime now = Clock::Now().toUTC();
+    return now.toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'")).toStdString();
+}
+
+std::string Days(const ForecastRequest& r, const NamedPlace& p)
+{
+    ForecastRun run(p.Place);
+    std::vector<DayRow> rows;
+    rows.reserve(std::size_t(r.Days));
+    using namespace std::chrono;
+    sys_days day{year{r.Year} / month{unsigned(r.Month)} / unsigned(r.Day)};
+    for (int i = 0; i < r.Days; ++i, day += days{1}) {
+        const year_month_day ymd{day};
+        rows.push_back(
+            run.Day(int(ymd.year()), int(unsigned(ymd.month())), int(unsigned(ymd.day()))));
+    }
+    switch (r.Format) {
+    case OutputFormat::Csv:
+        return DaysAsCsv(rows);
+    case OutputFormat::Json:
+        return DaysAsJson(rows);
+    case OutputFormat::Ics:
+        return DaysAsIcs(rows, {p.Name, PlaceId(p.Place)}, UtcStampNow());
+    case OutputFormat::Text:
+        break;
+    }
+    return DaysAsText(rows, Caption(p));
+}
+
+std::string Events(const ForecastRequest& r, const NamedPlace& p)
+{
+    ForecastRun run(p.Place);
+    const auto events = run.Events(r.Year);
+    return r.Format == OutputFormat::Json ? EventsAsJson(r.Year, events)
+                                          : EventsAsText(r.Year, events, Caption(p));
+}
+
+std::string Month(const ForecastRequest& r, const NamedPlace& p)
+{
+    ForecastRun run(p.Place);
+    Calendar& cal = run.Cal;
+    cal.CurYear = std::int16_t(r.Year);
+    cal.CurMonth = std::int16_t(r.Month);
+    cal.SetYearTables(run.Engine, run.SouthernHemisphere);
+    std::string out = "Monthly Data for " + p.Name + "\n" + MonthAbbrev(r.Month) + " " +
+                      std::to_string(r.Year) + "\n\n" + MonthlyListHeadings[0] + "\n" +
+                      MonthlyListHeadings[1] + "\n";
+    for (const std::string& line : MonthlyListLines(
+             run.Engine, cal.MonthStartJD[std::size_t(r.Month)], cal.MonthDays, p.Place.AmPm))
+        out += line + "\n";
+    return out;
+}
+
+// Writes the whole output; a full disk or a closed pipe is reported in one line and the run
+// fails.
+int Write(const std::string& text)
+{
+    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
+        return 0;
+    const int error = errno;
+    std::fprintf(stderr, "quillmere-forecast: cannot write the output: %s\n", std::strerror(error));
+    return 1;
+}
+
+// The text output of the commands that have one (calendar and glance print only).
+std::string Output(const ForecastRequest& r, const NamedPlace& place)
+{
+    switch (r.What) {
+    case Command::Days:
+        return Days(r, place);
+    case Command::Events:
+        return Events(r, place);
+    case Command::Month:
+        return Month(r, place);
+    case Command::CalendarPage:
+    case Command::Glance:
+        break;
+    }
+    return "";
+}
+
+int Run(int argc, char** argv)
+{
+    // A closed pipe then fails the write with EPIPE, which is reported, instead of ending the
+    // program by a signal.
+    std::signal(SIGPIPE, SIG_IGN);
+    const std::vector<std::string> args(argv + 1, argv + argc);
+    const QDate today = Clock::Now().date();
+    const auto parsed = ParseArguments(args, today.year(), today.month());
+    const auto app = ApplicationFor(std::get_if<ForecastRequest>(&parsed), argc, argv);
+    if (std::holds_alternative<HelpRequested>(parsed))
+        return Write(UsageText);
+    if (std::holds_alternative<VersionRequested>(parsed))
+        return Write(VersionLine("quillmere-forecast"));
+    if (const auto* e = std::get_if<UsageError>(&parsed)) {
+        std::cerr << "quillmere-forecast: " << e->Message << "\n";
+        return 2;
+    }
+    const ForecastRequest& r = std::get<ForecastRequest>(parsed);
+    const NamedPlace place = PlaceOf(r);
+    if (!r.Pdf.empty()) {
+        const std::string error = WritePdfPages(r, place.Place, place.Name);
+        if (!error.empty())
+            std::cerr << "quillmere-forecast: " << error << "\n";
+        return error.empty() ? 0 : 1;
+    }
+    return Write(Output(r, place));
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return Run(argc, argv);
+    } catch (const SettingError& e) {
+        std::cerr << "quillmere-forecast: the stored setting " << e.Key << " holds \"" << e.Text
+                  << "\", which is not " << e.Expected
+                  << "; start Quillmere with any argument to reset the settings\n";
+    } catch (const std::exception& e) {
+        std::cerr << "quillmere-forecast: " << e.what() << "\n";
+    }
+    return 1;
+}

@@ -1,0 +1,570 @@
+#include "cli/log/logcommands.h"
+
+#include "calendar/calendar.h"
+#include "cli/common/arguments.h"
+#include "cli/common/forecastrun.h"
+#include "cli/log/logquery.h"
+#include "db/datacontrol.h"
+#include "logdb/backups.h"
+#include "logdb/filldata.h"
+#include "logdb/logexport.h"
+#include "logdb/logfiles.h"
+#include "logdb/logimport.h"
+#include "logdb/logreport.h"
+#include "model/settings.h"
+#include "pages/reportpage.h"
+#include "platform/clock.h"
+#include "platform/programfolder.h"
+#include "platform/settingsio.h"
+#include "platform/settingsstore.h"
+#include "platform/systemlocale.h"
+#include "text/version.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <ostream>
+
+const char* const LogUsageText =
+    R"(quillmere-log: Quillmere's fishing log on the command line.
+
+Usage:
+  quillmere-log list
+  quillmere-log create --year YYYY [LOCATION] [--dst]
+  quillmere-log compact --year YYYY
+  quillmere-log repair --year YYYY
+  quillmere-log restore --year YYYY
+  quillmere-log export --year YYYY [--format csv|json]
+  quillmere-log query --year YYYY [CONDITIONS] [--sort S] [--format text|csv|json]
+  quillmere-log report --year YYYY [CONDITIONS] [--sort S] [--pdf FILE]
+  quillmere-log import --year YYYY FILE.csv [--skip|--overwrite]
+
+Commands:
+  list     the year files of the program's folder (YYYY.mdb), one name a line.
+  create   makes YYYY.mdb and fills it with the year's forecasts at the location, all at
+           once: the file appears whole or not at all. An existing file is left alone.
+  compact  compacts YYYY.mdb; the file before compaction is kept as YYYY.BAK.
+  repair   checks YYYY.mdb and, when it is damaged, rebuilds it from every record that can
+           still be read; the damaged file is kept as YYYY.BAD.
+  restore  makes the copy kept by an interrupted compaction (NewYYYY.mdb) or the backup
+           YYYY.BAK the year's file again, when YYYY.mdb is missing.
+  export   every record of YYYY.mdb in date order, every column; dates as mm/dd/yyyy,
+           times as the browser shows them; an hour of an event the day does not have
+           (moonrise, moonset, minor) is empty.
+  query    the days of YYYY.mdb that meet the conditions, as the record browser's "Select
+           Data Where" finds them (the result is left in the file's Table3): as text (the
+           order, the report's heading and one line a day), or every column as CSV or JSON.
+  report   the report of those days as printed: pages of 58 lines under the title, the
+           column heading and a dash line; with --pdf, printed to that PDF file.
+
+Conditions (query and report; each narrows the days, in this order):
+  --months M-M           months between, 1-12 (default: the whole year)
+  --major1 T-T           first major between two clock times, "5:00 PM-9:00 PM"
+  --weekdays D-D         days of the week between, sun..sat or 1-7 ("mon-fri");
+                         sat-sun and fri-sun are the weekends
+  --moon-age N-N         moon age between, 0-29 days
+  --illumination N-N     moon illumination between, in percent
+  --daylight N           at least N hours of daylight
+  --best                 best fishing days
+  --very-good            very good fishing days
+  --either-major T-T     either major between two clock times
+  --taken N              total taken at least N
+  --waxing, --waning     the moon waxing / waning
+  --perigee              the day of lunar perigee
+  --rated                every rated day
+  --sort S               date (default), major1, weekday, rating or taken
+  import   the catch entries of a CSV file with the columns of export (JulianDate,
+           TotalTaken, TakenWith, PeakTime, Notes; the others are ignored) into the days of
+           YYYY.mdb, all in one step, after a copy of the file goes to backups/. Every line
+           that cannot be imported (a date outside the year, an unknown column, a bad number
+           or time) and every day that already holds an entry is listed first; when there
+           is any, nothing is written unless --skip (keep those entries, import the rest)
+           or --overwrite (replace them) says what to do.
+
+Location (create only; default: the default one of your ten stored locations):
+  --location N              one of the ten stored locations, 1..10
+  --lon 92.42W --lat 31.25N --zone 6 [--name TEXT]
+                            degrees with a hemisphere letter (W/E, N/S); zone in hours
+                            west of Greenwich (5 = US Eastern, -1 = Central Europe)
+
+Options:
+  --dst            the location in daylight-saving time, as the main window's
+                   "Daylight Savings" choice
+  --format F       csv (default; a header line, CR LF line ends) or json; query also
+                   takes text, its default
+  --pdf FILE       report only: print the report into FILE
+  --skip           import: leave the days that hold an entry, import the other lines
+  --overwrite      import: replace the entries of those days too
+  --help           this text
+  --version        the program's version
+
+The program's folder is $QUILLMERE_HOME, else ~/.local/share/Quillmere. Years run from
+1900 to 2500. Bad input prints one line on stderr and exits with status 2; a failed
+operation prints one line saying what went wrong and what is kept, and exits with status 1.
+
+Examples:
+  quillmere-log create --year 2024 --location 3
+  quillmere-log export --year 2024 > 2024.csv
+  quillmere-log compact --year 2024
+  quillmere-log query --year 2024 --months 3-5 --best --weekdays sat-sun --sort major1
+  quillmere-log report --year 2024 --either-major "5:00 PM-9:00 PM" --taken 1 --pdf catch.pdf
+  quillmere-log import --year 2024 catches.csv --skip
+)";
+
+namespace {
+
+struct LogRequest {
+    std::string Command;
+    std::map<std::string, std::string> Options;
+    int Year = 0;
+};
+
+struct Streams {
+    std::ostream& Out;
+    std::ostream& Err;
+    QString Folder;
+
+    int Fail(const std::string& message) const
+    {
+        Err << "quillmere-log: " << message << "\n";
+        return 1;
+    }
+    QString YearPath(int year) const { return QDir(Folder).filePath(YearFileName(year)); }
+};
+
+std::string Std(const QString& text) { return text.toStdString(); }
+
+// The stored settings; a store the program has never written gives the first-start values,
+// kept in memory: the command line never writes the settings.
+Settings StoredSettings()
+{
+    SettingsStore store = SettingsStore::ReadOnly();
+    if (!store.Contains(QStringLiteral("Usr1Name")))
+        WriteFirstStartValues(store);
+    Settings s;
+    LoadSettings(s, store);
+    return s;
+}
+
+// The forecast place of the location options, checked by the same rules as
+// quillmere-forecast's.
+std::variant<ForecastPlace, UsageError> PlaceOf(const LogRequest& r)
+{
+    std::vector<std::string> args = {"events", "--year", std::to_string(r.Year)};
+    for (const char* name : {"--location", "--lon", "--lat", "--zone", "--name", "--dst"}) {
+        if (const auto it = r.Options.find(name); it != r.Options.end()) {
+            args.emplace_back(name);
+            if (std::string(name) != "--dst")
+                args.push_back(it->second);
+        }
+    }
+    const auto parsed = ParseArguments(args, r.Year, 1);
+    if (const auto* e = std::get_if<UsageError>(&parsed))
+        return *e;
+    const ForecastRequest& f = std::get<ForecastRequest>(parsed);
+    const Settings s = StoredSettings();
+    ForecastPlace p;
+    p.AmPm = s.AmPm();
+    if (f.AtCoordinates) {
+        p.Longitude = f.AtCoordinates->Longitude;
+        p.Latitude = f.AtCoordinates->Latitude;
+        p.TimeZone = f.AtCoordinates->TimeZone;
+    } else {
+        const Location& loc =
+            s.Locations[std::size_t(f.StoredLocation.value_or(s.DefaultLocation()))];
+        p.Longitude = loc.Longitude;
+        p.Latitude = loc.Latitude;
+        p.TimeZone = loc.TimeZone;
+    }
+    p.DstOffsetDays = f.Dst ? SystemDaylightBias() / 1440.0 : 0.0;
+    return p;
+}
+
+int List(const LogRequest&, const Streams& io)
+{
+    for (const QString& name : ListYearFiles(io.Folder))
+        io.Out << Std(name) << "\n";
+    for (const RestorableYear& kept : RestorableYears(io.Folder))
+        io.Err << "quillmere-log: " << Std(YearFileName(kept.Year))
+               << " is missing; a copy is kept as " << Std(QFileInfo(kept.Copy).fileName())
+               << " (see restore)\n";
+    return 0;
+}
+
+int Create(const LogRequest& r, const Streams& io)
+{
+    const auto place = PlaceOf(r);
+    if (const auto* e = std::get_if<UsageError>(&place)) {
+        io.Err << "quillmere-log: " << e->Message << "\n";
+        return 2;
+    }
+    ForecastRun run(std::get<ForecastPlace>(place));
+    const Calendar cal = YearCalendar(run.Engine, r.Year, run.SouthernHemisphere);
+    DataControl data0;
+    const CreateYearResult created = CreateYearFile(io.Folder, r.Year, [&](const QString& path) {
+        return FillYearFile(data0, path, run.Engine, cal, SystemDaylightBias());
+    });
+    switch (created.Outcome) {
+    case CreateYearResult::Status::AlreadyExists:
+        return io.Fail("DataBase already exists for " + std::to_string(r.Year) + "; " +
+                       Std(created.Path) + " is left as it is");
+    case CreateYearResult::Status::Failed:
+        return io.Fail("cannot create " + Std(YearFileName(r.Year)) + ": " + Std(created.Message) +
+                       "; no file was made");
+    case CreateYearResult::Status::Created:
+        break;
+    }
+    io.Out << "Created " << Std(created.Path) << " with " << cal.YearSlots - 1 << " days\n";
+    return 0;
+}
+
+// The year's file, or a failure naming what is missing.
+bool YearFileThere(int year, const Streams& io)
+{
+    if (QFileInfo::exists(io.YearPath(year)))
+        return true;
+    io.Fail("there is no " + Std(YearFileName(year)) + " in " + Std(io.Folder));
+    return false;
+}
+
+int Compact(const LogRequest& r, const Streams& io)
+{
+    if (!YearFileThere(r.Year, io))
+        return 1;
+    const QString path = io.YearPath(r.Year);
+    if (const DbResult compacted = CompactDB(path); !compacted)
+        return io.Fail("cannot compact " + Std(path) + ": " + Std(compacted.Message) +
+                       "; the file is kept as it was");
+    io.Out << "Compacted " << Std(path) << "; the file before compaction is kept as " << r.Year
+           << ".BAK\n";
+    return 0;
+}
+
+int Repair(const LogRequest& r, const Streams& io)
+{
+    if (!YearFileThere(r.Year, io))
+        return 1;
+    const QString path = io.YearPath(r.Year);
+    const RepairReport report = RepairYearFile(path);
+    if (!report.Result)
+        return io.Fail("cannot repair " + Std(path) + ": " + Std(report.Result.Message) +
+                       "; the file is kept as it was");
+    io.Out << Std(report.Summary()) << "\n";
+    return 0;
+}
+
+int Restore(const LogRequest& r, const Streams& io)
+{
+    const auto years = RestorableYears(io.Folder);
+    const auto kept = std::find_if(years.begin(), years.end(),
+                                   [&r](const RestorableYear& k) { return k.Year == r.Year; });
+    if (kept == years.end())
+        return io.Fail(QFileInfo::exists(io.YearPath(r.Year))
+                           ? Std(YearFileName(r.Year)) + " is there; nothing to restore"
+                           : "no kept copy of " + Std(YearFileName(r.Year)) + " in " +
+                                 Std(io.Folder));
+    if (const DbResult restored = RestoreYearFile(io.Folder, *kept); !restored)
+        return io.Fail("cannot restore " + Std(YearFileName(r.Year)) + ": " +
+                       Std(restored.Message) + "; the copy is kept as it was");
+    io.Out << "Restored " << Std(io.YearPath(r.Year)) << " from "
+           << Std(QFileInfo(kept->Copy).fileName()) << "\n";
+    return 0;
+}
+
+std::string TableAsCsv(const LogTable& table)
+{
+    const auto line = [](const std::vector<QString>& texts) {
+        std::vector<std::string> fields;
+        fields.reserve(texts.size());
+        for (const QString& text : texts)
+            fields.push_back(Std(text));
+        return CsvLine(fields);
+    };
+    std::string out = line(table.Columns);
+    for (const auto& row : table.Rows)
+        out += line(row);
+    return out;
+}
+
+std::string TableAsJson(const LogTable& table)
+{
+    QJsonArray records;
+    for (const auto& row : table.Rows) {
+        QJsonObject record;
+        for (std::size_t i = 0; i < table.Columns.size() && i < row.size(); ++i)
+            record.insert(table.Columns[i],
+                          row[i].isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(row[i]));
+        records.append(record);
+    }
+    return QJsonDocument(records).toJson(QJsonDocument::Indented).toStdString();
+}
+
+int Export(const LogRequest& r, const Streams& io)
+{
+    if (!YearFileThere(r.Year, io))
+        return 1;
+    LogTable table;
+    if (const DbResult read = ExportLogTable(io.YearPath(r.Year), StoredSettings().AmPm(), table);
+        !read)
+        return io.Fail("cannot read " + Std(io.YearPath(r.Year)) + ": " + Std(read.Message));
+    const auto format = r.Options.find("--format");
+    io.Out << (format != r.Options.end() && format->second == "json" ? TableAsJson(table)
+                                                                     : TableAsCsv(table));
+    return 0;
+}
+
+// The conditions and order of a query or report, run on the year's file; nothing when the
+// request cannot run, after saying why (status in `status`).
+std::optional<Selection> Selected(const LogRequest& r, const Streams& io, int& status)
+{
+    status = 1;
+    if (!YearFileThere(r.Year, io))
+        return std::nullopt;
+    QueryRequest request;
+    if (auto wrong = ReadQueryOptions(r.Options, request)) {
+        status = 2;
+        io.Err << "quillmere-log: " << *wrong << "\n";
+        return std::nullopt;
+    }
+    Selection selection = RunQuery(io.YearPath(r.Year), request, io.Err);
+    if (!selection.Error.isEmpty()) {
+        status = 2;
+        io.Err << "quillmere-log: " << Std(selection.Error) << "\n";
+        return std::nullopt;
+    }
+    return selection;
+}
+
+int Query(const LogRequest& r, const Streams& io)
+{
+    int status = 0;
+    const auto selection = Selected(r, io, status);
+    if (!selection)
+        return status;
+    const QString path = io.YearPath(r.Year);
+    const bool ampm = StoredSettings().AmPm();
+    const auto format = r.Options.find("--format");
+    if (format == r.Options.end() || format->second == "text") {
+        QString report;
+        if (const DbResult read = ReadReportText(path, selection->RecordSource, ampm, report);
+            !read)
+            return io.Fail("cannot read the selected days: " + Std(read.Message));
+        io.Out << QueryText(report, *selection);
+        return 0;
+    }
+    LogTable table;
+    if (const DbResult read = ExportLogTable(path, ampm, table, selection->RecordSource); !read)
+        return io.Fail("cannot read the selected days: " + Std(read.Message));
+    io.Out << (format->second == "json" ? TableAsJson(table) : TableAsCsv(table));
+    return 0;
+}
+
+int Report(const LogRequest& r, const Streams& io)
+{
+    int status = 0;
+    const auto selection = Selected(r, io, status);
+    if (!selection)
+        return status;
+    QString report;
+    if (const DbResult read = ReadReportText(io.YearPath(r.Year), selection->RecordSource,
+                                             StoredSettings().AmPm(), report);
+        !read)
+        return io.Fail("cannot read the selected days: " + Std(read.Message));
+    const auto pdf = r.Options.find("--pdf");
+    if (pdf == r.Options.end()) {
+        io.Out << ReportText(report);
+        return 0;
+    }
+    const QString file = QString::fromStdString(pdf->second);
+    if (const QString failed = PrintReportToPdf(file, TextForPrinting(report)); !failed.isEmpty())
+        return io.Fail(Std(failed));
+    io.Out << "Printed the report to " << Std(QFileInfo(file).absoluteFilePath()) << "\n";
+    return 0;
+}
+
+// The command's own options followed by the conditions and the order.
+std::vector<std::string> WithConditions(std::vector<std::string> own)
+{
+    own.insert(own.end(), QueryOptionNames().begin(), QueryOptionNames().end());
+    return own;
+}
+
+// Reports every problem of the file first, then imports when there is none or the user chose
+// what to do with them.
+int Import(const LogRequest& r, const Streams& io)
+{
+    if (!YearFileThere(r.Year, io))
+        return 1;
+    const QString path = io.YearPath(r.Year);
+    const QString source = QString::fromStdString(r.Options.at("FILE"));
+    QFile csv(source);
+    if (!csv.open(QIODevice::ReadOnly))
+        return io.Fail("cannot read " + Std(source) + ": " + Std(csv.errorString()) +
+                       "; nothing was imported");
+    ImportPlan plan;
+    if (const DbResult planned = PlanImport(path, r.Year, csv.readAll(), plan); !planned)
+        return io.Fail("cannot import " + Std(source) + ": " + Std(planned.Message) +
+                       "; nothing was imported");
+    for (const QString& line : IssueLines(plan))
+        io.Out << Std(source) << ": " << Std(line) << "\n";
+    const bool overwrite = r.Options.count("--overwrite") > 0;
+    if (!plan.Issues.empty() && !overwrite && !r.Options.count("--skip"))
+        return io.Fail("nothing was imported: choose --skip to keep the entries already there "
+                       "and leave out the lines above, or --overwrite to replace those entries");
+    if (const DbResult kept = BackUpIfChanged(path, Clock::Now()); !kept)
+        return io.Fail("cannot back up " + Std(path) + ": " + Std(kept.Message) +
+                       "; nothing was imported");
+    int written = 0;
+    const ImportChoice choice = overwrite ? ImportChoice::Overwrite : ImportChoice::Skip;
+    if (const DbResult done = ApplyImport(path, plan, choice, written); !done)
+        return io.Fail("cannot import into " + Std(path) + ": " + Std(done.Message));
+    io.Out << "Imported " << written << " day(s) into " << Std(path) << "\n";
+    return 0;
+}
+
+struct LogCommand {
+    const char* Name;
+    std::vector<std::string> Options; // besides --help
+    int (*Run)(const LogRequest&, const Streams&);
+};
+
+const std::vector<LogCommand>& Commands()
+{
+    static const std::vector<LogCommand> commands = {
+        {"list", {}, List},
+        {"create", {"--year", "--location", "--lon", "--lat", "--zone", "--name", "--dst"}, Create},
+        {"compact", {"--year"}, Compact},
+        {"repair", {"--year"}, Repair},
+        {"restore", {"--year"}, Restore},
+        {"export", {"--year", "--format"}, Export},
+        {"query", WithConditions({"--year", "--format"}), Query},
+        {"report", WithConditions({"--year", "--pdf"}), Report},
+        {"import", {"--year", "FILE", "--skip", "--overwrite"}, Import},
+    };
+    return commands;
+}
+
+bool IsFlag(const std::string& option)
+{
+    return option == "--dst" || option == "--help" || option == "--skip" ||
+           option == "--overwrite" || IsQueryFlag(option);
+}
+
+// The options of the command line, each allowed by the command and given once.
+std::optional<std::string> CollectOptions(const std::vector<std::string>& args,
+                                          const LogCommand& command, LogRequest& r)
+{
+    for (std::size_t i = 1; i < args.size(); ++i) {
+        const std::string& name = args[i];
+        const auto& own = command.Options;
+        const bool takesFile = std::find(own.begin(), own.end(), "FILE") != own.end();
+        if (takesFile && name.rfind("--", 0) != 0 && !r.Options.count("FILE")) {
+            r.Options["FILE"] = name;
+            continue;
+        }
+        if (name != "--help" && std::find(own.begin(), own.end(), name) == own.end())
+            return "option '" + name + "' does not apply to " + command.Name + " (see --help)";
+        if (r.Options.count(name))
+            return "option " + name + " given twice";
+        if (IsFlag(name)) {
+            r.Options[name] = "";
+        } else if (i + 1 >= args.size()) {
+            return "option " + name + " needs a value";
+        } else {
+            r.Options[name] = args[++i];
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> CheckRequest(const LogCommand& command, LogRequest& r)
+{
+    const auto& own = command.Options;
+    if (std::find(own.begin(), own.end(), "--year") != own.end()) {
+        const auto year = r.Options.find("--year");
+        if (year == r.Options.end())
+            return std::string(command.Name) + " needs --year YYYY";
+        const std::string& text = year->second;
+        const bool digits = text.size() == 4 && std::all_of(text.begin(), text.end(), ::isdigit);
+        r.Year = digits ? std::stoi(text) : 0;
+        if (r.Year < 1900 || r.Year > 2500)
+            return "--year takes a year from 1900 to 2500, not '" + text + "'";
+    }
+    if (std::find(own.begin(), own.end(), "FILE") != own.end() && !r.Options.count("FILE"))
+        return std::string(command.Name) + " needs the FILE.csv to read";
+    if (r.Options.count("--skip") && r.Options.count("--overwrite"))
+        return "choose one of --skip and --overwrite";
+    if (const auto f = r.Options.find("--format"); f != r.Options.end() && f->second != "csv" &&
+                                                   f->second != "json" &&
+                                                   (r.Command != "query" || f->second != "text"))
+        return "unknown format '" + f->second + "': use " +
+               (r.Command == "query" ? "text, csv or json" : "csv or json");
+    return std::nullopt;
+}
+
+} // namespace
+
+std::string CsvLine(const std::vector<std::string>& fields)
+{
+    std::string line;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const std::string& f = fields[i];
+        if (i > 0)
+            line += ',';
+        if (f.find_first_of(",\"\r\n") == std::string::npos) {
+            line += f;
+            continue;
+        }
+        line += '"';
+        for (const char c : f)
+            line += c == '"' ? std::string("\"\"") : std::string(1, c);
+        line += '"';
+    }
+    return line + "\r\n";
+}
+
+int RunLogCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
+{
+    const auto usage = [&err](const std::string& message) {
+        err << "quillmere-log: " << message << "\n";
+        return 2;
+    };
+    if (args.empty())
+        return usage("no command given: list, create, compact, repair, restore, export, import, "
+                     "query or report (see --help)");
+    if (args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
+        out << LogUsageText;
+        return 0;
+    }
+    if (args.size() == 1 && args[0] == "--version") {
+        out << VersionLine("quillmere-log");
+        return 0;
+    }
+    const auto& commands = Commands();
+    const auto command = std::find_if(commands.begin(), commands.end(),
+                                      [&args](const LogCommand& c) { return args[0] == c.Name; });
+    if (command == commands.end())
+        return usage("unknown command '" + args[0] + "' (see --help)");
+    LogRequest r;
+    r.Command = args[0];
+    if (auto e = CollectOptions(args, *command, r))
+        return usage(*e);
+    if (r.Options.count("--help")) {
+        out << LogUsageText;
+        return 0;
+    }
+    if (auto e = CheckRequest(*command, r))
+        return usage(*e);
+    const Streams io{out, err, ProgramFolder::Path()};
+    if (io.Folder.isEmpty())
+        return io.Fail("cannot make the program's folder; nothing was changed");
+    CleanLeftovers(io.Folder);
+    return command->Run(r, io);
+}

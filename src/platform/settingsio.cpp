@@ -1,0 +1,176 @@
+#include "platform/settingsio.h"
+
+#include "platform/settingsstore.h"
+#include "text/vbformat.h"
+
+#include <QString>
+
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace {
+
+struct LocationDefaults {
+    const char* Name;
+    const char* Longitude;
+    const char* Latitude;
+    const char* TimeZone;
+};
+
+// Used when a key is missing.
+constexpr std::array<LocationDefaults, LocationCount> Defaults = {{
+    {"Alexandria, LA", "92.42", "31.25", "6"},
+    {"Miami, FL", "80.2", "25.77", "5"},
+    {"Los Angeles, CA", "118.25", "34.05", "8"},
+    {"Denver, CO", "105.00", "39.75", "7"},
+    {"Atlanta, GA", "84.79", "33.75", "5"},
+    {"Dallas, TX", "96.77", "32.77", "6"},
+    {"Detroit, MI", "83.05", "42.33", "5"},
+    {"Pittsburg, PA", "80.00", "40.44", "5"},
+    {"Rochester, NY", "77.61", "43.16", "5"},
+    {"Seattle, Wa", "122.34", "47.61", "8"},
+}};
+
+QString Key(const char* prefix, int n, const char* field)
+{
+    return QString("%1%2%3").arg(prefix).arg(n).arg(field);
+}
+
+std::string Read(const SettingsStore& store, const QString& key, const char* fallback)
+{
+    return store.Read(key, QString::fromUtf8(fallback)).toStdString();
+}
+
+double ToDouble(const std::string& key, const std::string& text)
+{
+    const std::string trimmed = QString::fromStdString(text).trimmed().toStdString();
+    char* end = nullptr;
+    const double v = std::strtod(trimmed.c_str(), &end);
+    if (trimmed.empty() || *end != '\0' || !std::isfinite(v))
+        throw SettingError{key, text, "a number"};
+    return v;
+}
+
+template <typename Int> Int ToInt(const std::string& key, const std::string& text)
+{
+    const double v = std::nearbyint(ToDouble(key, text)); // half to even, as CInt
+    if (v < double(std::numeric_limits<Int>::min()) || v > double(std::numeric_limits<Int>::max()))
+        throw SettingError{key, text, "a whole number in range"};
+    return static_cast<Int>(v);
+}
+
+bool ToBool(const std::string& key, const std::string& text)
+{
+    const QString t = QString::fromStdString(text).trimmed();
+    if (t.compare("True", Qt::CaseInsensitive) == 0)
+        return true;
+    if (t.compare("False", Qt::CaseInsensitive) == 0)
+        return false;
+    try {
+        return ToDouble(key, text) != 0.0;
+    } catch (const SettingError&) {
+        throw SettingError{key, text, "True or False"};
+    }
+}
+
+// Coordinates pass through their stored form, so they are held with two decimals. A value
+// beyond `limit` degrees either way is reported like one that does not convert.
+double Degrees(const std::string& key, const std::string& text, const char* pattern, double limit)
+{
+    const double v = ToDouble(key, text);
+    if (std::fabs(v) > limit)
+        throw SettingError{key, text,
+                           "a number of degrees from -" + std::to_string(int(limit)) + " to " +
+                               std::to_string(int(limit))};
+    return ToDouble(key, VbFormat(v, pattern) + "0");
+}
+
+// Time zones are whole hours west of Greenwich, -12 to 12.
+std::int16_t ZoneHours(const std::string& key, const std::string& text)
+{
+    const auto v = ToInt<std::int16_t>(key, text);
+    if (v < -12 || v > 12)
+        throw SettingError{key, text, "a time zone from -12 to 12 hours"};
+    return v;
+}
+
+std::string K(const QString& key) { return key.toStdString(); }
+
+} // namespace
+
+std::string LongitudeText(double degrees) { return VbFormat(degrees, "###.00"); }
+std::string LatitudeText(double degrees) { return VbFormat(degrees, "##.00"); }
+std::string TimeZoneText(int hours) { return (hours >= 0 ? " " : "") + std::to_string(hours); }
+
+void LoadSettings(Settings& s, const SettingsStore& store)
+{
+    s.AMPM = Read(store, "AMPM", "True");
+    s.DefLoc = Read(store, "DefLoc", "1");
+    s.MoonColor = ToInt<std::int32_t>("MoonColor", Read(store, "MoonColor", "16777215"));
+    s.HemiSphere = Read(store, "HemiSphere", "North");
+    s.Graphic = ToInt<std::int16_t>("Graphic", Read(store, "Graphic", "0"));
+    s.MouseClick = ToBool("MouseClick", Read(store, "MouseClick", "True"));
+    s.ParallacticAngle = Read(store, "ParallacticAngle", "True");
+    s.TimeFormats = ToInt<std::int16_t>("TimeFormats", Read(store, "TimeFormats", "1"));
+    s.FormTop = Read(store, "FormTop", "300");
+    s.FormLeft = ToInt<std::int16_t>("FormLeft", Read(store, "FormLeft", "300"));
+    for (int n = 1; n <= LocationCount; ++n) {
+        const LocationDefaults& d = Defaults[std::size_t(n - 1)];
+        Location& loc = s.Locations[std::size_t(n)];
+        const QString lon = Key("Usr", n, "Long"), lat = Key("Usr", n, "Lat");
+        const QString tz = Key("Usr", n, "TZ"), name = Key("Usr", n, "Name");
+        loc.Longitude = Degrees(K(lon), Read(store, lon, d.Longitude), "###.00", 180.0);
+        loc.Latitude = Degrees(K(lat), Read(store, lat, d.Latitude), "##.00", 90.0);
+        loc.TimeZone = ZoneHours(K(tz), Read(store, tz, d.TimeZone));
+        loc.Name = Read(store, name, d.Name);
+    }
+}
+
+bool SaveSettings(const Settings& s, SettingsStore& store)
+{
+    auto write = [&store](const QString& key, const std::string& text) {
+        store.Write(key, QString::fromStdString(text));
+    };
+    for (int n = 1; n <= LocationCount; ++n) {
+        const Location& loc = s.Locations[std::size_t(n)];
+        write(Key("Usr", n, "Long"), LongitudeText(loc.Longitude));
+        write(Key("Usr", n, "Lat"), LatitudeText(loc.Latitude));
+        write(Key("Usr", n, "TZ"), TimeZoneText(loc.TimeZone));
+        write(Key("Usr", n, "Name"), loc.Name);
+    }
+    write("FormTop", s.FormTop);
+    write("FormLeft", std::to_string(s.FormLeft));
+    write("HemiSphere", s.HemiSphere);
+    write("MoonColor", std::to_string(s.MoonColor));
+    write("DefLoc", s.DefLoc);
+    write("AMPM", s.AMPM);
+    write("Graphic", std::to_string(s.Graphic));
+    write("MouseClick", s.MouseClick ? "True" : "False");
+    write("ParallacticAngle", s.ParallacticAngle);
+    write("TimeFormats", std::to_string(s.TimeFormats));
+    return store.Flush();
+}
+
+void WriteFirstStartValues(SettingsStore& store)
+{
+    for (int n = 1; n <= LocationCount; ++n) {
+        const LocationDefaults& d = Defaults[std::size_t(n - 1)];
+        store.Write(Key("Usr", n, "Long"), n == 5 ? "84.39" : d.Longitude);
+        store.Write(Key("Usr", n, "Lat"), d.Latitude);
+        store.Write(Key("Usr", n, "TZ"),
+                    QString::fromStdString(TimeZoneText(std::atoi(d.TimeZone))));
+        store.Write(Key("Usr", n, "Name"), n == 8    ? "Pittsburgh, PA"
+                                           : n == 10 ? "Seattle, WA"
+                                                     : d.Name);
+    }
+    store.Write("HemiSphere", "North");
+    store.Write("MoonColor", "16777215");
+    store.Write("DefLoc", "1");
+    store.Write("AMPM", "True");
+    store.Write("Graphic", "0");
+    store.Write("MouseClick", "True");
+    store.Write("ParallacticAngle", "True");
+    store.Write("TimeFormats", "1");
+    store.Flush();
+}

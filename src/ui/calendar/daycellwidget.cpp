@@ -1,0 +1,95 @@
+#include "ui/calendar/daycellwidget.h"
+
+#include "pages/twips.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+DayCellWidget::DayCellWidget(int index, QWidget* parent) : QWidget(parent), CellIndex(index)
+{
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void DayCellWidget::SetContent(Content content)
+{
+    Now = std::move(content);
+    setEnabled(Now.Enabled);
+    update();
+}
+
+void DayCellWidget::SetFramed(bool framed)
+{
+    IsFramed = framed;
+    update();
+}
+
+namespace {
+// The selection frame's pen and the gap kept between it and the content.
+constexpr int FramePen = 3, Margin = 1;
+
+QFont BoldOf(const QFont& f)
+{
+    QFont bold = f;
+    bold.setBold(true);
+    return bold;
+}
+
+QString MarksText(int marks) { return QString("^^").repeated(marks); }
+} // namespace
+
+DayCellWidget::Placement DayCellWidget::Place() const
+{
+    Placement p;
+    p.Inside = rect().adjusted(FramePen + Margin, FramePen + Margin, -(FramePen + Margin),
+                               -(FramePen + Margin));
+    const QFontMetrics fm(BoldOf(font()));
+    p.Number = QRect(p.Inside.topLeft(), fm.boundingRect(Now.Number).size());
+    // The marks' line is as tall as a caret's ink, just below the number.
+    const QRect caret = fm.tightBoundingRect(QStringLiteral("^"));
+    p.Marks = QRect(p.Inside.left(), p.Number.bottom() + 1,
+                    fm.horizontalAdvance(MarksText(Now.Marks)), caret.height());
+    if (!Now.Phase.isNull())
+        p.Phase = QRect(QPoint(p.Inside.right() + 1 - Now.Phase.width(), p.Inside.top()),
+                        Now.Phase.size());
+    if (!Now.Rating.isNull())
+        p.Rating = QRect(QPoint(p.Inside.left(), p.Inside.bottom() + 1 - Now.Rating.height()),
+                         Now.Rating.size());
+    return p;
+}
+
+void DayCellWidget::paintEvent(QPaintEvent*)
+{
+    QPainter p(this);
+    p.fillRect(rect(), Now.Background);
+    const Placement at = Place();
+    if (!Now.Phase.isNull())
+        p.drawPixmap(at.Phase.topLeft(), Now.Phase);
+    if (!Now.Rating.isNull())
+        p.drawPixmap(at.Rating.topLeft(), Now.Rating);
+
+    p.setFont(BoldOf(font()));
+    const QFontMetrics fm(p.font());
+    p.setPen(Now.TextColor);
+    p.drawText(at.Number.left(), at.Number.top() + fm.ascent(), Now.Number);
+    p.setPen(VbColor(0x0000FF));
+    const int caretTop = fm.tightBoundingRect(QStringLiteral("^")).top(); // above the baseline
+    p.drawText(at.Marks.left(), at.Marks.top() - caretTop, MarksText(Now.Marks));
+
+    if (IsFramed) {
+        p.setPen(QPen(VbColor(0x0000FF), FramePen));
+        p.drawRect(QRectF(1.5, 1.5, width() - 3.0, height() - 3.0));
+    }
+}
+
+void DayCellWidget::mousePressEvent(QMouseEvent* e) { emit MousePressed(CellIndex, e->button()); }
+
+void DayCellWidget::mouseReleaseEvent(QMouseEvent* e)
+{
+    if (e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()))
+        emit Clicked(CellIndex);
+}
+
+void DayCellWidget::mouseDoubleClickEvent(QMouseEvent*) { emit DoubleClicked(CellIndex); }
+
+void DayCellWidget::mouseMoveEvent(QMouseEvent*) { emit MouseMoved(CellIndex); }

@@ -1,0 +1,841 @@
+#include "ui/calendar/frmcalendar.h"
+
+#include "astro/timebase.h"
+#include "pages/moonpicture.h"
+#include "pages/stockpictures.h"
+#include "pages/twips.h"
+#include "platform/clock.h"
+#include "platform/programfolder.h"
+#include "platform/settingsio.h"
+#include "ui/calendar/daycellwidget.h"
+#include "ui/calendar/frmabout.h"
+#include "ui/calendar/frmprint.h"
+#include "ui/calendar/frmyearcal.h"
+#include "ui/calendar/helpwindow.h"
+#include "ui/common/appstate.h"
+#include "ui/common/busypointer.h"
+#include "ui/locations/frmlocation.h"
+#include "ui/log/frmselectdb.h"
+#include "ui/views/daygraph.h"
+#include "ui/views/frmdetail.h"
+#include "ui/views/frmglance.h"
+#include "ui/views/frmlist.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QShowEvent>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolTip>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+constexpr int FormHeightTwips = 6390;
+constexpr int FormWidthTwips = 10200;
+constexpr int CellWidth = 57, CellHeight = 48, CellGap = 1, GridLeft = 6, GridTop = 50;
+
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+QColor Colour(std::uint32_t bbggrr) { return VbColor(std::int32_t(bbggrr)); }
+
+// The weekday header: its text spaces the names for the grid, and it paints each name
+// centred over its column whatever the font.
+class WeekdayHeader : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter p(this);
+        const QStringList names = text().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        const int count = int(std::max<qsizetype>(1, names.size()));
+        const double column = double(width()) / count;
+        for (int i = 0; i < int(names.size()); ++i)
+            p.drawText(QRectF(i * column, 0, column, height()), Qt::AlignCenter, names[i]);
+    }
+};
+
+QAction* Item(QMenu* menu, const QString& caption, const QString& name, bool checkable = false)
+{
+    QAction* a = menu->addAction(caption);
+    a->setObjectName(name);
+    a->setCheckable(checkable);
+    return a;
+}
+} // namespace
+
+FrmCalendar::FrmCalendar(AppState& app, QWidget* parent) : QMainWindow(parent), App(app)
+{
+    setWindowTitle(QStringLiteral("Quillmere"));
+    BuildControls();
+    BuildMenus();
+    BuildStatusBar();
+    ConnectHandlers();
+    App.Messages.SetParent(this);
+    Form_Load();
+}
+
+void FrmCalendar::ConnectHandlers()
+{
+    connect(IncMonth, &QPushButton::clicked, this, &FrmCalendar::IncMonth_Click);
+    connect(DecMonth, &QPushButton::clicked, this, &FrmCalendar::DecMonth_Click);
+    connect(CmdNOW, &QPushButton::clicked, this, &FrmCalendar::CmdNOW_Click);
+    connect(VsbYear, &QScrollBar::valueChanged, this, &FrmCalendar::VsbYear_Change);
+    connect(VsbYear, &QScrollBar::sliderMoved, this, &FrmCalendar::VsbYear_Scroll);
+    connect(VsbHour, &QScrollBar::valueChanged, this, &FrmCalendar::VsbHour_Change);
+    connect(VsbHour, &QScrollBar::sliderMoved, this, &FrmCalendar::VsbHour_Scroll);
+    connect(Timer1, &QTimer::timeout, this, &FrmCalendar::Timer1_Timer);
+    for (DayCellWidget* cell : txtpic) {
+        connect(cell, &DayCellWidget::Clicked, this, &FrmCalendar::txtpic_Click);
+        connect(cell, &DayCellWidget::MouseMoved, this, &FrmCalendar::txtpic_MouseMove);
+        connect(cell, &DayCellWidget::MousePressed, this, &FrmCalendar::txtpic_MouseDown);
+        connect(cell, &DayCellWidget::DoubleClicked, this, &FrmCalendar::txtpic_DblClick);
+    }
+    Timer1->start();
+}
+
+QLabel* FrmCalendar::MakeLabel(int index, QWidget* parent, const QRect& geometry)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(QString("Label%1").arg(index));
+    label->setGeometry(geometry);
+    Label[std::size_t(index)] = label;
+    return label;
+}
+
+void FrmCalendar::BuildControls()
+{
+    auto* central = new QWidget(this);
+    setCentralWidget(central);
+
+    DecMonth = new QPushButton(QStringLiteral("<<"), central);
+    DecMonth->setGeometry(GridLeft, 4, 32, 26);
+    DecMonth->setToolTip(QStringLiteral(" Previous Month "));
+    QFont heading = font();
+    heading.setPointSize(13);
+    heading.setBold(true);
+    MakeLabel(11, central, {44, 4, 130, 26})->setFont(heading);
+    Label[11]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    MakeLabel(12, central, {176, 4, 70, 26})->setFont(heading);
+    IncMonth = new QPushButton(QStringLiteral(">>"), central);
+    IncMonth->setGeometry(250, 4, 32, 26);
+    IncMonth->setToolTip(QStringLiteral(" Next Month "));
+    CmdNOW = new QPushButton(QStringLiteral("Now"), central);
+    CmdNOW->setGeometry(290, 4, 56, 26);
+
+    Label[1] = new WeekdayHeader(central);
+    Label[1]->setObjectName(QStringLiteral("Label1"));
+    Label[1]->setGeometry(GridLeft, 32, 7 * (CellWidth + CellGap), 16);
+    Label[1]->setText(
+        QStringLiteral("    Sun            Mon           Tue            Wed          Thu "
+                       "            Fri             Sat"));
+    for (int i = 0; i < 37; ++i) {
+        auto* cell = new DayCellWidget(i, central);
+        cell->setGeometry(GridLeft + (i % 7) * (CellWidth + CellGap),
+                          GridTop + (i / 7) * (CellHeight + CellGap), CellWidth, CellHeight);
+        txtpic[std::size_t(i)] = cell;
+    }
+    const int gridRight = GridLeft + 7 * (CellWidth + CellGap);
+    VsbYear = new QScrollBar(Qt::Vertical, central);
+    VsbYear->setGeometry(gridRight + 2, GridTop, 16, 6 * (CellHeight + CellGap) - CellGap);
+    VsbYear->setRange(1900, 2500);
+    VsbYear->setTracking(false); // dragging scrolls; the change comes on release
+    VsbYear->setToolTip(QStringLiteral(" Change the Year "));
+    MakeLabel(3, central, {GridLeft, GridTop + 6 * (CellHeight + CellGap) + 2, 330, 18});
+
+    BuildDetailsPanel(central);
+    Timer1 = new QTimer(this);
+    Timer1->setInterval(10000);
+    central->setMouseTracking(true);
+    central->installEventFilter(this);
+}
+
+void FrmCalendar::BuildDetailsPanel(QWidget* central)
+{
+    const int left = 438, right = 556;
+    auto frame = [central](const QString& title, const QRect& r) {
+        auto* box = new QGroupBox(title, central);
+        box->setGeometry(r);
+        return box;
+    };
+    QGroupBox* daylightFrame = frame(QStringLiteral("Daylight Hours"), {left, 0, 112, 42});
+    MakeLabel(7, daylightFrame, {10, 18, 90, 18});
+    QGroupBox* majors = frame(QStringLiteral("Majors"), {left, 44, 112, 62});
+    MakeLabel(0, majors, {10, 18, 94, 18});
+    MakeLabel(2, majors, {10, 38, 94, 18});
+    QGroupBox* minors = frame(QStringLiteral("Minors"), {left, 108, 112, 62});
+    MakeLabel(4, minors, {10, 18, 94, 18});
+    MakeLabel(5, minors, {10, 38, 94, 18});
+    for (int i : {0, 2, 4, 5}) {
+        Label[std::size_t(i)]->setToolTip(QStringLiteral(" Moon is due South/North "));
+        // A mid grey behind the periods, so that both the black and the yellow text read.
+        Label[std::size_t(i)]->setAutoFillBackground(true);
+        QPalette palette = Label[std::size_t(i)]->palette();
+        palette.setColor(QPalette::Window, QColor(128, 128, 128));
+        Label[std::size_t(i)]->setPalette(palette);
+        Label[std::size_t(i)]->setAlignment(Qt::AlignCenter);
+    }
+    QGroupBox* sun = frame(QStringLiteral("Sun"), {left, 172, 112, 62});
+    MakeLabel(13, sun, {6, 18, 30, 18})->setText(QStringLiteral("Rise"));
+    MakeLabel(14, sun, {36, 18, 72, 18});
+    MakeLabel(17, sun, {6, 38, 30, 18})->setText(QStringLiteral("Set"));
+    MakeLabel(16, sun, {36, 38, 72, 18});
+    QGroupBox* moon = frame(QStringLiteral("Moon"), {right, 0, 118, 62});
+    MakeLabel(18, moon, {6, 18, 30, 18});
+    MakeLabel(19, moon, {36, 18, 76, 18});
+    MakeLabel(21, moon, {6, 38, 30, 18});
+    MakeLabel(22, moon, {36, 38, 76, 18});
+
+    PicM = new QLabel(central);
+    PicM->setGeometry(right + 4, 68, 80, 80);
+    PicM->setMouseTracking(true);
+    PicM->installEventFilter(this);
+    ToPict = new QLabel(central);
+    ToPict->setGeometry(PicM->geometry());
+    ToPict->hide();
+    MakeLabel(32, central, {right, 152, 100, 18});
+
+    VsbHour = new QScrollBar(Qt::Vertical, central);
+    VsbHour->setGeometry(right + 92, 68, 18, 166);
+    VsbHour->setRange(0, 1439);
+    VsbHour->setPageStep(60);
+    VsbHour->setTracking(false);
+    VsbHour->setToolTip(QStringLiteral(" Move the moment of the day "));
+    MakeLabel(15, central, {right, 236, 118, 18})->setAlignment(Qt::AlignCenter);
+    Label[15]->setToolTip(QStringLiteral(" Click to Reset Hour Bar "));
+    Label[15]->installEventFilter(this);
+    for (int i : {0, 2, 4, 5, 7, 14, 16}) {
+        Label[std::size_t(i)]->setMouseTracking(true);
+        Label[std::size_t(i)]->installEventFilter(this);
+    }
+}
+
+void FrmCalendar::BuildMenus()
+{
+    QMenuBar* bar = menuBar();
+    RunDataBase = bar->addAction(QStringLiteral("DataBase"));
+    RunDataBase->setObjectName(QStringLiteral("RunDataBase"));
+    connect(RunDataBase, &QAction::triggered, this, &FrmCalendar::RunDataBase_Click);
+    mnuyearly = bar->addAction(QStringLiteral("&Yearly"));
+    mnuyearly->setObjectName(QStringLiteral("mnuyearly"));
+    connect(mnuyearly, &QAction::triggered, this, &FrmCalendar::mnuyearly_Click);
+    QMenu* functions = bar->addMenu(QStringLiteral("&Functions"));
+    functions->setObjectName(QStringLiteral("ProgFunctions"));
+    PrintCalendar = Item(functions, QStringLiteral("&Print"), QStringLiteral("PrintCalendar"));
+    AtAGlance = Item(functions, QStringLiteral("@Glance"), QStringLiteral("AtAGlance"));
+    ShowList = Item(functions, QStringLiteral("&Table"), QStringLiteral("ShowList"));
+    connect(PrintCalendar, &QAction::triggered, this, &FrmCalendar::PrintCalendar_Click);
+    connect(AtAGlance, &QAction::triggered, this, &FrmCalendar::AtAGlance_Click);
+    connect(ShowList, &QAction::triggered, this, &FrmCalendar::ShowList_Click);
+    QMenu* options = bar->addMenu(QStringLiteral("&Options"));
+    options->setObjectName(QStringLiteral("SetOptions"));
+    QMenu* formats = options->addMenu(QStringLiteral("Time Formats"));
+    formats->setObjectName(QStringLiteral("TFormat"));
+    DST[0] = Item(formats, QStringLiteral("Daylight Savings"), QStringLiteral("DST0"), true);
+    DST[1] = Item(formats, QStringLiteral("Standard"), QStringLiteral("DST1"), true);
+    QMenu* mice = options->addMenu(QStringLiteral("Mouse"));
+    mice->setObjectName(QStringLiteral("Mice"));
+    Mouse[0] = Item(mice, QStringLiteral("On Move"), QStringLiteral("Mouse0"), true);
+    Mouse[1] = Item(mice, QStringLiteral("On Click"), QStringLiteral("Mouse1"), true);
+    QMenu* pan = options->addMenu(QStringLiteral("PAngle"));
+    pan->setObjectName(QStringLiteral("Pan"));
+    Pangle[0] = Item(pan, QStringLiteral("Parallactic Off"), QStringLiteral("Pangle0"), true);
+    Pangle[1] = Item(pan, QStringLiteral("Parallactic On"), QStringLiteral("Pangle1"), true);
+    for (int i = 0; i < 2; ++i) {
+        connect(DST[std::size_t(i)], &QAction::triggered, this, [this, i] { DST_Click(i); });
+        connect(Mouse[std::size_t(i)], &QAction::triggered, this, [this, i] { Mouse_Click(i); });
+        connect(Pangle[std::size_t(i)], &QAction::triggered, this, [this, i] { Pangle_Click(i); });
+    }
+
+    QMenu* locations = bar->addMenu(QStringLiteral("Locations"));
+    locations->setObjectName(QStringLiteral("LoccationOptions"));
+    QMenu* select = locations->addMenu(QStringLiteral("Select A Location"));
+    select->setObjectName(QStringLiteral("SelectLocation"));
+    QMenu* edit = locations->addMenu(QStringLiteral("Edit A Location"));
+    edit->setObjectName(QStringLiteral("EditLocation"));
+    for (int i = 1; i <= LocationCount; ++i) {
+        DLoc[std::size_t(i)] = Item(select, {}, QString("DLoc%1").arg(i), true);
+        Loc[std::size_t(i)] = Item(edit, {}, QString("Loc%1").arg(i));
+        connect(DLoc[std::size_t(i)], &QAction::triggered, this, [this, i] { DLoc_Click(i); });
+        connect(Loc[std::size_t(i)], &QAction::triggered, this, [this, i] { Loc_Click(i); });
+    }
+
+    QMenu* help = bar->addMenu(QStringLiteral("&Help"));
+    help->setObjectName(QStringLiteral("Fhelp"));
+    HelpContents = Item(help, QStringLiteral("&Contents"), QStringLiteral("HelpContents"));
+    MnuAbout = Item(help, QStringLiteral("&About"), QStringLiteral("MnuAbout"));
+    connect(HelpContents, &QAction::triggered, this, &FrmCalendar::HelpContents_Click);
+    connect(MnuAbout, &QAction::triggered, this, &FrmCalendar::MnuAbout_Click);
+
+    mnuexit = bar->addAction(QStringLiteral("E&xit"));
+    mnuexit->setObjectName(QStringLiteral("mnuexit"));
+    connect(mnuexit, &QAction::triggered, this, &FrmCalendar::mnuexit_Click);
+}
+
+void FrmCalendar::BuildStatusBar()
+{
+    StatusBar1 = new QStatusBar(this);
+    setStatusBar(StatusBar1);
+    StatusBar1->setSizeGripEnabled(false);
+    StatusBar1->setMouseTracking(true);
+    StatusBar1->installEventFilter(this);
+    StatusPanels[0] = new QLabel(StatusBar1);
+    StatusPanels[0]->setFixedWidth(Twips(1995 - 15));
+    StatusPanels[0]->setMouseTracking(true);
+    StatusBar1->addWidget(StatusPanels[0]);
+    static constexpr std::array<const char*, 4> legend = {"Best", "V.Good", "Good", "Fair"};
+    for (std::size_t k = 0; k < legend.size(); ++k) {
+        // The legend's fish, then its word: the whole fish is "Best".
+        const int rating = int(4 - k);
+        Pic[std::size_t(rating)] = FishPicture(rating);
+        auto* fish = new QLabel(StatusBar1);
+        fish->setPixmap(Pic[std::size_t(rating)]);
+        StatusBar1->addWidget(fish);
+        StatusPanels[k + 1] = new QLabel(QString::fromLatin1(legend[k]), StatusBar1);
+        StatusBar1->addWidget(StatusPanels[k + 1]);
+    }
+}
+
+void FrmCalendar::Form_Load()
+{
+    const int top = Twips(QString::fromStdString(App.Config.FormTop).toDouble());
+    resize(Twips(FormWidthTwips), Twips(FormHeightTwips));
+    move(Twips(App.Config.FormLeft), top);
+    ComputingSuppressed = true;
+    for (int phase = 1; phase <= 4; ++phase)
+        ImageA[std::size_t(phase == 1 ? 3 : 6 + phase)] = PhaseSymbol(phase);
+    ApplyCurrentLocation();
+    SetHemispherePictures();
+    const QDate today = Clock::Now().date();
+    Calendar& cal = App.Cal;
+    cal.CurMonth = std::int16_t(today.month());
+    cal.CurYear = std::int16_t(today.year());
+    VsbYear->setValue(cal.CurYear);
+    RefreshMonth();
+    VsbHour->setValue(720);
+}
+
+void FrmCalendar::Form_Activate()
+{
+    Calendar& cal = App.Cal;
+    App.Config.SelectedJD = CellJD(cal.TodayCell);
+    ApplyCurrentLocation();
+    VsbHour->setValue(720);
+    ComputingSuppressed = false;
+    ComputeSelectedDay();
+}
+
+void FrmCalendar::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (!event->spontaneous())
+        Form_Activate();
+}
+
+double FrmCalendar::CellJD(int cell) const
+{
+    const Calendar& cal = App.Cal;
+    return cal.MonthStartJD[std::size_t(cal.CurMonth)] + cell - cal.FirstWeekday;
+}
+
+void FrmCalendar::RefreshMonth()
+{
+    if (SkipRefresh == 1) {
+        SkipRefresh = 0;
+        return;
+    }
+    Calendar& cal = App.Cal;
+    Label[12]->setText(" " + QString::number(cal.CurYear));
+    Label[11]->setText(QString::fromLatin1(MonthNames[std::size_t(cal.CurMonth)]));
+    DrawMonthCells();
+    SelDay = std::int16_t(cal.TodayCell - cal.FirstWeekday + 1);
+    App.Config.SelectedJD = CellJD(cal.TodayCell);
+    ComputeSelectedDay();
+}
+
+void FrmCalendar::DrawMonthCells()
+{
+    Calendar& cal = App.Cal;
+    const QDate today = Clock::Now().date();
+    cal.ComputePrevMonthDays(App.Astro, Here.SouthernHemisphere);
+    const auto cells =
+        cal.DrawMonth(App.Astro, Here.SouthernHemisphere, today.year(), today.month(), today.day());
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        const DayCell& c = cells[i];
+        DayCellWidget::Content content;
+        content.Background = Colour(c.Background);
+        content.TextColor = Colour(c.TextColor);
+        content.Number = QString::number(c.Number);
+        content.Marks = c.Marks;
+        content.Enabled = c.Enabled;
+        if (c.PhasePicture > 0)
+            content.Phase = Pic[std::size_t(c.PhasePicture)];
+        if (c.RatingPicture > 0)
+            content.Rating = Pic[std::size_t(c.RatingPicture)];
+        txtpic[i]->SetContent(content);
+        txtpic[i]->SetFramed(int(i) == cal.TodayCell);
+        txtpic[i]->setToolTip(c.Of == DayCell::Kind::ThisMonth
+                                  ? Q(cal.YearDays[std::size_t(c.DayOfYear)].Text)
+                                  : QString());
+    }
+}
+
+void FrmCalendar::ComputeSelectedDay()
+{
+    Astronomy& engine = App.Astro;
+    engine.ComputeSunDay(App.Config.SelectedJD);
+    engine.ComputeDay(App.Config.SelectedJD);
+    DoLabels();
+    DrawMoonPicture(App.Config.ParallacticOn());
+}
+
+void FrmCalendar::DoLabels()
+{
+    const DayForecast& f = App.Astro.Forecast;
+    Panel = ::DoLabels(f, f.SkyPosition[3], App.Config.AmPm());
+    for (const auto& [i, text] : Panel.Captions)
+        Label[std::size_t(i)]->setText(Q(text));
+    for (const auto& [i, colour] : Panel.Colors) {
+        QPalette palette = Label[std::size_t(i)]->palette();
+        palette.setColor(QPalette::WindowText, Colour(colour));
+        Label[std::size_t(i)]->setPalette(palette);
+    }
+}
+
+void FrmCalendar::ShowLabelToolTip(int index)
+{
+    Label[std::size_t(index)]->setToolTip(
+        Q(LabelToolTip(index, App.Astro.Forecast, App.Config.AmPm())));
+}
+
+void FrmCalendar::DrawMoonPicture(bool parallacticView)
+{
+    const DayForecast& f = App.Astro.Forecast;
+    MoonLook look;
+    look.IllumPercent = f.IllumPercent;
+    look.Waxing = f.Waxing;
+    look.SouthernHemisphere = Here.SouthernHemisphere;
+    look.MoonColor = std::uint32_t(App.Config.MoonColor);
+    look.BackColor = std::uint32_t(ToVbColor(PicM->palette().color(QPalette::Window)));
+    MoonTurn turn;
+    turn.MoonAltitude = f.SkyPosition[3];
+    turn.MoonParallacticAngle = f.MoonParallacticAngle;
+    turn.ParallacticAngle = parallacticView;
+    turn.ToPictSize = ToPict->size();
+    const MoonPictures pictures = DrawMoon(PicM->size(), look, turn);
+    PicM->setPixmap(QPixmap::fromImage(pictures.PicM));
+    ToPict->setVisible(!pictures.ToPict.isNull());
+    if (!pictures.ToPict.isNull())
+        ToPict->setPixmap(QPixmap::fromImage(pictures.ToPict));
+}
+
+void FrmCalendar::SetHemispherePictures()
+{
+    const bool south = Here.SouthernHemisphere == -1;
+    Pic[30] = Pic[1];
+    Pic[31] = Pic[2];
+    Pic[20] = ImageA[3];
+    Pic[22] = ImageA[9];
+    Pic[21] = south ? ImageA[10] : ImageA[8];
+    Pic[23] = south ? ImageA[8] : ImageA[10];
+}
+
+void FrmCalendar::IncMonth_Click()
+{
+    const BusyPointer busy;
+    Calendar& cal = App.Cal;
+    if (++cal.CurMonth == 13) {
+        SkipRefresh = 1;
+        cal.CurMonth = 1;
+        if (++cal.CurYear == 2501)
+            cal.CurYear = 1900;
+    }
+    VsbYear->setValue(cal.CurYear);
+    VsbHour->setValue(720);
+    RefreshMonth();
+}
+
+void FrmCalendar::DecMonth_Click()
+{
+    const BusyPointer busy;
+    Calendar& cal = App.Cal;
+    if (--cal.CurMonth == 0) {
+        SkipRefresh = 1;
+        cal.CurMonth = 12;
+        if (--cal.CurYear < 1900)
+            cal.CurYear = 2500;
+        VsbYear->setValue(cal.CurYear);
+    }
+    VsbHour->setValue(720);
+    RefreshMonth();
+}
+
+void FrmCalendar::CmdNOW_Click()
+{
+    const BusyPointer busy;
+    const QDate today = Clock::Now().date();
+    App.Cal.CurMonth = std::int16_t(today.month());
+    App.Cal.CurYear = std::int16_t(today.year());
+    VsbYear->setValue(App.Cal.CurYear);
+    VsbHour->setValue(720);
+    RefreshMonth();
+}
+
+void FrmCalendar::VsbYear_Change()
+{
+    const BusyPointer busy;
+    App.Cal.CurYear = std::int16_t(VsbYear->value());
+    VsbHour->setValue(720);
+    RefreshMonth();
+}
+
+void FrmCalendar::VsbYear_Scroll() { App.Cal.CurYear = std::int16_t(VsbYear->sliderPosition()); }
+
+void FrmCalendar::VsbHour_Change()
+{
+    const int minutes = VsbHour->value();
+    Label[15]->setText(Q(FormatClock(0, minutes / 60.0, App.Config.AmPm())));
+    App.Astro.Site.HourInstant = minutes / 1440.0 + App.Astro.Site.ZoneDays;
+    App.Config.SelectedJD = CellJD(App.Cal.TodayCell);
+    if (!ComputingSuppressed)
+        ComputeSelectedDay();
+}
+
+void FrmCalendar::Timer1_Timer()
+{
+    const QDateTime now = Clock::Now();
+    const QDate today = now.date();
+    const Calendar& cal = App.Cal;
+    if (cal.CurYear != today.year() || cal.CurMonth != today.month() || SelDay != today.day())
+        return;
+    const QTime t = now.time();
+    VsbHour->setValue(int(t.hour() * 60 + t.minute() + t.second() / 60.0));
+}
+
+void FrmCalendar::SelectCell(int index)
+{
+    Calendar& cal = App.Cal;
+    txtpic[std::size_t(cal.TodayCell)]->SetFramed(false);
+    cal.TodayCell = std::int16_t(index);
+    cal.SelCell = std::int16_t(index);
+    SelDay = std::int16_t(index - cal.FirstWeekday + 1);
+    App.Config.SelectedJD = CellJD(index);
+    txtpic[std::size_t(index)]->SetFramed(true);
+}
+
+void FrmCalendar::txtpic_Click(int index)
+{
+    SelectCell(index);
+    // The open details belong to the day they were opened on; a click on another day hides them.
+    if (Detail && Detail->isVisible() && index != DetailCell)
+        Detail->hide();
+    if (!App.Config.MouseClick)
+        return;
+    VsbHour->setValue(720);
+    ComputeSelectedDay();
+}
+
+void FrmCalendar::txtpic_MouseMove(int index)
+{
+    if (Detail && Detail->isVisible())
+        return;
+    const Calendar& cal = App.Cal;
+    const double jd = CellJD(index);
+    const int doy = int(jd - cal.YearStartJD) + 1;
+    if (index != LastHoveredCell) {
+        const int daysInYear = cal.YearSlots - 1;
+        Label[3]->setText("Day " + QString(" %1").arg(doy) + "  " +
+                          QString(" %1").arg(daysInYear - doy) + " days remain");
+        LastHoveredCell = index;
+    }
+    // The hovered day is the selected day for the panel; the frame stays on the clicked cell.
+    App.Config.SelectedJD = jd;
+    SelDay = std::int16_t(index - cal.FirstWeekday + 1);
+    const ComputedDay day{cal.CurYear, cal.CurMonth, SelDay};
+    if (day == LastComputedDay)
+        return;
+    LastComputedDay = day;
+    if (App.Config.MouseClick)
+        return;
+    VsbHour->setValue(720);     // its change event recomputes the framed day ...
+    App.Config.SelectedJD = jd; // ... but the panel shows the day under the pointer
+    ComputeSelectedDay();
+}
+
+void FrmCalendar::Form_MouseMove()
+{
+    Label[3]->clear();
+    LastHoveredCell = -1;
+}
+
+void FrmCalendar::txtpic_MouseDown(int index, Qt::MouseButton button)
+{
+    App.Config.SelectedJD = CellJD(index);
+    Timer1_Timer();
+    if (button == Qt::RightButton && index == App.Cal.TodayCell)
+        ShowDayGraph();
+}
+
+// The press before a double click has set SelectedJD to the cell's day; the cell says it again.
+void FrmCalendar::txtpic_DblClick(int index) { DisplayDetails(CellJD(index), index); }
+
+void FrmCalendar::DisplayDetails(double jd, int cell)
+{
+    App.Config.SelectedJD = jd;
+    if (!Detail)
+        Detail = new FrmDetail(this);
+    DetailCell = cell;
+    Detail->move(Twips(DetailsLeft(cell)), Twips(DetailsTop));
+    const CivilDate d = JdToCivil(jd);
+    Detail->SetDay(d.Year, d.Month, d.Day, {App.Config.MonthFirstDates, App.Config.DateSeparator});
+    Detail->Timer1->start();
+    Detail->show();
+    Detail->ShowLines(DoDetails(App.Astro, App.Cal, jd, App.Config.AmPm()));
+}
+
+void FrmCalendar::ShowDayGraph()
+{
+    const Calendar& cal = App.Cal;
+    const double jd = App.Config.SelectedJD;
+    DayGraph::Day day{jd, cal.YearDays.at(std::size_t(jd - cal.YearStartJD) + 1), App.Config.AmPm(),
+                      App.Config.MonthFirstDates};
+    DayGraph graph(App.Astro, std::move(day), this);
+    graph.exec();
+}
+
+void FrmCalendar::mnuyearly_Click()
+{
+    FrmYearCal yearCal({App.Cal, App.Astro, Here.SouthernHemisphere,
+                        [this](int year) { VsbYear->setValue(year); }, [this] { RefreshMonth(); }},
+                       this);
+    yearCal.ShowYearCal();
+    yearCal.exec();
+}
+
+void FrmCalendar::PicM_Click()
+{
+    if (!App.Config.ParallacticOn())
+        DrawMoonPicture(true);
+}
+
+void FrmCalendar::PicM_MouseMove()
+{
+    PicM->setToolTip(App.Config.ParallacticOn()
+                         ? QString()
+                         : QStringLiteral(" Click to Show Parallactic Angle View "));
+}
+
+void FrmCalendar::ApplyCurrentLocation()
+{
+    Settings& s = App.Config;
+    ApplyLocationValues(s, Here, App.Astro.Site);
+    if (s.TimeFormats == 0 || s.TimeFormats == 1) {
+        DST[0]->setChecked(s.TimeFormats == 0);
+        DST[1]->setChecked(s.TimeFormats == 1);
+    }
+    Label[15]->setText(Q(FormatClock(0, VsbHour->value() / 60.0, s.AmPm())));
+    VsbHour->update();
+    StatusPanels[0]->setText(Q(Here.CurLocName));
+    const int def = s.DefaultLocation();
+    for (int i = 1; i <= LocationCount; ++i) {
+        const QString caption =
+            Q(LocationMenuCaption(i, s.Locations[std::size_t(i)].Name, i == def));
+        DLoc[std::size_t(i)]->setText(caption);
+        DLoc[std::size_t(i)]->setChecked(i == s.CurLoc);
+        Loc[std::size_t(i)]->setText(caption);
+    }
+    Mouse[0]->setChecked(!s.MouseClick);
+    Mouse[1]->setChecked(s.MouseClick);
+    if (s.ParallacticAngle == "True" || s.ParallacticAngle == "False") {
+        Pangle[0]->setChecked(!s.ParallacticOn());
+        Pangle[1]->setChecked(s.ParallacticOn());
+    }
+    SetHemispherePictures();
+}
+
+void FrmCalendar::DST_Click(int index)
+{
+    App.Config.TimeFormats = static_cast<std::int16_t>(index);
+    ApplyCurrentLocation();
+    RefreshMonth();
+    VsbHour->setValue(720);
+    VsbHour->update();
+}
+
+void FrmCalendar::Mouse_Click(int index)
+{
+    App.Config.MouseClick = index == 1;
+    Mouse[0]->setChecked(index == 0);
+    Mouse[1]->setChecked(index == 1);
+}
+
+void FrmCalendar::Pangle_Click(int index)
+{
+    App.Config.ParallacticAngle = index == 1 ? "True" : "False";
+    Pangle[0]->setChecked(index == 0);
+    Pangle[1]->setChecked(index == 1);
+    SetHemispherePictures();
+    RefreshMonth();
+    ApplyCurrentLocation();
+}
+
+void FrmCalendar::DLoc_Click(int index)
+{
+    App.Config.CurLoc = static_cast<std::int16_t>(index);
+    for (int i = 1; i <= LocationCount; ++i)
+        DLoc[std::size_t(i)]->setChecked(i == index);
+    // The month redraw rebuilds the year's events for the new zone and hemisphere.
+    ApplyCurrentLocation();
+    RefreshMonth();
+}
+
+void FrmCalendar::Loc_Click(int index)
+{
+    Settings& s = App.Config;
+    s.CurLoc = static_cast<std::int16_t>(index);
+    hide();
+    FrmLocation editor({App.Messages, s.Locations, s.CurLoc, s.DefLoc, ProgramFolder::Path()},
+                       this);
+    editor.setWindowTitle(QStringLiteral("Location #%1 ").arg(index));
+    editor.exec();
+    // However the editor closed, the window comes back at the (possibly edited) location;
+    // the month redraw recomputes the year's events for it.
+    show();
+    ApplyCurrentLocation();
+    RefreshMonth();
+}
+
+void FrmCalendar::HelpContents_Click()
+{
+    HelpWindow help(ProgramFolder::File(QStringLiteral("Quillmere.html")), this);
+    help.exec();
+}
+
+void FrmCalendar::MnuAbout_Click()
+{
+    FrmAbout about(this);
+    about.exec();
+}
+
+// The log's "Database Functions" window, modal, with this window out of view meanwhile.
+void FrmCalendar::RunDataBase_Click()
+{
+    const LogContext context{App.Messages,
+                             App.Log,
+                             App.Astro,
+                             Here.SouthernHemisphere,
+                             App.Config.DaylightBias,
+                             std::uint32_t(App.Config.MoonColor),
+                             App.Cal.CurYear,
+                             ProgramFolder::Path()};
+    hide();
+    FrmSelectDB selectDB(context, this);
+    selectDB.exec();
+    show();
+}
+
+void FrmCalendar::VsbHour_Scroll()
+{
+    Label[15]->setText(Q(FormatClock(0, VsbHour->sliderPosition() / 60.0, App.Config.AmPm())));
+}
+
+void FrmCalendar::Label15_Click()
+{
+    VsbHour->setValue(720);
+    VsbHour->update();
+}
+
+void FrmCalendar::StatusBar1_MouseMove(int xTwips)
+{
+    StatusBar1->setToolTip(xTwips >= 15 && xTwips <= 1995 ? Q(Here.LocationCaption) : QString());
+}
+
+bool FrmCalendar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == StatusBar1 && event->type() == QEvent::MouseMove) {
+        StatusBar1_MouseMove(
+            PixelsToTwips(static_cast<QMouseEvent*>(event)->position().toPoint().x()));
+    } else if (watched == Label[15] && event->type() == QEvent::MouseButtonRelease) {
+        Label15_Click();
+    } else if (watched == PicM && event->type() == QEvent::MouseMove) {
+        PicM_MouseMove();
+    } else if (watched == PicM && event->type() == QEvent::MouseButtonRelease) {
+        PicM_Click();
+    } else if (watched == centralWidget() && event->type() == QEvent::MouseMove) {
+        Form_MouseMove();
+    } else if (event->type() == QEvent::MouseMove) {
+        const auto it = std::find(Label.begin(), Label.end(), watched);
+        if (it != Label.end())
+            ShowLabelToolTip(int(it - Label.begin()));
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void FrmCalendar::mnuexit_Click() { close(); }
+
+void FrmCalendar::RecordPosition()
+{
+    Settings& s = App.Config;
+    if (isMinimized() || isMaximized()) {
+        s.FormTop = "0";
+        s.FormLeft = 0;
+        return;
+    }
+    const auto clamp16 = [](int twips) {
+        return std::clamp(twips, int(std::numeric_limits<std::int16_t>::min()),
+                          int(std::numeric_limits<std::int16_t>::max()));
+    };
+    s.FormTop = std::to_string(clamp16(PixelsToTwips(y())));
+    s.FormLeft = static_cast<std::int16_t>(clamp16(PixelsToTwips(x())));
+}
+
+void FrmCalendar::closeEvent(QCloseEvent* event)
+{
+    RecordPosition();
+    if (!SaveSettings(App.Config, App.Store) &&
+        App.Messages.MsgBox(
+            QStringLiteral("The settings cannot be saved to\n%1\n(the file or its folder is not "
+                           "writable).\n\nClose Quillmere without saving them? Choose No to "
+                           "keep it open while you make the folder writable.")
+                .arg(App.Store.FilePath()),
+            MsgButtons::YesNo, QStringLiteral("Quillmere"),
+            MsgIcon::Exclamation) != MsgResult::Yes) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    QApplication::quit();
+}
+
+void FrmCalendar::PrintCalendar_Click()
+{
+    const BusyPointer busy;
+    if (!PrintWindow)
+        PrintWindow = new FrmPrint(App.Astro, App.Cal, App.Messages, this);
+    PrintWindow->PrintACalendar(Here.SouthernHemisphere);
+}
+
+void FrmCalendar::AtAGlance_Click()
+{
+    auto* glance = new FrmGlance(App.Cal, Here.SouthernHemisphere, App.Messages, this);
+    hide();
+    glance->show();
+}
+
+void FrmCalendar::ShowList_Click()
+{
+    auto* list =
+        new FrmList(App.Astro, App.Cal, Here.CurLocName, App.Config.AmPm(), App.Messages, this);
+    hide();
+    list->show();
+}

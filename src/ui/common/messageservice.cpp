@@ -1,0 +1,91 @@
+#include "ui/common/messageservice.h"
+
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace {
+QMessageBox::StandardButtons ToQt(MsgButtons b)
+{
+    switch (b) {
+    case MsgButtons::OKCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case MsgButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case MsgButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case MsgButtons::RetryCancel:
+        return QMessageBox::Retry | QMessageBox::Cancel;
+    case MsgButtons::SaveDiscardCancel:
+        return QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
+    case MsgButtons::OK:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::Icon ToQt(MsgIcon i)
+{
+    switch (i) {
+    case MsgIcon::Information:
+        return QMessageBox::Information;
+    case MsgIcon::Question:
+        return QMessageBox::Question;
+    case MsgIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MsgIcon::Critical:
+        return QMessageBox::Critical;
+    case MsgIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+MsgResult FromQt(int button)
+{
+    switch (button) {
+    case QMessageBox::Cancel:
+        return MsgResult::Cancel;
+    case QMessageBox::Yes:
+        return MsgResult::Yes;
+    case QMessageBox::No:
+        return MsgResult::No;
+    case QMessageBox::Retry:
+        return MsgResult::Retry;
+    case QMessageBox::Save:
+        return MsgResult::Save;
+    case QMessageBox::Discard:
+        return MsgResult::Discard;
+    default:
+        return MsgResult::OK;
+    }
+}
+} // namespace
+
+MsgResult MessageService::MsgBox(const QString& text, MsgButtons buttons, const QString& title,
+                                 MsgIcon icon)
+{
+    Messages.push_back({text, title, buttons, icon});
+    if (Scripted)
+        return ScriptedMessages ? ScriptedMessages(Messages.back()) : MsgResult::OK;
+    QMessageBox box(ToQt(icon), title, text, ToQt(buttons), Parent);
+    return FromQt(box.exec());
+}
+
+QString MessageService::InputBox(const QString& prompt, const QString& title,
+                                 const QString& defaultText)
+{
+    Inputs.push_back({prompt, title, defaultText});
+    if (Scripted)
+        return ScriptedInputs ? ScriptedInputs(Inputs.back()).value_or(QString()) : defaultText;
+    bool ok = false;
+    const QString text =
+        QInputDialog::getText(Parent, title, prompt, QLineEdit::Normal, defaultText, &ok);
+    return ok ? text : QString();
+}
+
+void MessageService::Script(MessageAnswerer messages, InputAnswerer inputs)
+{
+    Scripted = true;
+    ScriptedMessages = std::move(messages);
+    ScriptedInputs = std::move(inputs);
+}

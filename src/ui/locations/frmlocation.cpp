@@ -1,0 +1,319 @@
+#include "ui/locations/frmlocation.h"
+
+#include "db/citydb.h"
+#include "model/locationrules.h"
+#include "ui/common/messageservice.h"
+#include "ui/locations/editdb.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QShowEvent>
+
+#include <cmath>
+
+namespace {
+
+QString Q(const std::string& text) { return QString::fromStdString(text); }
+
+QScrollBar* DegreeBar(QWidget* parent, int maximum, const QRect& geometry)
+{
+    auto* bar = new QScrollBar(Qt::Vertical, parent);
+    bar->setRange(0, maximum);
+    bar->setGeometry(geometry);
+    return bar;
+}
+
+QLineEdit* Box(QWidget* parent, const char* tip, const QRect& geometry)
+{
+    auto* box = new QLineEdit(parent);
+    box->setToolTip(QString::fromLatin1(tip));
+    box->setGeometry(geometry);
+    return box;
+}
+
+QRadioButton* Option(QWidget* parent, const char* caption, const char* tip, int x, int y)
+{
+    auto* option = new QRadioButton(QString::fromLatin1(caption), parent);
+    option->setToolTip(QString::fromLatin1(tip));
+    option->setGeometry(x, y, 40, 22);
+    return option;
+}
+
+QLabel* Caption(QWidget* parent, const QString& text, const QRect& geometry)
+{
+    auto* label = new QLabel(text, parent);
+    label->setGeometry(geometry);
+    return label;
+}
+
+} // namespace
+
+FrmLocation::FrmLocation(const LocationContext& context, QWidget* parent)
+    : QDialog(parent), Ctx(context)
+{
+    setWindowTitle(QStringLiteral("User Location"));
+    BuildControls();
+    ConnectHandlers();
+    Form_Load();
+}
+
+void FrmLocation::BuildControls()
+{
+    setFixedSize(480, 340);
+    Caption(this, QStringLiteral("Longitude"), {10, 8, 120, 18});
+    Text[0] = Box(this, " Integer Degrees of Longitude ", {10, 30, 44, 24});
+    VsbDegLon = DegreeBar(this, 180, {56, 28, 16, 28});
+    Text[1] = Box(this, " Decimal degreesof longitude = Minutes/60 ", {78, 30, 34, 24});
+    VsbFracLon = DegreeBar(this, 99, {114, 28, 16, 28});
+    SSOption[0] = Option(this, "W", " Selects West Longitudes ", 142, 31);
+    SSOption[1] = Option(this, "E", " Selects East Longitudes ", 186, 31);
+    Caption(this, QStringLiteral("Latitude"), {10, 64, 120, 18});
+    Text[2] = Box(this, " Integer Degrees of Latitude ", {10, 86, 44, 24});
+    VsbDegLat = DegreeBar(this, 90, {56, 84, 16, 28});
+    Text[3] = Box(this, " Decimal Degress of Latitude = Minutes/60 ", {78, 86, 34, 24});
+    VsbFracLat = DegreeBar(this, 99, {114, 84, 16, 28});
+    SSOption[2] = Option(this, "N", " Selects North Latitudes ", 142, 87);
+    SSOption[3] = Option(this, "S", " Selects South Latitudes ", 186, 87);
+    for (int i = 0; i < 4; ++i)
+        Text[std::size_t(i)]->setReadOnly(true); // the scroll bars set them
+    for (int pair = 0; pair < 2; ++pair) {
+        auto* group = new QButtonGroup(this);
+        group->addButton(SSOption[std::size_t(2 * pair)]);
+        group->addButton(SSOption[std::size_t(2 * pair + 1)]);
+    }
+
+    Caption(this, QStringLiteral("Name"), {10, 120, 120, 18});
+    Text[4] = Box(this, " Name of Location ", {10, 140, 270, 24});
+    Text[6] = Box(this, " Current Default Location ", {10, 174, 70, 24});
+    Text[6]->setText(QStringLiteral("Default"));
+    Text[5] = Box(this, " Name of current Default Location ", {84, 174, 196, 24});
+    Text[5]->setReadOnly(true);
+    Text[6]->setReadOnly(true);
+
+    Caption(this, QStringLiteral("Time Zone"), {300, 8, 170, 18});
+    List1 = new QListWidget(this);
+    List1->setGeometry(300, 30, 170, 168);
+    List1->setToolTip(QStringLiteral(" Click on Desired Time Zone "));
+
+    Caption(this, QStringLiteral("  State                   City"), {10, 208, 300, 18});
+    for (std::size_t i = 0; i < 2; ++i)
+        Combo[i] = new QComboBox(this);
+    Combo[0]->setGeometry(10, 228, 190, 26);
+    Combo[1]->setGeometry(206, 228, 264, 26);
+    CityNote = Caption(this, {}, {10, 258, 460, 34});
+    CityNote->setWordWrap(true);
+
+    CmdDefault = new QPushButton(QStringLiteral("Make Default"), this);
+    CmdDefault->setToolTip(QStringLiteral(" Make Displayed Data the Default "));
+    CmdDefault->setGeometry(10, 300, 120, 30);
+    CmdEdit = new QPushButton(QStringLiteral("Edit DB"), this);
+    CmdEdit->setGeometry(140, 300, 120, 30);
+    CloseLocation = new QPushButton(QStringLiteral("&Done"), this);
+    CloseLocation->setToolTip(QStringLiteral(" Click When Finished "));
+    CloseLocation->setGeometry(350, 300, 120, 30);
+}
+
+void FrmLocation::ConnectHandlers()
+{
+    connect(VsbDegLon, &QScrollBar::valueChanged, this, &FrmLocation::VsbDegLon_Change);
+    connect(VsbFracLon, &QScrollBar::valueChanged, this, &FrmLocation::VsbFracLon_Change);
+    connect(VsbDegLat, &QScrollBar::valueChanged, this, &FrmLocation::VsbDegLat_Change);
+    connect(VsbFracLat, &QScrollBar::valueChanged, this, &FrmLocation::VsbFracLat_Change);
+    connect(List1, &QListWidget::currentRowChanged, this, &FrmLocation::List1_Click);
+    for (int i = 0; i < 2; ++i)
+        connect(Combo[std::size_t(i)], &QComboBox::activated, this, [this, i] { Combo_Click(i); });
+    connect(CmdDefault, &QPushButton::clicked, this, &FrmLocation::CmdDefault_Click);
+    connect(CmdEdit, &QPushButton::clicked, this, &FrmLocation::CmdEdit_Click);
+    connect(CloseLocation, &QPushButton::clicked, this, &FrmLocation::CloseLocation_Click);
+}
+
+Location& FrmLocation::Current() { return Ctx.Locations[std::size_t(Ctx.CurLoc)]; }
+
+void FrmLocation::Form_Load()
+{
+    Filling = true;
+    for (const TimeZoneEntry& entry : TimeZoneEntries()) {
+        auto* item = new QListWidgetItem(Q(entry.Text), List1);
+        item->setData(Qt::UserRole, int(entry.Value));
+    }
+    SelectTimeZone(Current().TimeZone);
+}
+
+void FrmLocation::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        Form_Activate();
+}
+
+void FrmLocation::Form_Activate()
+{
+    Populate();
+    Filling = false;
+    ComboFilling = true;
+    FillStates();
+    ComboFilling = false;
+}
+
+void FrmLocation::SelectTimeZone(int zone)
+{
+    ChosenTimeZone = std::int16_t(zone);
+    List1->setCurrentRow(IsListedTimeZone(zone) ? TimeZoneListPosition(zone) : -1);
+}
+
+void FrmLocation::Populate()
+{
+    const Location& loc = Current();
+    const DegreeParts lon = SplitDegrees(loc.Longitude);
+    const DegreeParts lat = SplitDegrees(loc.Latitude);
+    VsbDegLon->setValue(lon.Whole);
+    VsbFracLon->setValue(lon.Hundredths);
+    VsbDegLat->setValue(lat.Whole);
+    VsbFracLat->setValue(lat.Hundredths);
+    // A value that did not change sends no change event; the boxes are written anyway.
+    VsbDegLon_Change();
+    VsbFracLon_Change();
+    VsbDegLat_Change();
+    VsbFracLat_Change();
+    SSOption[loc.Longitude < 0 ? 1 : 0]->setChecked(true);
+    SSOption[loc.Latitude < 0 ? 3 : 2]->setChecked(true);
+    SelectTimeZone(loc.TimeZone);
+    Text[4]->setText(Q(loc.Name));
+    Text[5]->setText(Q(Ctx.Locations[std::size_t(DefaultLocationNumber(Ctx.DefLoc))].Name));
+}
+
+void FrmLocation::VsbDegLon_Change() { Text[0]->setText(Q(Pad(VsbDegLon->value()))); }
+void FrmLocation::VsbFracLon_Change() { Text[1]->setText(Q(PadFrac(VsbFracLon->value()))); }
+void FrmLocation::VsbDegLat_Change() { Text[2]->setText(Q(PadFrac(VsbDegLat->value()))); }
+void FrmLocation::VsbFracLat_Change() { Text[3]->setText(Q(PadFrac(VsbFracLat->value()))); }
+
+void FrmLocation::List1_Click()
+{
+    if (Filling || List1->currentItem() == nullptr)
+        return;
+    ChosenTimeZone = std::int16_t(List1->currentItem()->data(Qt::UserRole).toInt());
+}
+
+void FrmLocation::ShowCityNote(const QString& text)
+{
+    CityNote->setText(text);
+    CityNote->setVisible(!text.isEmpty());
+}
+
+bool FrmLocation::FillStates()
+{
+    CityDb::Attach(Data1, Ctx.Folder);
+    Data1.SetRecordSource(QStringLiteral("Select Distinct State from Table1"));
+    Combo[0]->clear();
+    Combo[1]->clear();
+    const DbResult read = Data1.Refresh();
+    if (!read) {
+        ShowCityNote(CityDb::Unreadable(Ctx.Folder, read.Message));
+        return false;
+    }
+    Data1.MoveLast();
+    Data1.MoveFirst();
+    Combo[0]->addItems(CityDb::FieldValues(Data1, QStringLiteral("State")));
+    Combo[0]->setCurrentIndex(-1);
+    ShowCityNote(Combo[0]->count() == 0
+                     ? QStringLiteral("The city list holds no cities; type the place by hand.")
+                     : QString());
+    return true;
+}
+
+void FrmLocation::FillCities(const QString& state)
+{
+    Data1.SetRecordSource(
+        QStringLiteral("Select * from Table1 where State = ? Order by State, City"), {state});
+    Combo[1]->clear();
+    if (const DbResult read = Data1.Refresh(); !read) {
+        ShowCityNote(CityDb::Unreadable(Ctx.Folder, read.Message));
+        return;
+    }
+    Data1.MoveLast();
+    Data1.MoveFirst();
+    Combo[1]->addItems(CityDb::FieldValues(Data1, QStringLiteral("City")));
+    Combo[1]->setCurrentIndex(-1);
+}
+
+void FrmLocation::Combo_Click(int index)
+{
+    if (ComboFilling)
+        return;
+    if (index == 0)
+        FillCities(Combo[0]->currentText());
+    else
+        PickCity(Combo[0]->currentText(), Combo[1]->currentText());
+}
+
+void FrmLocation::PickCity(const QString& state, const QString& city)
+{
+    Data1.SetRecordSource(QStringLiteral("Select * from Table1 where State = ? AND City = ? "),
+                          {state, city});
+    if (const DbResult read = Data1.Refresh(); !read) {
+        Ctx.Messages.MsgBox(CityDb::Unreadable(Ctx.Folder, read.Message));
+        return;
+    }
+    const QString place = city + QStringLiteral(", ") + state;
+    if (Data1.RecordCount() == 0) {
+        Ctx.Messages.MsgBox(place + QStringLiteral(" is no longer in the city list."));
+        return;
+    }
+    const auto lon = NumberOf(Data1.Field(QStringLiteral("LongInDegrees")));
+    const auto lat = NumberOf(Data1.Field(QStringLiteral("LatInDegrees")));
+    const auto zone = NumberOf(Data1.Field(QStringLiteral("Timezone")));
+    if (!lon || !lat || !zone || std::fabs(*lon) > 180 || std::fabs(*lat) > 90 ||
+        *zone != std::trunc(*zone) || !IsListedTimeZone(int(*zone))) {
+        Ctx.Messages.MsgBox(QStringLiteral("The city list's record of %1 lacks a usable longitude, "
+                                           "latitude or whole-hour time zone (-12 to 12).")
+                                .arg(place));
+        return;
+    }
+    const DegreeParts lonParts = SplitDegrees(*lon);
+    const DegreeParts latParts = SplitDegrees(*lat);
+    VsbDegLon->setValue(lonParts.Whole);
+    VsbFracLon->setValue(lonParts.Hundredths);
+    VsbDegLat->setValue(latParts.Whole);
+    VsbFracLat->setValue(latParts.Hundredths);
+    const auto letter = [this](const char* field) {
+        return Data1.Field(QString::fromLatin1(field)).toString().trimmed().toUpper();
+    };
+    SSOption[letter("LongChar") == "W" ? 0 : 1]->setChecked(true);
+    SSOption[letter("LatChar") == "S" ? 3 : 2]->setChecked(true);
+    SelectTimeZone(int(*zone));
+    Text[4]->setText(place);
+}
+
+void FrmLocation::CmdDefault_Click()
+{
+    Ctx.DefLoc = std::to_string(Ctx.CurLoc);
+    Current().Name = Text[4]->text().toStdString();
+    Text[5]->setText(Text[4]->text());
+}
+
+void FrmLocation::CmdEdit_Click()
+{
+    if (ShowEditor) {
+        ShowEditor();
+    } else {
+        EditDB editor(Ctx.Messages, Ctx.Folder, this);
+        editor.exec();
+    }
+    Form_Activate(); // back from the editor: the fields and the state list again
+}
+
+void FrmLocation::CloseLocation_Click()
+{
+    Location& loc = Current();
+    loc.Longitude = JoinDegrees(VsbDegLon->value(), VsbFracLon->value(), SSOption[1]->isChecked());
+    loc.Latitude = JoinDegrees(VsbDegLat->value(), VsbFracLat->value(), SSOption[3]->isChecked());
+    loc.TimeZone = ChosenTimeZone;
+    loc.Name = Text[4]->text().toStdString();
+    accept();
+}

@@ -1,0 +1,96 @@
+// "User Location": edits the current one of the ten locations. Degrees and hundredths of
+// longitude and latitude are set with scroll bars and E/W, N/S options, the time zone is
+// picked from a list, the name is typed; or a state and a city picked from the city database
+// fill them all. "&Done" stores the edit; closing the window any other way stores nothing.
+#pragma once
+
+#include "db/datacontrol.h"
+#include "model/location.h"
+
+#include <QDialog>
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+class MessageService;
+class QButtonGroup;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QRadioButton;
+class QScrollBar;
+
+// What the editor works on: the ten locations, the current and the default one, the folder
+// that holds Encdb.MDB.
+struct LocationContext {
+    MessageService& Messages;
+    LocationTable& Locations;
+    std::int16_t& CurLoc;
+    std::string& DefLoc;
+    QString Folder;
+};
+
+class FrmLocation : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit FrmLocation(const LocationContext& context, QWidget* parent = nullptr);
+
+    // Handlers, connected explicitly and callable from tests.
+    void Form_Load();
+    void Form_Activate();
+    void VsbDegLon_Change();
+    void VsbFracLon_Change();
+    void VsbDegLat_Change();
+    void VsbFracLat_Change();
+    void List1_Click();
+    void Combo_Click(int index);
+    void CmdDefault_Click();
+    void CmdEdit_Click();
+    void CloseLocation_Click();
+
+    // Copies the current location into the controls.
+    void Populate();
+
+    // Opens the city database editor, modally; tests put their own in its place.
+    std::function<void()> ShowEditor;
+
+    std::array<QLineEdit*, 7> Text{};
+    QScrollBar* VsbDegLon = nullptr;
+    QScrollBar* VsbFracLon = nullptr;
+    QScrollBar* VsbDegLat = nullptr;
+    QScrollBar* VsbFracLat = nullptr;
+    std::array<QRadioButton*, 4> SSOption{}; // 0 W, 1 E, 2 N, 3 S
+    QListWidget* List1 = nullptr;
+    std::array<QComboBox*, 2> Combo{}; // State, City
+    QLabel* CityNote = nullptr;        // says why the city lists are empty
+    QPushButton* CmdDefault = nullptr;
+    QPushButton* CmdEdit = nullptr;
+    QPushButton* CloseLocation = nullptr;
+    DataControl Data1;
+
+    // The zone chosen in the list, stored into the location by "&Done".
+    std::int16_t ChosenTimeZone = 0;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void BuildControls();
+    void ConnectHandlers();
+    Location& Current();
+    void SelectTimeZone(int zone);
+    void ShowCityNote(const QString& text);
+    // The state list from the city database; false with the reason shown when it cannot be read.
+    bool FillStates();
+    void FillCities(const QString& state);
+    void PickCity(const QString& state, const QString& city);
+
+    LocationContext Ctx;
+    bool Filling = true;       // from load until Populate: list clicks change nothing
+    bool ComboFilling = false; // while the state list is filled: combo clicks change nothing
+};

@@ -1,0 +1,616 @@
+#include "ui/log/frmtable1.h"
+
+#include "astro/astronomy.h"
+#include "db/storedforms.h"
+#include "logdb/filldata.h"
+#include "logdb/querybuilder.h"
+#include "logdb/queryrun.h"
+#include "pages/moonpicture.h"
+#include "pages/twips.h"
+#include "ui/common/busypointer.h"
+#include "ui/common/databar.h"
+#include "ui/common/messageservice.h"
+#include "ui/log/controlstate.h"
+#include "ui/log/frmstatistics.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSessionManager>
+#include <QToolTip>
+
+#include <functional>
+
+namespace {
+
+constexpr int TakenWithLength = 255;
+const QString TakenWithLimitText = QStringLiteral("Taken With holds at most 255 characters.");
+
+// A bound box: how it shows a stored value, and the entry it has for Update, if any.
+class BoundBox : public BoundControl {
+public:
+    BoundBox(
+        std::function<void(const QVariant&)> show,
+        std::function<std::optional<QVariant>()> edited = [] { return std::optional<QVariant>(); })
+        : show_(std::move(show)), edited_(std::move(edited))
+    {
+    }
+    void ShowValue(const QVariant& stored) override { show_(stored); }
+    std::optional<QVariant> EditedValue() const override { return edited_(); }
+
+private:
+    std::function<void(const QVariant&)> show_;
+    std::function<std::optional<QVariant>()> edited_;
+};
+
+// A stored date or time in a display pattern; other values as their text.
+QString Shown(const QVariant& stored, const char* pattern)
+{
+    if (stored.isNull())
+        return {};
+    const auto text = FormatStored(stored.toString().toStdString(), pattern);
+    return text ? QString::fromStdString(*text) : stored.toString();
+}
+
+// "12:00 AM", "1:00 AM", ..., "11:00 PM".
+QStringList HourTexts()
+{
+    QStringList hours;
+    for (const char* half : {" AM", " PM"}) {
+        hours << QStringLiteral("12:00") + half;
+        for (int h = 1; h <= 11; ++h)
+            hours << QString::number(h) + QStringLiteral(":00") + half;
+    }
+    return hours;
+}
+
+QStringList NumberTexts(int from, int to)
+{
+    QStringList numbers;
+    for (int n = from; n <= to; ++n)
+        numbers << QString::number(n);
+    return numbers;
+}
+
+// A fish filled from the tail to the given share of its length: the day's rating.
+QPixmap RatingFish(double share)
+{
+    QPixmap picture(52, 22);
+    picture.fill(Qt::transparent);
+    QPainterPath fish;
+    fish.addEllipse(QRectF(13, 3, 36, 16));
+    fish.addPolygon(QPolygonF({QPointF(16, 11), QPointF(2, 3), QPointF(2, 19), QPointF(16, 11)}));
+    fish.setFillRule(Qt::WindingFill);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(QRectF(0, 0, 2 + 47 * share, 22));
+    painter.fillPath(fish, QColor(0, 128, 128));
+    painter.setClipping(false);
+    painter.setPen(QPen(QColor(0, 64, 64), 1.2));
+    painter.drawPath(fish.simplified());
+    painter.setBrush(Qt::black);
+    painter.drawEllipse(QPointF(42, 9), 1.5, 1.5);
+    return picture;
+}
+
+QLineEdit* NewBox(QWidget* parent, const QString& name)
+{
+    auto* box = new QLineEdit(parent);
+    box->setObjectName(name);
+    box->setReadOnly(true);
+    return box;
+}
+
+QLabel* Caption(const QString& text, QWidget* parent)
+{
+    auto* label = new QLabel(text, parent);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return label;
+}
+
+} // namespace
+
+frmTable1::frmTable1(const LogContext& context, QWidget* parent) : QDialog(parent), Ctx(context)
+{
+    setWindowTitle(QStringLiteral("Quillmere DataBase"));
+    setModal(true);
+    BuildControls();
+    Form_Load();
+    WatchTheWayOut();
+}
+
+void frmTable1::WatchTheWayOut()
+{
+    if (parentWidget()) {
+        Owner = parentWidget()->window();
+        Owner->installEventFilter(this);
+    }
+    // Quitting closes the windows first, so closeEvent asks and Cancel stops it; so does a
+    // desktop session that ends. An end that cannot be refused still asks, and a Cancel
+    // there keeps the entry the only way left: saved.
+    if (auto* app = qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+        connect(app, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
+            if (!ConfirmLeaveEditing())
+                session.cancel();
+        });
+    }
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
+        if (!ConfirmLeaveEditing())
+            cmdUpdate_Click();
+    });
+}
+
+frmTable1::~frmTable1()
+{
+    for (const auto& binding : Bindings)
+        Data1.Unbind(binding.get());
+    Data1.Close();
+}
+
+void frmTable1::BuildControls()
+{
+    auto* bar = new QMenuBar(this);
+    mnuExit = bar->addAction(QStringLiteral("Close"));
+    mnuExit->setObjectName(QStringLiteral("mnuExit"));
+    connect(mnuExit, &QAction::triggered, this, &frmTable1::mnuExit_Click);
+    BuildQueryMenus(bar);
+    bar->addAction("Statistics", this, [this] { ShowStatistics(Ctx, Data1.DatabaseName(), this); });
+
+    Data1Bar = new DataBar(Data1, this);
+    auto* layout = new QGridLayout(this);
+    layout->setMenuBar(bar);
+    layout->addWidget(BuildDayPanel(), 0, 0);
+    layout->addWidget(BuildCatchPanel(), 0, 1);
+    layout->addWidget(BuildQueryPanel(), 0, 2, 2, 1);
+    layout->addWidget(Data1Bar, 1, 0, 1, 2);
+    layout->setColumnStretch(0, 3);
+    layout->setColumnStretch(1, 2);
+    layout->setColumnStretch(2, 2);
+
+    connect(&Data1, &DataControl::Reposition, this, &frmTable1::Data1_Reposition);
+    connect(Data1Bar, &DataBar::Error, this, &frmTable1::Data1_Error);
+}
+
+QWidget* frmTable1::BuildDayPanel()
+{
+    auto* panel = new QGroupBox(this);
+    auto* grid = new QGridLayout(panel);
+    for (int i : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 17, 18})
+        txtFields[std::size_t(i)] = NewBox(panel, QStringLiteral("txtFields%1").arg(i));
+    // The four time boxes lie under their displays, which show them as clock texts.
+    const std::array<int, 4> under = {9, 10, 2, 3};
+    for (std::size_t k = 0; k < FakeTextBox.size(); ++k) {
+        FakeTextBox[k] = NewBox(panel, QStringLiteral("FakeTextBox%1").arg(k));
+        txtFields[std::size_t(under[k])]->hide();
+    }
+    Text3 = NewBox(panel, QStringLiteral("Text3"));
+    Text4 = NewBox(panel, QStringLiteral("Text4"));
+    Text5 = NewBox(panel, QStringLiteral("Text5"));
+    Label7 = new QLabel(panel);
+    Label7->setObjectName(QStringLiteral("Label7"));
+
+    const auto pair = [grid, panel](int row, int column, const QString& caption, QWidget* box,
+                                    int span = 1) {
+        grid->addWidget(Caption(caption, panel), row, column);
+        grid->addWidget(box, row, column + 1, 1, span);
+    };
+    pair(0, 0, QStringLiteral("DBID:"), txtFields[0]);
+    pair(0, 2, QStringLiteral("JulianDate:"), txtFields[1]);
+    pair(1, 0, QStringLiteral("SunRise:"), FakeTextBox[2]);
+    pair(1, 2, QStringLiteral("SunSet:"), FakeTextBox[3]);
+    pair(2, 0, QStringLiteral("MoonRise:"), txtFields[7]);
+    pair(2, 2, QStringLiteral("MoonSet:"), txtFields[8]);
+    pair(3, 0, QStringLiteral("Major1:"), FakeTextBox[0]);
+    pair(3, 2, QStringLiteral("Major2:"), FakeTextBox[1]);
+    pair(4, 0, QStringLiteral("Minor1:"), txtFields[11]);
+    pair(4, 2, QStringLiteral("Minor2:"), txtFields[12]);
+    pair(5, 0, QStringLiteral("CivilTwilight:"), txtFields[4], 3);
+    pair(6, 0, QStringLiteral("NauticalTwilight:"), txtFields[5], 3);
+    pair(7, 0, QStringLiteral("AstronomicalTwilight:"), txtFields[6], 3);
+    pair(8, 0, QStringLiteral("IllumPercent:"), txtFields[13]);
+    pair(8, 2, QStringLiteral("MoonAge:"), txtFields[15]);
+    pair(9, 0, QStringLiteral("GraphicType:"), txtFields[14]);
+    pair(9, 2, QStringLiteral("Waxing:"), Label7);
+    pair(10, 0, QStringLiteral("Day of Year"), Text3);
+    pair(10, 2, QStringLiteral("Day Light Hrs:"), Text5);
+    pair(11, 0, QStringLiteral("DaylightHours:"), Text4);
+    grid->setRowStretch(12, 1);
+    return panel;
+}
+
+QWidget* frmTable1::BuildCatchPanel()
+{
+    auto* panel = new QWidget(this);
+    auto* grid = new QGridLayout(panel);
+    grid->setContentsMargins(0, 0, 0, 0);
+    Label3 = new QLabel(panel);
+    Label3->setObjectName(QStringLiteral("Label3"));
+    QFont heading = Label3->font();
+    heading.setPointSize(heading.pointSize() + 3);
+    heading.setBold(true);
+    Label3->setFont(heading);
+    grid->addWidget(Label3, 0, 0, 1, 3);
+
+    PicM = new QLabel(panel);
+    PicM->setObjectName(QStringLiteral("PicM"));
+    PicM->setFixedSize(80, 80);
+    grid->addWidget(PicM, 1, 0, 3, 1);
+    std::array<QLabel**, 4> fish = {&QuarterFish, &HalfFish, &ThreeQuarterfish, &WholeFish};
+    for (std::size_t k = 0; k < fish.size(); ++k) {
+        *fish[k] = new QLabel(panel);
+        (*fish[k])->setPixmap(RatingFish(double(k + 1) / 4.0));
+        (*fish[k])->hide();
+        grid->addWidget(*fish[k], 1, 1, 1, 2, Qt::AlignLeft);
+    }
+    QuarterFish->setObjectName(QStringLiteral("QuarterFish"));
+    HalfFish->setObjectName(QStringLiteral("HalfFish"));
+    ThreeQuarterfish->setObjectName(QStringLiteral("ThreeQuarterfish"));
+    WholeFish->setObjectName(QStringLiteral("WholeFish"));
+    Label8 = new QLabel(panel);
+    Label8->setObjectName(QStringLiteral("Label8"));
+    Label8->setStyleSheet(QStringLiteral("color: #c00000; font-weight: bold"));
+    grid->addWidget(Label8, 2, 1, 1, 2);
+    Label9 = new QLabel(panel);
+    Label9->setObjectName(QStringLiteral("Label9"));
+    grid->addWidget(Label9, 3, 1, 1, 2);
+
+    auto* catchBox = new QGroupBox(panel);
+    auto* form = new QGridLayout(catchBox);
+    Combo4 = new QComboBox(catchBox);
+    Combo4->setObjectName(QStringLiteral("Combo4"));
+    Combo4->hide();
+    PeakTimeCombo = new QComboBox(catchBox);
+    PeakTimeCombo->setObjectName(QStringLiteral("PeakTimeCombo"));
+    Text7 = new QPlainTextEdit(catchBox);
+    Text7->setObjectName(QStringLiteral("Text7"));
+    txtFields[17]->setParent(catchBox);
+    txtFields[18]->setParent(catchBox);
+    // The column holds 255 characters; the box takes no more and says so when it refuses.
+    txtFields[18]->setMaxLength(TakenWithLength);
+    txtFields[18]->setToolTip(TakenWithLimitText);
+    connect(txtFields[18], &QLineEdit::inputRejected, this, [this] {
+        QToolTip::showText(txtFields[18]->mapToGlobal(QPoint(0, txtFields[18]->height())),
+                           TakenWithLimitText, txtFields[18]);
+    });
+    txtFields[17]->installEventFilter(this);
+    form->addWidget(Caption(QStringLiteral("Total Taken:"), catchBox), 0, 0);
+    form->addWidget(txtFields[17], 0, 1);
+    form->addWidget(Combo4, 0, 2);
+    form->addWidget(Caption(QStringLiteral("Taken With:"), catchBox), 1, 0);
+    form->addWidget(txtFields[18], 1, 1, 1, 2);
+    form->addWidget(Caption(QStringLiteral("Peak Time:"), catchBox), 2, 0);
+    form->addWidget(PeakTimeCombo, 2, 1, 1, 2);
+    form->addWidget(Caption(QStringLiteral("Notes:"), catchBox), 3, 0, Qt::AlignTop);
+    form->addWidget(Text7, 3, 1, 1, 2);
+    grid->addWidget(catchBox, 4, 0, 1, 3);
+
+    cmdEdit = new QPushButton(QStringLiteral("Edit"), panel);
+    cmdEdit->setObjectName(QStringLiteral("cmdEdit"));
+    cmdEdit->setToolTip(QStringLiteral(" Click To Edit Record "));
+    cmdUpdate = new QPushButton(QStringLiteral("&Update"), panel);
+    cmdUpdate->setObjectName(QStringLiteral("cmdUpdate"));
+    cmdUpdate->setToolTip(QStringLiteral(" Click To Update Record "));
+    for (QPushButton* b : {cmdEdit, cmdUpdate})
+        b->setAutoDefault(false);
+    grid->addWidget(cmdEdit, 5, 0);
+    grid->addWidget(cmdUpdate, 5, 1);
+    grid->setRowStretch(4, 1);
+
+    connect(cmdEdit, &QPushButton::clicked, this, &frmTable1::cmdEdit_Click);
+    connect(cmdUpdate, &QPushButton::clicked, this, &frmTable1::cmdUpdate_Click);
+    connect(Combo4, &QComboBox::activated, this, &frmTable1::Combo4_Click);
+    return panel;
+}
+
+void frmTable1::BindControls()
+{
+    const auto bindBox = [this](int index, const QString& field, const char* pattern = "") {
+        QLineEdit* box = txtFields[std::size_t(index)];
+        Bindings.push_back(std::make_unique<BoundBox>(
+            [box, pattern](const QVariant& v) {
+                box->setText(Shown(v, pattern));
+                box->setCursorPosition(0); // long values show their beginning
+                box->setModified(false);
+            },
+            [box]() {
+                return box->isModified() ? std::optional<QVariant>(box->text()) : std::nullopt;
+            }));
+        Data1.Bind(field, Bindings.back().get());
+    };
+    bindBox(0, QStringLiteral("DBID"));
+    bindBox(1, QStringLiteral("JulianDate"), "mm/dd/yyyy");
+    bindBox(2, QStringLiteral("SunRise"), "hh:mm AMPM");
+    bindBox(3, QStringLiteral("SunSet"), "hh:mm AMPM");
+    bindBox(4, QStringLiteral("CivilTwilight"));
+    bindBox(5, QStringLiteral("NauticalTwilight"));
+    bindBox(6, QStringLiteral("AstronomicalTwilight"));
+    bindBox(9, QStringLiteral("Major1"), "hh:mm AMPM");
+    bindBox(10, QStringLiteral("Major2"), "hh:mm AMPM");
+    bindBox(13, QStringLiteral("IllumPercent"));
+    bindBox(14, QStringLiteral("GraphicType"));
+    bindBox(15, QStringLiteral("MoonAge"));
+    bindBox(17, QStringLiteral("TotalTaken"));
+    bindBox(18, QStringLiteral("TakenWith"));
+
+    Bindings.push_back(std::make_unique<BoundBox>([this](const QVariant& v) {
+        // 15 significant digits, as the log has always shown a double.
+        const auto hours = NumberOf(v);
+        Text4->setText(hours ? QString::number(*hours, 'g', 15) : v.toString());
+        Text4->setCursorPosition(0);
+    }));
+    Data1.Bind(QStringLiteral("DaylightHours"), Bindings.back().get());
+
+    // The combo's entry counts as edited once the user picks one.
+    auto picked = std::make_shared<bool>(false);
+    connect(PeakTimeCombo, &QComboBox::activated, this, [picked] { *picked = true; });
+    Bindings.push_back(std::make_unique<BoundBox>(
+        [this, picked](const QVariant& v) {
+            PeakTimeCombo->setCurrentIndex(PeakTimeCombo->findText(v.toString()));
+            *picked = false;
+        },
+        [this, picked]() {
+            return *picked ? std::optional<QVariant>(PeakTimeCombo->currentText()) : std::nullopt;
+        }));
+    Data1.Bind(QStringLiteral("PeakTime"), Bindings.back().get());
+
+    Bindings.push_back(std::make_unique<BoundBox>(
+        [this](const QVariant& v) {
+            Text7->setPlainText(v.toString());
+            Text7->document()->setModified(false);
+        },
+        [this]() {
+            return Text7->document()->isModified() ? std::optional<QVariant>(Text7->toPlainText())
+                                                   : std::nullopt;
+        }));
+    Data1.Bind(QStringLiteral("Notes"), Bindings.back().get());
+}
+
+void frmTable1::Form_Load()
+{
+    Data1.SetDatabaseName(Ctx.State.DBPath);
+    // Catch entries made while a query result is shown are kept in the log table too.
+    Data1.SetMirrorTable(QStringLiteral("table1"));
+    Label9->setText(QStringLiteral("Sorted by Date"));
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        resize(screen->availableGeometry().size());
+    PeakTimeCombo->addItems(HourTexts());
+    Combo4->addItems(NumberTexts(0, 100));
+    TimeCombo->addItems(HourTexts());
+    Combo2->addItems(NumberTexts(0, 100));
+    MonthList->addItems(NumberTexts(1, 12));
+    DOWList->addItems(NumberTexts(1, 7) << QStringLiteral("Sat-Sun") << QStringLiteral("Fri-Sun"));
+    for (const Ordering& order : Orderings())
+        SortByCombo->addItem(QStringOf(order.Entry));
+    const QueryForm start;
+    ShowQueryValues(start);
+    BindControls();
+    SetBrowsing(true);
+    FirstActivation = true;
+}
+
+void frmTable1::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    Form_Activate();
+}
+
+void frmTable1::Form_Activate()
+{
+    if (FirstActivation) {
+        FirstActivation = false;
+        Data1.SetRecordSource(QStringLiteral("Select * from table1 order by juliandate"));
+        DbResult opened = Data1.Refresh();
+        opened = opened ? Data1.MoveLast() : opened;
+        opened = opened ? Data1.MoveFirst() : opened;
+        if (!opened)
+            Data1_Error(opened.Message);
+    }
+    if (Ctx.State.FindRecord) {
+        if (const DbResult found =
+                Data1.FindFirst(QStringLiteral("dbid = ") + QString::number(Ctx.State.FindDBID));
+            !found)
+            Data1_Error(found.Message);
+        // Found once: later activations (after the report, say) stay on the shown record.
+        Ctx.State.FindRecord = false;
+    }
+}
+
+void frmTable1::Data1_Reposition()
+{
+    const BusyPointer busy;
+    Data1Bar->SetCaption(QStringLiteral("Record: ") +
+                         QString::number(Data1.AbsolutePosition() + 1) + QStringLiteral(" of ") +
+                         QString::number(Data1.RecordCount()) + QStringLiteral(" Record(s)"));
+    ShowTimes();
+    ShowNotes();
+    ShowMoon();
+}
+
+void frmTable1::ShowTimes()
+{
+    const std::array<const char*, 4> fakes = {"Major1", "Major2", "SunRise", "SunSet"};
+    for (std::size_t k = 0; k < fakes.size(); ++k) {
+        if (Data1.FieldIndex(fakes[k]) >= 0)
+            FakeTextBox[k]->setText(Shown(Data1.Field(fakes[k]), "hh:mm AMPM"));
+    }
+    const bool ampm = Ctx.Engine.Site.AMPM;
+    const std::array<std::pair<int, const char*>, 4> hours = {
+        {{7, "MoonRise"}, {8, "MoonSet"}, {11, "Minor1"}, {12, "Minor2"}}};
+    for (const auto& [index, field] : hours) {
+        if (Data1.FieldIndex(field) < 0)
+            continue;
+        const auto value = NumberOf(Data1.Field(field));
+        txtFields[std::size_t(index)]->setText(
+            value && *value >= 0 ? QString::fromStdString(FormatClock(0, *value, ampm))
+                                 : QStringLiteral("*****"));
+    }
+    if (const auto light = NumberOf(Data1.Field("DaylightHours")))
+        Text5->setText(QString::fromStdString(FormatClock(3, *light, ampm)));
+}
+
+void frmTable1::ShowNotes()
+{
+    if (const auto perigee = NumberOf(Data1.Field("Perigee"))) {
+        const int p = int(*perigee);
+        Label8->setVisible(p != 0);
+        Label8->setText(p == -1  ? QStringLiteral("Day before/after perigee")
+                        : p == 1 ? QStringLiteral("Perigee")
+                        : p == 2 ? QStringLiteral("Apogee")
+                                 : QString());
+    }
+    const QVariant date = Data1.Field("JulianDate");
+    if (!date.isNull()) {
+        Label3->setText(Shown(date, "ddd, mmmm,dd,yyyy"));
+        Text3->setText(Shown(date, "y"));
+    }
+    if (const auto rating = NumberOf(Data1.Field("GraphicType"))) {
+        const std::array<QLabel*, 4> fish = {QuarterFish, HalfFish, ThreeQuarterfish, WholeFish};
+        for (std::size_t k = 0; k < fish.size(); ++k)
+            fish[k]->setVisible(int(*rating) == int(k) + 1);
+    }
+}
+
+void frmTable1::ShowMoon()
+{
+    const auto waxing = NumberOf(Data1.Field("Waxing"));
+    const auto percent = NumberOf(Data1.Field("IllumPercent"));
+    if (waxing)
+        Label7->setText(*waxing == 1 ? QStringLiteral("Moon is Waxing")
+                                     : QStringLiteral("Moon is Waning"));
+    if (!waxing || !percent)
+        return;
+    MoonLook look;
+    look.IllumPercent = std::int16_t(*percent);
+    look.Waxing = std::int16_t(*waxing);
+    look.SouthernHemisphere = Ctx.SouthernHemisphere;
+    look.MoonColor = Ctx.MoonColor;
+    look.BackColor = ToVbColor(palette().color(QPalette::Window));
+    PicM->setPixmap(QPixmap::fromImage(DrawMoon(PicM->size(), look, std::nullopt).PicM));
+}
+
+void frmTable1::Data1_Error(const QString& message)
+{
+    Ctx.Messages.MsgBox(QStringLiteral("Data error event hit err:") + message);
+}
+
+void frmTable1::SetBrowsing(bool browsing)
+{
+    const auto set = [](auto* control, bool enabled) {
+        enabled ? EnableControl(control) : DisableControl(control);
+    };
+    for (QWidget* w : std::initializer_list<QWidget*>{Data1Bar, cmdEdit})
+        set(w, browsing);
+    set(mnuExit, browsing);
+    set(Command1, browsing);
+    set(mnutableview, browsing);
+    for (QWidget* w : std::initializer_list<QWidget*>{cmdUpdate, txtFields[17], txtFields[18],
+                                                      Combo4, PeakTimeCombo, Text7})
+        set(w, !browsing);
+    // The catch boxes take typing only while editing.
+    txtFields[17]->setReadOnly(browsing);
+    txtFields[18]->setReadOnly(browsing);
+}
+
+void frmTable1::cmdEdit_Click()
+{
+    if (const DbResult editing = Data1.Edit(); !editing) {
+        Data1_Error(editing.Message);
+        return;
+    }
+    SetBrowsing(false);
+}
+
+void frmTable1::cmdUpdate_Click()
+{
+    DbResult saved = Data1.Update();
+    saved = saved ? Data1.SetBookmark(Data1.LastModified()) : saved;
+    if (!saved) {
+        Data1_Error(saved.Message);
+        return;
+    }
+    Combo4->hide();
+    SetBrowsing(true);
+}
+
+void frmTable1::txtFields_Click(int index)
+{
+    if (index != 17 || !txtFields[17]->isEnabled())
+        return;
+    Combo4->show();
+    Combo4->setFocus();
+}
+
+void frmTable1::Combo4_Click()
+{
+    txtFields[17]->setText(Combo4->currentText());
+    txtFields[17]->setModified(true);
+    Combo4->hide();
+}
+
+bool frmTable1::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == txtFields[17] && event->type() == QEvent::MouseButtonRelease)
+        txtFields_Click(17);
+    if (watched == Owner && event->type() == QEvent::Close && !ConfirmLeaveEditing()) {
+        event->ignore();
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmTable1::mnuExit_Click()
+{
+    Data1.Close();
+    close();
+}
+
+bool frmTable1::ConfirmLeaveEditing()
+{
+    if (Data1.EditMode() == DataControl::EditState::None)
+        return true;
+    const MsgResult answer =
+        Ctx.Messages.MsgBox(QStringLiteral("Save changes to this day?"),
+                            MsgButtons::SaveDiscardCancel, windowTitle(), MsgIcon::Question);
+    if (answer == MsgResult::Save) {
+        cmdUpdate_Click();
+        return Data1.EditMode() == DataControl::EditState::None;
+    }
+    if (answer != MsgResult::Discard)
+        return false;
+    Data1.CancelUpdate();
+    Combo4->hide();
+    SetBrowsing(true);
+    return true;
+}
+
+void frmTable1::reject()
+{
+    if (ConfirmLeaveEditing())
+        QDialog::reject();
+}
+
+void frmTable1::closeEvent(QCloseEvent* event)
+{
+    if (!ConfirmLeaveEditing()) {
+        event->ignore();
+        return;
+    }
+    Form_Unload();
+    QDialog::closeEvent(event);
+}
+
+void frmTable1::Form_Unload()
+{
+    while (QApplication::overrideCursor())
+        QApplication::restoreOverrideCursor();
+}

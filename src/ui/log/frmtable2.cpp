@@ -1,0 +1,177 @@
+#include "ui/log/frmtable2.h"
+
+#include "db/storedforms.h"
+#include "pages/twips.h"
+#include "ui/common/busypointer.h"
+#include "ui/common/databar.h"
+#include "ui/common/messageservice.h"
+
+#include <QHeaderView>
+#include <QMenuBar>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+// Captions and widths in twips by column position; the other columns are hidden.
+struct GridColumn {
+    int Position;
+    const char* Caption;
+    int Width;
+};
+constexpr std::array<GridColumn, 9> ShownColumns = {{{1, "Date", 1150},
+                                                     {2, " % ", 400},
+                                                     {3, "Rate", 450},
+                                                     {4, "Age", 400},
+                                                     {5, "Wax", 450},
+                                                     {6, "Major 1 ", 1200},
+                                                     {7, "Major 2 ", 1200},
+                                                     {11, "SunRise ", 1300},
+                                                     {12, "SunSet  ", 1300}}};
+
+// A stored value as the grid shows it: dates and times in the browser's display forms.
+QString GridText(const QVariant& stored, ColumnKind kind)
+{
+    if (stored.isNull())
+        return {};
+    const char* pattern = kind == ColumnKind::Date   ? "mm/dd/yyyy"
+                          : kind == ColumnKind::Time ? "hh:mm AMPM"
+                                                     : nullptr;
+    const auto text = pattern ? FormatStored(stored.toString().toStdString(), pattern)
+                              : std::optional<std::string>();
+    return text ? QString::fromStdString(*text) : stored.toString();
+}
+
+} // namespace
+
+frmTable2::frmTable2(const LogContext& context, const QString& recordSource, QWidget* parent)
+    : QDialog(parent), Ctx(context), Source(recordSource)
+{
+    setWindowTitle(QStringLiteral("Quillmere DataBase"));
+    setModal(true);
+    auto* bar = new QMenuBar(this);
+    mnuExit = bar->addAction(QStringLiteral("Close"));
+    mnuExit->setObjectName(QStringLiteral("mnuExit"));
+    DBGrid1 = new QTableView(this);
+    DBGrid1->setObjectName(QStringLiteral("DBGrid1"));
+    DBGrid1->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    DBGrid1->setSelectionBehavior(QAbstractItemView::SelectRows);
+    DBGrid1->setSelectionMode(QAbstractItemView::SingleSelection);
+    DBGrid1->verticalHeader()->setDefaultSectionSize(18);
+    Rows = new QStandardItemModel(this);
+    DBGrid1->setModel(Rows);
+    Data1Bar = new DataBar(Data1, this);
+    // The grid takes the window's inner size.
+    auto* layout = new QVBoxLayout(this);
+    layout->setMenuBar(bar);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(DBGrid1, 1);
+    layout->addWidget(Data1Bar);
+    resize(Twips(9500), Twips(6500));
+
+    connect(mnuExit, &QAction::triggered, this, &frmTable2::mnuExit_Click);
+    connect(Data1Bar, &DataBar::Error, this, &frmTable2::Data1_Error);
+    connect(DBGrid1, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& index) { DBGrid1_DblClick(index.row()); });
+    connect(DBGrid1->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) { GridRowChanged(current.row()); });
+    Form_Load();
+}
+
+frmTable2::~frmTable2() { Data1.Close(); }
+
+void frmTable2::Form_Load()
+{
+    Data1.SetDatabaseName(Ctx.State.DBPath);
+    Data1.SetRecordSource(Source);
+    if (const DbResult opened = Data1.Refresh(); !opened) {
+        Data1_Error(opened.Message);
+        return;
+    }
+    FillGrid();
+    connect(&Data1, &DataControl::Reposition, this, &frmTable2::Data1_Reposition);
+    Data1_Reposition();
+}
+
+void frmTable2::FillGrid()
+{
+    const int count = Data1.RecordCount();
+    Rows->setRowCount(count);
+    Rows->setColumnCount(Data1.FieldCount());
+    for (int r = 0; r < count; ++r, Data1.MoveNext()) {
+        for (int c = 0; c < Data1.FieldCount(); ++c)
+            Rows->setItem(r, c, new QStandardItem(GridText(Data1.Field(c), Data1.FieldKind(c))));
+    }
+    if (count > 0)
+        Data1.MoveFirst();
+}
+
+void frmTable2::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    Form_Activate();
+}
+
+void frmTable2::Form_Activate()
+{
+    Ctx.State.FindRecord = false;
+    SetColumns();
+}
+
+void frmTable2::SetColumns()
+{
+    for (int c = 0; c < Rows->columnCount(); ++c)
+        DBGrid1->setColumnHidden(c, true);
+    for (const GridColumn& g : ShownColumns) {
+        if (g.Position >= Rows->columnCount())
+            continue;
+        Rows->setHeaderData(g.Position, Qt::Horizontal, QString::fromLatin1(g.Caption));
+        DBGrid1->setColumnHidden(g.Position, false);
+        DBGrid1->setColumnWidth(g.Position, Twips(g.Width));
+    }
+}
+
+void frmTable2::Data1_Reposition()
+{
+    const BusyPointer busy;
+    const int position = Data1.AbsolutePosition();
+    Data1Bar->SetCaption(QStringLiteral("Record: ") + QString::number(position + 1));
+    if (position >= 0 && DBGrid1->currentIndex().row() != position)
+        DBGrid1->selectRow(position);
+}
+
+void frmTable2::GridRowChanged(int row)
+{
+    const int key = Data1.FieldIndex(QStringLiteral("DBID"));
+    if (row < 0 || key < 0 || row == Data1.AbsolutePosition())
+        return;
+    if (const DbResult moved = Data1.SetBookmark(Rows->item(row, key)->text().toInt()); !moved)
+        Data1_Error(moved.Message);
+}
+
+void frmTable2::DBGrid1_DblClick(int row)
+{
+    GridRowChanged(row);
+    const QVariant id = Data1.Field(QStringLiteral("DBID"));
+    if (id.isNull())
+        return;
+    Ctx.State.FindDBID = id.toInt();
+    Ctx.State.FindRecord = true;
+    close();
+}
+
+void frmTable2::Data1_Error(const QString& message)
+{
+    Ctx.Messages.MsgBox(QStringLiteral("Data error event hit err:") + message);
+}
+
+void frmTable2::mnuExit_Click() { close(); }
+
+void frmTable2::closeEvent(QCloseEvent* event)
+{
+    Form_Unload();
+    QDialog::closeEvent(event);
+}
+
+void frmTable2::Form_Unload() { Data1.Close(); }

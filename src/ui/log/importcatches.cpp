@@ -1,0 +1,94 @@
+#include "ui/log/importcatches.h"
+
+#include "logdb/backups.h"
+#include "logdb/logimport.h"
+#include "platform/clock.h"
+#include "ui/common/busypointer.h"
+#include "ui/common/messageservice.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+const QString Title = QStringLiteral("Import Catches");
+constexpr qsizetype IssuesShown = 20;
+
+QString IssueReport(const ImportPlan& plan)
+{
+    QStringList lines = IssueLines(plan);
+    if (lines.isEmpty())
+        return {};
+    const qsizetype more = lines.size() - IssuesShown;
+    if (more > 0) {
+        lines = lines.mid(0, IssuesShown);
+        lines << QStringLiteral("... and %1 more").arg(more);
+    }
+    return QStringLiteral("\n\n") + lines.join('\n');
+}
+
+// Skip or Overwrite, or nothing when the angler cancels.
+std::optional<ImportChoice> AskChoice(MessageService& messages, const ImportPlan& plan,
+                                      const QString& name)
+{
+    const QString found = QStringLiteral("%1 day(s) can be imported into %2.%3\n\n")
+                              .arg(plan.Rows.size())
+                              .arg(name, IssueReport(plan));
+    if (plan.OccupiedRows() == 0) {
+        const MsgResult go = messages.MsgBox(
+            found + QStringLiteral("OK imports them; lines with problems are left out."),
+            MsgButtons::OKCancel, Title, MsgIcon::Question);
+        return go == MsgResult::OK ? std::optional(ImportChoice::Skip) : std::nullopt;
+    }
+    const MsgResult answer = messages.MsgBox(
+        found + QStringLiteral("%1 of these days already hold an entry. Yes overwrites those "
+                               "entries, No keeps them and imports the rest, Cancel imports "
+                               "nothing.")
+                    .arg(plan.OccupiedRows()),
+        MsgButtons::YesNoCancel, Title, MsgIcon::Question);
+    if (answer == MsgResult::Yes)
+        return ImportChoice::Overwrite;
+    return answer == MsgResult::No ? std::optional(ImportChoice::Skip) : std::nullopt;
+}
+
+void Say(MessageService& messages, const QString& text, MsgIcon icon = MsgIcon::None)
+{
+    messages.MsgBox(text, MsgButtons::OK, Title, icon);
+}
+
+} // namespace
+
+void ImportCatches(const LogContext& context, const QString& yearFile, const QString& csvPath)
+{
+    MessageService& messages = context.Messages;
+    const QString name = QFileInfo(yearFile).fileName();
+    QFile csv(csvPath);
+    if (!csv.open(QIODevice::ReadOnly))
+        return Say(messages,
+                   QStringLiteral("%1 cannot be read: %2").arg(csvPath, csv.errorString()),
+                   MsgIcon::Critical);
+    ImportPlan plan;
+    if (DbResult planned = PlanImport(yearFile, name.left(4).toInt(), csv.readAll(), plan);
+        !planned)
+        return Say(messages, QStringLiteral("Nothing was imported: %1").arg(planned.Message),
+                   MsgIcon::Critical);
+    if (plan.Rows.empty())
+        return Say(messages, QStringLiteral("The file holds no catch entry to import into %1.%2")
+                                 .arg(name, IssueReport(plan)));
+    const std::optional<ImportChoice> choice = AskChoice(messages, plan, name);
+    if (!choice)
+        return;
+    int written = 0;
+    DbResult done;
+    {
+        const BusyPointer busy;
+        done = BackUpIfChanged(yearFile, Clock::Now());
+        if (done)
+            done = ApplyImport(yearFile, plan, *choice, written);
+    }
+    if (!done)
+        return Say(messages, QStringLiteral("Nothing was imported: %1").arg(done.Message),
+                   MsgIcon::Critical);
+    Say(messages,
+        QStringLiteral("%1 day(s) of %2 now hold the imported entries.").arg(written).arg(name));
+}

@@ -1,0 +1,128 @@
+#include "ui/views/frmlist.h"
+
+#include "astro/astronomy.h"
+#include "calendar/calendar.h"
+#include "pages/listpage.h"
+#include "ui/common/busypointer.h"
+#include "ui/common/printer.h"
+#include "viewrules/monthlylist.h"
+
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+namespace {
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+QPushButton* Button(const QString& caption, const QString& tip, QWidget* parent)
+{
+    auto* b = new QPushButton(caption, parent);
+    b->setToolTip(tip);
+    return b;
+}
+} // namespace
+
+FrmList::FrmList(Astronomy& engine, const Calendar& cal, std::string locationName, bool ampm,
+                 MessageService& messages, QWidget* mainWindow)
+    : QWidget(nullptr, Qt::Window), Engine(engine), Cal(cal), LocationName(std::move(locationName)),
+      AmPm(ampm), Messages(messages), MainWindow(mainWindow)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    QFont times(QStringLiteral("Times New Roman"), 11);
+    for (auto& label : Label) {
+        label = new QLabel(this);
+        label->setFont(times);
+    }
+    QFont heading = times;
+    heading.setBold(true);
+    Label[0]->setFont(heading);
+    Label[1]->setFont(heading);
+    Text1 = new QPlainTextEdit(this);
+    Text1->setReadOnly(true);
+    Text1->setFont(times);
+    Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
+    Command1 = Button(QStringLiteral("Close"), QStringLiteral(" Close List Screen "), this);
+    Command2 =
+        Button(QStringLiteral("ClipBoard"), QStringLiteral(" Copy text to clipboard "), this);
+    Command3 = Button(QStringLiteral("Print"), QStringLiteral(" Print a Calendar "), this);
+    auto* month = new QHBoxLayout;
+    month->addWidget(Label[0]);
+    month->addWidget(Label[1]);
+    month->addStretch();
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    for (QPushButton* b : {Command1, Command2, Command3})
+        buttons->addWidget(b);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(month);
+    layout->addWidget(Label[2]);
+    layout->addWidget(Label[3]);
+    layout->addWidget(Text1);
+    layout->addLayout(buttons);
+    connect(Command1, &QPushButton::clicked, this, &FrmList::Command1_Click);
+    connect(Command2, &QPushButton::clicked, this, &FrmList::Command2_Click);
+    connect(Command3, &QPushButton::clicked, this, &FrmList::Command3_Click);
+    Form_Load();
+}
+
+void FrmList::Form_Load()
+{
+    // Wide enough for a line of the list, and most of the screen's height.
+    const QRect screen = this->screen()->availableGeometry();
+    resize(std::min(screen.width(), 640), std::min(screen.height() * 9 / 10, 760));
+}
+
+void FrmList::Form_Activate()
+{
+    const BusyPointer busy;
+    setWindowTitle(Q("Monthly Data for " + LocationName));
+    Label[0]->setText(Q(MonthAbbrev(Cal.CurMonth)));
+    Label[1]->setText(QString::number(Cal.CurYear));
+    Label[2]->setText(QString::fromLatin1(MonthlyListHeadings[0]));
+    Label[3]->setText(QString::fromLatin1(MonthlyListHeadings[1]));
+    layout()->activate(); // the labels' new widths, before the list is painted
+    Lines =
+        MonthlyListLines(Engine, Cal.MonthStartJD[std::size_t(Cal.CurMonth)], Cal.MonthDays, AmPm);
+    QString text;
+    for (const std::string& line : Lines)
+        text += Q(line) + QLatin1Char('\n');
+    Text1->setPlainText(text);
+}
+
+void FrmList::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!event->spontaneous())
+        Form_Activate();
+}
+
+void FrmList::Command1_Click() { close(); }
+
+void FrmList::Command2_Click()
+{
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(Q(MonthlyListClipboard(Cal.CurMonth, Cal.CurYear, Lines)));
+}
+
+void FrmList::Command3_Click() { PrintTheTable(); }
+
+void FrmList::PrintTheTable()
+{
+    PrintDocument(this, Messages, Q(MonthAbbrev(Cal.CurMonth) + " " + std::to_string(Cal.CurYear)),
+                  ListDrawing(MonthlyListPrinted(Cal.CurMonth, Cal.CurYear, Lines)));
+}
+
+void FrmList::closeEvent(QCloseEvent* event)
+{
+    if (MainWindow)
+        MainWindow->show();
+    QWidget::closeEvent(event);
+}

@@ -1,0 +1,113 @@
+#include "viewrules/daydetails.h"
+
+#include "astro/astronomy.h"
+#include "calendar/calendar.h"
+#include "text/vbformat.h"
+#include "viewrules/daygraphdata.h"
+
+#include <cstddef>
+
+namespace {
+
+constexpr double RadToDeg = 57.29577951308238;
+const char* const NoEvent = "*****";
+
+std::string Degrees(double radians) { return VbFormat(radians * RadToDeg, "##0.0"); }
+
+std::string Pair(const std::string& a, const std::string& b) { return a + "/" + b; }
+
+// The time of day of a local clock instant, as the event lines show it.
+std::string EventClock(double jd, bool ampm)
+{
+    return VbFormatDate(jd - SerialEpochJD, ampm ? "hh:nn AMPM" : "hh:nn");
+}
+
+void SunLines(DetailLines& out, const SunEventTable& s, bool ampm)
+{
+    const auto clock = [ampm](double h) { return FormatClock(0, h, ampm); };
+    out[5] = Pair(clock(s(1, 0)), clock(s(1, 2)));
+    out[6] = Pair(clock(s(2, 0)), clock(s(2, 2)));
+    out[7] = Pair(clock(s(3, 0)), clock(s(3, 2)));
+    out[8] = clock(s(0, 1));
+    out[17] = Pair(clock(s(0, 0)), clock(s(0, 2)));
+    out[14] = Pair(Degrees(s(0, 3)), Degrees(s(0, 5)));
+    out[13] = Degrees(s(0, 4));
+}
+
+// An event of the Moon's day, or "*****" when it does not happen on this day.
+std::string MoonValue(std::int16_t flag, const std::string& value)
+{
+    return flag == 0 ? value : NoEvent;
+}
+
+// transitAltitude in degrees.
+void MoonLines(DetailLines& out, const DayForecast& f, double transitAltitude, bool ampm)
+{
+    const MoonEventRecord& m = f.MoonEvents;
+    out[15] = Pair(MoonValue(m.RiseFlag, FormatClock(0, m.RiseTime, ampm)),
+                   MoonValue(m.SetFlag, FormatClock(0, m.SetTime, ampm)));
+    out[18] = f.Major1Text;
+    out[20] = MoonValue(m.TransitFlag, VbFormat(transitAltitude, "##0.0"));
+    out[22] = Pair(MoonValue(m.RiseFlag, Degrees(m.RiseAzimuth)),
+                   MoonValue(m.SetFlag, Degrees(m.SetAzimuth)));
+    out[24] = std::to_string(f.IllumPercent) + "%";
+}
+
+// The day's events, each with its local time of day; seasons are kept in dynamical time and
+// take the zone here.
+std::vector<std::string> EventLines(const DayMarks& d, double zoneDays, bool ampm)
+{
+    std::vector<std::string> lines;
+    if (d.Phase >= 1 && d.Phase <= 4)
+        lines.push_back(std::string(PhaseNames[std::size_t(d.Phase)]) + " " +
+                        EventClock(d.PhaseJD, ampm));
+    if (d.Perigee == 1 || d.Perigee == 2)
+        lines.push_back(std::string(d.Perigee == 1 ? "Moon at Perigee " : "Moon at Apogee ") +
+                        EventClock(d.PerigeeJD, ampm));
+    if (d.Declination == 1 || d.Declination == 2)
+        lines.push_back(
+            std::string(d.Declination == 1 ? "Max North Declination" : "Max South Declination") +
+            " " + EventClock(d.DeclinationJD, ampm));
+    if (d.Season >= 1 && d.Season <= 4)
+        lines.push_back(std::string(SeasonNames[std::size_t(d.Season)]) +
+                        EventClock(d.SeasonJD - zoneDays, ampm));
+    if (d.EarthApsis == 1 || d.EarthApsis == 2)
+        lines.push_back(
+            std::string(d.EarthApsis == 1 ? "Earth at Perihelion" : "Earth at Apehelion") + " " +
+            EventClock(d.EarthApsisJD, ampm));
+    return lines;
+}
+
+} // namespace
+
+DetailLines DoDetails(Astronomy& engine, const Calendar& cal, double jd, bool ampm)
+{
+    DetailLines out;
+    engine.SunEventsForDay(jd);
+    SunLines(out, engine.Forecast.SunEvents, ampm);
+    const auto doy = std::size_t(jd - cal.YearStartJD) + 1;
+    const DayMarks& day = cal.YearDays.at(doy);
+    out[9] = std::to_string(day.MoonAge);
+    engine.ComputeDay(jd);
+    // The Moon's altitude at the instant of its transit: its declination moves by degrees in
+    // a day, so the one at the start of the day will not do.
+    const double transitAltitude =
+        GetPicData(engine, jd + engine.Forecast.MoonEvents.TransitTime / 24.0).MoonElevation;
+    MoonLines(out, engine.Forecast, transitAltitude, ampm);
+    const std::vector<std::string> events = EventLines(day, engine.Site.ZoneDays, ampm);
+    for (int i = 0; i < EventLabelCount; ++i)
+        out[FirstEventLabel + i] = i < int(events.size()) ? events[std::size_t(i)] : "";
+    return out;
+}
+
+int DetailsLeft(int cell) { return cell % 7 <= 3 ? 4500 : 500; }
+
+std::string DetailsCaption(int year, int month, int day, bool monthFirst, char separator)
+{
+    if (monthFirst)
+        return "Details for  " + std::to_string(month) + "/" + std::to_string(day) + "/" +
+               std::to_string(year);
+    const std::string sep(1, separator);
+    return "Details for " + std::to_string(day) + sep + std::to_string(month) + sep +
+           std::to_string(year);
+}

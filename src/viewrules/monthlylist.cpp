@@ -1,0 +1,88 @@
+#include "viewrules/monthlylist.h"
+
+#include "astro/astronomy.h"
+#include "calendar/calendar.h"
+#include "text/vbformat.h"
+
+const std::array<const char*, 4> MonthlyListHeadings = {
+    "            Sun                 Moon ",
+    "Day Rise      Set      Rise     Set          Majors             Minors",
+    "                 Sun                  Moon ",
+    "Day   Rise       Set         Rise       Set              Majors                 Minors",
+};
+
+namespace {
+bool Missing(const std::string& text) { return text.rfind("****", 0) == 0; }
+} // namespace
+
+void PRNTrue(std::string& line, const std::string& text)
+{
+    line += Missing(text) ? std::string(" ") + "XX:XX  " + " " : text + " ";
+}
+
+void PRNFalse(std::string& line, const std::string& text)
+{
+    line += Missing(text) ? std::string(" ") + "XX:XX   " : text + " ";
+}
+
+std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD, int monthDays,
+                                          bool ampm)
+{
+    std::vector<std::string> lines;
+    const DayForecast& f = engine.Forecast;
+    auto clock = [ampm](double h) { return FormatClock(0, h, ampm); };
+    for (int d = 1; d <= monthDays; ++d) {
+        std::string line = VbFormat(d, "00");
+        const double J = monthStartJD + d - 1;
+        engine.ComputeSunDay(J);
+        if (ampm)
+            line += "  " + ShortClock(clock(f.SunEvents(0, 0))) + " " +
+                    ShortClock(clock(f.SunEvents(0, 2))) + " ";
+        else
+            line += "   " + clock(f.SunEvents(0, 0)) + "   " + clock(f.SunEvents(0, 2)) + "     ";
+        engine.ComputeDay(J);
+        const MoonEventRecord& m = f.MoonEvents;
+        const bool noTransit = m.TransitFlag != 0;
+        if (ampm) {
+            PRNTrue(line, ShortClock(clock(m.RiseTime)));
+            PRNTrue(line, ShortClock(clock(m.SetTime)));
+            PRNTrue(line, noTransit ? "****" : ShortClock(clock(m.TransitTime)));
+            PRNTrue(line, ShortClock(f.Major2Text));
+            PRNTrue(line, ShortClock(f.Minor1Text));
+            PRNTrue(line, ShortClock(f.Minor2Text));
+        } else {
+            PRNFalse(line, "   " + clock(m.RiseTime));
+            PRNFalse(line, "   " + clock(m.SetTime));
+            PRNFalse(line, noTransit ? "****" : "  " + clock(m.TransitTime));
+            PRNFalse(line, f.Major2Text + "  ");
+            PRNFalse(line, f.Minor1Text + "  ");
+            PRNFalse(line, f.Minor2Text);
+        }
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+std::string MonthlyListClipboard(int month, int year, const std::vector<std::string>& lines)
+{
+    std::string text = MonthAbbrev(month) + " " + std::to_string(year) + "\r\n\r\n" +
+                       MonthlyListHeadings[2] + "\r\n" + MonthlyListHeadings[3] + "\r\n";
+    for (const std::string& line : lines)
+        text += line + "\r\n";
+    return text;
+}
+
+std::vector<std::string> MonthlyListPrinted(int month, int year,
+                                            const std::vector<std::string>& lines)
+{
+    // Each print statement ends its own line after the line breaks it carries.
+    std::vector<std::string> printed = {MonthAbbrev(month) + " " + std::to_string(year),
+                                        "",
+                                        "",
+                                        "",
+                                        MonthlyListHeadings[2],
+                                        "",
+                                        MonthlyListHeadings[3]};
+    printed.insert(printed.end(), lines.begin(), lines.end());
+    return printed;
+}

@@ -1,0 +1,278 @@
+// quillmere-log end to end: the built program on a folder of the test's own, its output read
+// back by Python's strict CSV and JSON readers and compared with the file through Python's
+// own SQLite module.
+#include "logdb/backups.h"
+#include "logdb/logfiles.h"
+#include "support/filledyear.h"
+#include "support/pdftext.h"
+#include "support/testenv.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct LogRun {
+    int Status = -1;
+    QString Out;
+    QString Err;
+};
+
+LogRun RunLog(const QString& home, const QStringList& args)
+{
+    QProcess log;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("QUILLMERE_HOME", home);
+    log.setProcessEnvironment(env);
+    log.start(QStringLiteral(QUILLMERE_LOG), args);
+    EXPECT_TRUE(log.waitForFinished(120000));
+    return {log.exitStatus() == QProcess::NormalExit ? log.exitCode() : -1,
+            QString::fromUtf8(log.readAllStandardOutput()),
+            QString::fromUtf8(log.readAllStandardError())};
+}
+
+// Runs a Python check with the given text on its standard input; its complaint, if any.
+QString PythonCheck(const QString& script, const QString& input, const QStringList& args)
+{
+    QProcess python;
+    python.start("/usr/bin/python3", QStringList{"-c", script} + args);
+    python.write(input.toUtf8());
+    python.closeWriteChannel();
+    EXPECT_TRUE(python.waitForFinished(60000));
+    return python.exitCode() == 0 ? QString()
+                                  : QString::fromUtf8(python.readAllStandardError()).right(800);
+}
+
+// The CSV export against the file itself: every column of table1 as a header, one row per
+// record, dates as mm/dd/yyyy and the hours of missing events empty.
+const char* const CsvAgainstFile = R"(
+import csv, io, sqlite3, sys
+rows = list(csv.reader(io.StringIO(sys.stdin.read(), newline=''), strict=True))
+db = sqlite3.connect(sys.argv[1])
+columns = [c[1] for c in db.execute('pragma table_info(table1)')]
+assert rows[0] == columns, rows[0]
+stored = db.execute('select * from table1 order by JulianDate').fetchall()
+assert len(rows) - 1 == len(stored) == 366, len(rows)
+for text, value in zip(rows[1:], stored):
+    assert len(text) == len(columns)
+    y, m, d = value[1].split('-')
+    assert text[1] == m + '/' + d + '/' + y, (text[1], value[1])
+    for name in ('MoonRise', 'MoonSet', 'Minor1', 'Minor2'):
+        i = columns.index(name)
+        assert (text[i] == '') == (value[i] == -1), (name, text[i], value[i])
+    assert text[columns.index('Notes')] == (value[columns.index('Notes')] or '')
+)";
+
+QString YearPath(const QString& home) { return QDir(home).filePath("2024.mdb"); }
+
+void ExpectOneLineRefusal(const LogRun& run, int status, const std::string& where)
+{
+    EXPECT_EQ(run.Status, status) << where;
+    EXPECT_TRUE(run.Out.isEmpty()) << where;
+    EXPECT_EQ(run.Err.count('\n'), 1) << where << ": " << run.Err.toStdString();
+    EXPECT_TRUE(run.Err.startsWith("quillmere-log: ")) << where;
+}
+
+} // namespace
+
+TEST(LogCommand, CreateListExportCompactAndRepairAYear)
+{
+    const QString home = testenv::FreshDir("log-command");
+    const LogRun created = RunLog(home, {"create", "--year", "2024", "--lon", "92.42W", "--lat",
+                                         "31.25N", "--zone", "6", "--dst"});
+    ASSERT_EQ(created.Status, 0) << created.Err.toStdString();
+    EXPECT_EQ(RunLog(home, {"list"}).Out, "2024.mdb\n");
+
+    // An angler's entry with a comma, a quote and a line break travels through the CSV.
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(YearPath(home)));
+        ASSERT_TRUE(db.UpdateRecord({"table1"}, "DBID", 40,
+                                    {{"Notes", "3 bass, one \"huge\"\nby the dam"}}));
+    }
+    const LogRun csv = RunLog(home, {"export", "--year", "2024"});
+    ASSERT_EQ(csv.Status, 0) << csv.Err.toStdString();
+    EXPECT_EQ(PythonCheck(CsvAgainstFile, csv.Out, {YearPath(home)}), "");
+    const LogRun json = RunLog(home, {"export", "--year", "2024", "--format", "json"});
+    EXPECT_EQ(PythonCheck("import json,sys; d=json.load(sys.stdin); assert len(d)==366; "
+                          "assert d[0]['JulianDate']=='01/01/2024'; "
+                          "assert d[39]['Notes'].startswith('3 bass'), d[39]",
+                          json.Out, {}),
+              "");
+
+    const LogRun compacted = RunLog(home, {"compact", "--year", "2024"});
+    EXPECT_EQ(compacted.Status, 0) << compacted.Err.toStdString();
+    EXPECT_TRUE(QFile::exists(QDir(home).filePath("2024.BAK")));
+    const LogRun repaired = RunLog(home, {"repair", "--year", "2024"});
+    EXPECT_EQ(repaired.Status, 0);
+    EXPECT_TRUE(repaired.Out.contains("366")) << repaired.Out.toStdString();
+    EXPECT_EQ(PythonCheck(CsvAgainstFile, RunLog(home, {"export", "--year", "2024"}).Out,
+                          {YearPath(home)}),
+              "");
+
+    // A second create leaves the file alone and says so.
+    const QByteArray before = testenv::FileBytes(YearPath(home));
+    ExpectOneLineRefusal(RunLog(home, {"create", "--year", "2024"}), 1, "create again");
+    EXPECT_EQ(testenv::FileBytes(YearPath(home)), before);
+}
+
+TEST(LogCommand, BadInputExitsWithTwoAndFailuresWithOne)
+{
+    const QString home = testenv::FreshDir("log-command-bad");
+    const std::vector<std::pair<QStringList, int>> cases = {
+        {{}, 2},
+        {{"frob"}, 2},
+        {{"compact"}, 2},
+        {{"create", "--year", "24"}, 2},
+        {{"create", "--year", "2601"}, 2},
+        {{"create", "--year", "2024", "--location", "11"}, 2},
+        {{"create", "--year", "2024", "--lon", "92.42W"}, 2},
+        {{"export", "--year", "2024", "--format", "xml"}, 2},
+        {{"export", "--year", "2024", "--year", "2025"}, 2},
+        {{"list", "--year", "2024"}, 2},
+        {{"compact", "--year", "2023"}, 1},
+        {{"repair", "--year", "2023"}, 1},
+        {{"export", "--year", "2023"}, 1},
+        {{"restore", "--year", "2023"}, 1},
+    };
+    for (const auto& [args, status] : cases)
+        ExpectOneLineRefusal(RunLog(home, args), status, args.join(' ').toStdString());
+    EXPECT_TRUE(ListYearFiles(home).isEmpty());
+
+    const LogRun help = RunLog(home, {"--help"});
+    EXPECT_EQ(help.Status, 0);
+    EXPECT_TRUE(help.Out.startsWith("quillmere-log: ")) << help.Out.toStdString();
+    EXPECT_TRUE(help.Out.contains("export --year YYYY [--format csv|json]"));
+}
+
+TEST(LogCommand, RestoresAYearLeftAsItsBackup)
+{
+    const QString home = testenv::FreshDir("log-command-restore");
+    ASSERT_EQ(RunLog(home, {"create", "--year", "2024"}).Status, 0);
+    ASSERT_TRUE(QFile::rename(YearPath(home), QDir(home).filePath("2024.BAK")));
+    const LogRun list = RunLog(home, {"list"});
+    EXPECT_EQ(list.Out, "");
+    EXPECT_TRUE(list.Err.contains("2024.BAK")) << list.Err.toStdString();
+    ExpectOneLineRefusal(RunLog(home, {"create", "--year", "2024"}), 1, "create over a backup");
+    const LogRun restored = RunLog(home, {"restore", "--year", "2024"});
+    EXPECT_EQ(restored.Status, 0) << restored.Err.toStdString();
+    EXPECT_EQ(RunLog(home, {"list"}).Out, "2024.mdb\n");
+}
+
+// The browser's questions on the command line: the selected days as JSON against the same
+// question asked of the file by Python's SQLite, a refused value, and the report printed.
+const char* const QueryAgainstFile = R"(
+import json, sqlite3, sys
+days = json.loads(sys.stdin.read())
+db = sqlite3.connect(sys.argv[1])
+wanted = db.execute("select strftime('%m/%d/%Y', JulianDate) from table1 where Month between 3 "
+                    "and 5 and GraphicType = 4 and DayOfWeek_ in (1, 7) "
+                    "order by Major1, JulianDate").fetchall()
+assert [d['JulianDate'] for d in days] == [w[0] for w in wanted], (days, wanted)
+assert len(days) > 0
+)";
+
+TEST(LogCommand, QueryAndReportTheSelectedDays)
+{
+    const QString home = testenv::FreshDir("log-command-query");
+    ASSERT_EQ(RunLog(home, {"create", "--year", "2024", "--location", "1"}).Status, 0);
+    const LogRun json =
+        RunLog(home, {"query", "--year", "2024", "--months", "3-5", "--best", "--weekdays",
+                      "sat-sun", "--sort", "major1", "--format", "json"});
+    ASSERT_EQ(json.Status, 0) << json.Err.toStdString();
+    EXPECT_EQ(PythonCheck(QueryAgainstFile, json.Out, {YearPath(home)}), "");
+    const LogRun text = RunLog(home, {"query", "--year", "2024", "--months", "3-5", "--best",
+                                      "--weekdays", "sat-sun", "--sort", "major1"});
+    EXPECT_TRUE(text.Out.startsWith("Sorted by Major1\n#     Date")) << text.Out.toStdString();
+
+    ExpectOneLineRefusal(
+        RunLog(home, {"query", "--year", "2024", "--taken", "1; DROP TABLE table1"}), 2,
+        "a statement typed as a value");
+    ExpectOneLineRefusal(RunLog(home, {"query", "--year", "2024", "--sort", "moon"}), 2, "sort");
+
+    // January and February: 60 lines and the dash line make two pages.
+    const QString pdf = QDir(home).filePath("report.pdf");
+    const LogRun printed =
+        RunLog(home, {"report", "--year", "2024", "--months", "1-2", "--pdf", pdf});
+    ASSERT_EQ(printed.Status, 0) << printed.Err.toStdString();
+    const QStringList pages = testenv::PdfText(pdf).split('\f');
+    ASSERT_GE(pages.size(), 2);
+    EXPECT_TRUE(pages[1].trimmed().startsWith("Quillmere DataBase Report - Page # 2"));
+    EXPECT_TRUE(pages[1].simplified().contains("060 02/29/2024")) << pages[1].toStdString();
+    const LogRun report = RunLog(home, {"report", "--year", "2024", "--months", "1-2"});
+    EXPECT_EQ(report.Out.count('\f'), 1);
+    EXPECT_TRUE(RunLog(home, {"--help"}).Out.contains("--weekdays D-D"));
+}
+
+namespace {
+
+// Every day's catch columns, in date order, asked of the file.
+QStringList CatchEntries(const QString& path)
+{
+    QStringList rows;
+    for (const auto& row : logtest::PlainRows(path, "SELECT JulianDate, TotalTaken, TakenWith, "
+                                                    "PeakTime, Notes FROM table1 ORDER BY "
+                                                    "JulianDate")) {
+        QStringList fields;
+        for (const QVariant& v : row)
+            fields << (v.isNull() ? "<null>" : v.toString());
+        rows << fields.join('|');
+    }
+    return rows;
+}
+
+QString CreatedYear(const QString& folderName)
+{
+    const QString home = testenv::FreshDir(folderName);
+    const LogRun created = RunLog(home, {"create", "--year", "2024", "--location", "1"});
+    EXPECT_EQ(created.Status, 0) << created.Err.toStdString();
+    return home;
+}
+
+} // namespace
+
+TEST(LogCommand, ExportThenImportIntoAFreshYearGivesTheSameEntries)
+{
+    const QString from = CreatedYear("log-import-from");
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(YearPath(from)));
+        const std::vector<std::pair<int, FieldValues>> entries = {
+            {3, {{"TotalTaken", 4}, {"TakenWith", "jig, chartreuse"}, {"PeakTime", "7:00 AM"}}},
+            {60, {{"TotalTaken", 0}, {"Notes", "wind \"30 knots\"\nno bites"}}},
+            {61, {{"PeakTime", "11:00 PM"}}},
+            {366, {{"TotalTaken", 12}, {"TakenWith", "worms"}, {"Notes", "last day"}}},
+        };
+        for (const auto& [dbid, fields] : entries)
+            ASSERT_TRUE(db.UpdateRecord({"table1"}, "DBID", dbid, fields));
+    }
+    const LogRun exported = RunLog(from, {"export", "--year", "2024"});
+    ASSERT_EQ(exported.Status, 0) << exported.Err.toStdString();
+    const QString into = CreatedYear("log-import-into");
+    const QString csv = QDir(into).filePath("catches.csv");
+    testenv::WriteFile(csv, exported.Out.toUtf8());
+
+    const LogRun imported = RunLog(into, {"import", "--year", "2024", csv});
+    ASSERT_EQ(imported.Status, 0) << imported.Err.toStdString() << imported.Out.toStdString();
+    EXPECT_EQ(imported.Out, "Imported 4 day(s) into " + YearPath(into) + "\n");
+    EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(YearPath(from)));
+    EXPECT_EQ(ListBackups(YearPath(into)).size(), 1);
+
+    // Again: every day now holds its entry, so nothing is written without a choice.
+    const LogRun refused = RunLog(into, {"import", "--year", "2024", csv});
+    EXPECT_EQ(refused.Status, 1);
+    EXPECT_EQ(refused.Out.count('\n'), 4) << refused.Out.toStdString();
+    EXPECT_TRUE(refused.Out.startsWith(csv + ": Line 4: 01/03/2024 already holds an entry\n"))
+        << refused.Out.toStdString();
+    EXPECT_TRUE(refused.Err.startsWith("quillmere-log: nothing was imported: choose --skip"));
+    EXPECT_EQ(RunLog(into, {"import", "--year", "2024", csv, "--skip"}).Status, 0);
+    EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(YearPath(from)));
+    for (const QStringList& args :
+         {QStringList{"import", "--year", "2024"},
+          QStringList{"import", "--year", "2024", csv, "--skip", "--overwrite"}})
+        ExpectOneLineRefusal(RunLog(into, args), 2, args.join(' ').toStdString());
+}

@@ -1,0 +1,96 @@
+// The log's questions on the command line: options read into the browser's form, and the
+// selected days and the report as text, on a real year of forecasts.
+#include "cli/log/logquery.h"
+#include "logdb/logreport.h"
+#include "support/filledyear.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace logtest;
+
+TEST(LogQueryOptions, ConditionsAndOrderFillTheForm)
+{
+    QueryRequest q;
+    ASSERT_FALSE(ReadQueryOptions({{"--months", "3-5"},
+                                   {"--best", ""},
+                                   {"--weekdays", "sat-sun"},
+                                   {"--major1", "5:00 PM-9:00 PM"},
+                                   {"--daylight", "13"},
+                                   {"--sort", "Major1"}},
+                                  q));
+    const std::array<bool, ConditionCount> checked = {true,  true,  true,  false, false,
+                                                      true,  true,  false, false, false,
+                                                      false, false, false, false};
+    EXPECT_EQ(q.Form.Checked, checked);
+    EXPECT_EQ(q.Form.Values[1] + "," + q.Form.Values[2], "3,5");
+    EXPECT_EQ(q.Form.Values[3] + "," + q.Form.Values[4], "8,8");
+    EXPECT_EQ(q.Form.Values[Text1Box] + "," + q.Form.Values[Text2Box], "5:00 PM,9:00 PM");
+    EXPECT_EQ(q.Form.Values[0], "13");
+    EXPECT_EQ(q.SortIndex, 2);
+
+    QueryRequest days;
+    ASSERT_FALSE(ReadQueryOptions({{"--weekdays", "mon-fri"}, {"--sort", "taken"}}, days));
+    EXPECT_EQ(days.Form.Values[3] + "," + days.Form.Values[4], "2,6");
+    EXPECT_EQ(days.SortIndex, 5);
+    QueryRequest none;
+    ASSERT_FALSE(ReadQueryOptions({}, none));
+    EXPECT_EQ(none.Form.Checked, (std::array<bool, ConditionCount>{}));
+    EXPECT_EQ(none.SortIndex, 1);
+}
+
+TEST(LogQueryOptions, RefusesWhatTheWindowRefuses)
+{
+    const auto error = [](std::map<std::string, std::string> options) {
+        QueryRequest q;
+        return ReadQueryOptions(options, q).value_or("");
+    };
+    EXPECT_EQ(error({{"--sort", "moon"}}),
+              "--sort takes date, major1, weekday, rating or taken, not 'moon'");
+    EXPECT_EQ(error({{"--moon-age", "1-30"}}),
+              "Moon Age, second box: \"30\" is not a whole number from 0 to 29.");
+    EXPECT_EQ(error({{"--moon-age", "3-"}}),
+              "a condition is missing its value (a range is FROM-TO)");
+    EXPECT_EQ(error({{"--taken", "1; DROP TABLE table1"}}),
+              "Total Taken >=: \"1; DROP TABLE table1\" is not a whole number from 0 to 9999.");
+    EXPECT_NE(error({{"--either-major", "12:00 AM# or #1:00 AM-2:00 AM"}}), "");
+}
+
+TEST(LogQueryRun, SelectedDaysAndReportAsText)
+{
+    const QString path = MakeFilledYearFile("logquery");
+    QueryRequest q;
+    ASSERT_FALSE(ReadQueryOptions(
+        {{"--months", "3-5"}, {"--weekdays", "sat-sun"}, {"--rated", ""}, {"--sort", "major1"}},
+        q));
+    std::ostringstream err;
+    const Selection selection = RunQuery(path, q, err);
+    ASSERT_TRUE(selection.Error.isEmpty());
+    EXPECT_EQ(err.str(), "");
+    QString report;
+    ASSERT_TRUE(ReadReportText(path, selection.RecordSource, true, report));
+
+    std::istringstream text(QueryText(report, selection));
+    std::string line;
+    std::getline(text, line);
+    EXPECT_EQ(line, "Sorted by Major1");
+    std::getline(text, line);
+    EXPECT_EQ(line.substr(0, 10), "#     Date");
+    const auto expected = PlainRows(path, "SELECT strftime('%m/%d/%Y', JulianDate) FROM table1 "
+                                          "WHERE Month BETWEEN 3 AND 5 AND DayOfWeek_ IN (1, 7) "
+                                          "AND GraphicType > 0 ORDER BY Major1, JulianDate");
+    ASSERT_FALSE(expected.empty());
+    std::size_t n = 0;
+    for (; std::getline(text, line); ++n) {
+        ASSERT_LT(n, expected.size());
+        EXPECT_EQ(line.substr(5, 10), expected[n][0].toString().toStdString());
+    }
+    EXPECT_EQ(n, expected.size());
+
+    // The report as printed: the appended dash line after the last day, on one page here.
+    const std::string pages = ReportText(report);
+    EXPECT_EQ(pages.find('\f'), std::string::npos);
+    EXPECT_EQ(pages.substr(0, 36), "Quillmere DataBase Report - Page # 1");
+    EXPECT_EQ(pages.substr(pages.size() - 78), "\n" + std::string(76, '-') + "\n");
+}

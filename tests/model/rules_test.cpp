@@ -1,0 +1,90 @@
+// The location editor's digit texts, degree splitting, time-zone list and second-word
+// capitalisation, and the choices made when a source city becomes a row of Encdb.MDB.
+#include "model/cityrows.h"
+#include "model/locationrules.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+TEST(LocationRules, BoxTextsAndDegreeParts)
+{
+    EXPECT_EQ(Pad(0) + Pad(80) + Pad(122), "000080122");
+    EXPECT_EQ(PadFrac(5) + PadFrac(34), "0534");
+    // 80.2 - 80 is 0.2000000000000028; 0.996 rounds up into the next degree.
+    for (const auto& [degrees, whole, hundredths] :
+         {std::tuple{-0.5, 0, 50}, {80.2, 80, 20}, {122.34, 122, 34}, {0.996, 1, 0}}) {
+        EXPECT_EQ(SplitDegrees(degrees).Whole, whole) << degrees;
+        EXPECT_EQ(SplitDegrees(degrees).Hundredths, hundredths) << degrees;
+    }
+    EXPECT_DOUBLE_EQ(JoinDegrees(0, 50, true), -0.5);
+    EXPECT_DOUBLE_EQ(JoinDegrees(80, 20, false), 80.2);
+}
+
+TEST(LocationRules, TimeZoneListShowsOffsetAndCarriesItsNegation)
+{
+    const auto& list = TimeZoneEntries();
+    ASSERT_EQ(list.size(), 25u);
+    EXPECT_EQ(list.front().Text, "+12");
+    EXPECT_EQ(list.front().Value, -12);
+    for (const auto& [zone, text] : {std::pair{-1, "+1"},
+                                     {0, " 0  (UTC)"},
+                                     {3, "-3"},
+                                     {5, "-5  (Eastern)"},
+                                     {11, "-11  (Midway Is.)"}})
+        EXPECT_EQ(list[std::size_t(TimeZoneListPosition(zone))].Text, text);
+    EXPECT_EQ(list.back().Text, "-12");
+    for (int zone = -12; zone <= 12; ++zone)
+        EXPECT_EQ(list[std::size_t(TimeZoneListPosition(zone))].Value, zone);
+}
+
+TEST(LocationRules, ToLowerCaseCapitalisesTheSecondWordOnly)
+{
+    EXPECT_EQ(ToLowerCase("new york"), "new York");
+    EXPECT_EQ(ToLowerCase("Fort worth texas"), "Fort Worth texas");
+    EXPECT_EQ(ToLowerCase("DALLAS"), "DALLAS");
+    EXPECT_EQ(ToLowerCase("ends "), "ends ");
+}
+
+TEST(CityRows, StatesZonesAndHemispheres)
+{
+    const SourceCity miami{"Miami", "Florida", "United States of America", "US", 25.77, -80.19,
+                           440000,  -5 * 3600};
+    const auto row = CityRowFrom(miami);
+    ASSERT_TRUE(row);
+    EXPECT_EQ(row->State, "FL");
+    EXPECT_EQ(row->LongChar, "W");
+    EXPECT_EQ(row->LatChar, "N");
+    EXPECT_DOUBLE_EQ(row->LongInDegrees, 80.19);
+    EXPECT_EQ(row->Timezone, 5);
+    const auto sydney = CityRowFrom(
+        {"Sydney", "New South Wales", "Australia", "AU", -33.868, 151.207, 4600000, 10 * 3600});
+    ASSERT_TRUE(sydney);
+    EXPECT_EQ(sydney->State, "Australia");
+    EXPECT_EQ(sydney->LongChar, "E");
+    EXPECT_EQ(sydney->LatChar, "S");
+    EXPECT_DOUBLE_EQ(sydney->LatInDegrees, 33.87);
+    EXPECT_EQ(sydney->Timezone, -10);
+    EXPECT_EQ(UsPostalCode("Washington, D.C."), "DC");
+    EXPECT_EQ(UsPostalCode("State of Maine"), "ME");
+    EXPECT_EQ(UsPostalCode("Bavaria"), "");
+    // Half-hour zones, zones beyond 12 hours and unknown zones have no row.
+    EXPECT_FALSE(CityRowFrom({"Apia", "Tuamasaga", "Samoa", "WS", -13.8, -171.8, 1, 13 * 3600}));
+    EXPECT_FALSE(CityRowFrom({"Adelaide", "SA", "Australia", "AU", -34.9, 138.6, 1, 34200}));
+    EXPECT_FALSE(CityRowFrom({"Nowhere", "", "X", "XX", 0, 0, 1, std::nullopt}));
+}
+
+TEST(CityRows, OneRowPerStateAndCityOrderedWithoutRegardToCase)
+{
+    const std::vector<SourceCity> source = {
+        {"Springfield", "Illinois", "United States of America", "US", 39.8, -89.64, 114000, -21600},
+        {"aachen", "NRW", "Germany", "DE", 50.78, 6.08, 10, 3600},
+        {"Springfield", "Illinois", "United States of America", "US", 39.9, -89.7, 900, -21600},
+        {"Berlin", "Berlin", "Germany", "DE", 52.52, 13.41, 3400000, 3600}};
+    const auto rows = CityRows(source);
+    ASSERT_EQ(rows.size(), 3u);
+    EXPECT_EQ(rows[0].City, "aachen");
+    EXPECT_EQ(rows[1].City, "Berlin");
+    EXPECT_EQ(rows[2].State, "IL");
+    EXPECT_DOUBLE_EQ(rows[2].LatInDegrees, 39.8); // the more populous Springfield
+}

@@ -1,0 +1,243 @@
+// The moon picture by its pixels: which side is lit, how much, the southern swap and the
+// turned view.
+#include "astro/astronomy.h"
+#include "pages/moonpicture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <tuple>
+#include <vector>
+
+namespace {
+
+constexpr QSize Size(80, 80);
+constexpr std::uint32_t Yellow = 0x00FFFF; // 0x00BBGGRR
+const QRgb Lit = qRgb(255, 255, 0);
+const QRgb Dark = qRgb(0, 0, 0);
+const QRgb Back = qRgb(192, 192, 192);
+
+MoonLook Look(int percent, int waxing, int south = 0)
+{
+    MoonLook look;
+    look.IllumPercent = std::int16_t(percent);
+    look.Waxing = std::int16_t(waxing);
+    look.SouthernHemisphere = std::int16_t(south);
+    look.MoonColor = Yellow;
+    return look;
+}
+
+// Share of the disc's pixels in the lit colour, in percent.
+double LitShare(const QImage& image)
+{
+    int lit = 0, disc = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb p = image.pixel(x, y);
+            disc += p != Back ? 1 : 0;
+            lit += p == Lit ? 1 : 0;
+        }
+    }
+    return 100.0 * lit / disc;
+}
+
+// Points just inside the rim on the left and right, above the printed percentage.
+QRgb LeftOf(const QImage& image) { return image.pixel(6, 36); }
+QRgb RightOf(const QImage& image) { return image.pixel(74, 36); }
+
+} // namespace
+
+TEST(MoonPicture, TerminatorAspectTableMatchesItsShapes)
+{
+    EXPECT_EQ(TerminatorAspect[0], 0);
+    EXPECT_EQ(TerminatorAspect[25], 1.0);
+    EXPECT_EQ(TerminatorAspect[33], 1.91);
+    EXPECT_EQ(TerminatorAspect[50], 45);
+    EXPECT_TRUE(std::is_sorted(TerminatorAspect.begin(), TerminatorAspect.end()));
+}
+
+TEST(MoonPicture, WaxingIsLitOnTheRightAndWaningOnTheLeftInTheNorth)
+{
+    for (int percent : {10, 20, 50, 51, 80, 90}) {
+        const QImage waxing = DrawMoonDisc(Size, Look(percent, 1));
+        EXPECT_EQ(RightOf(waxing), Lit) << percent;
+        EXPECT_EQ(LeftOf(waxing), Dark) << percent;
+        const QImage waning = DrawMoonDisc(Size, Look(percent, 0));
+        EXPECT_EQ(LeftOf(waning), Lit) << percent;
+        EXPECT_EQ(RightOf(waning), Dark) << percent;
+    }
+    // 50 and 51 are both a half disc.
+    for (int percent : {50, 51}) {
+        const QImage half = DrawMoonDisc(Size, Look(percent, 1));
+        EXPECT_EQ(half.pixel(34, 30), Dark) << percent;
+        EXPECT_EQ(half.pixel(46, 30), Lit) << percent;
+    }
+}
+
+TEST(MoonPicture, LitAreaFollowsThePercentage)
+{
+    for (int percent : {10, 30, 50, 70, 90}) {
+        for (int waxing : {0, 1})
+            EXPECT_NEAR(LitShare(DrawMoonDisc(Size, Look(percent, waxing))), percent, 7)
+                << percent << " waxing " << waxing;
+    }
+    // Waning 30%: shape 70 on the left arc, and only the thin left part is lit.
+    const QImage waning = DrawMoonDisc(Size, Look(30, 0));
+    EXPECT_EQ(waning.pixel(8, 40), Lit);
+    EXPECT_EQ(waning.pixel(40, 40), Dark);
+}
+
+TEST(MoonPicture, SouthernHemisphereSwapsTheLitSide)
+{
+    const QImage crescent = DrawMoonDisc(Size, Look(25, 1, -1));
+    EXPECT_EQ(LeftOf(crescent), Lit);
+    EXPECT_EQ(RightOf(crescent), Dark);
+    const QImage waning = DrawMoonDisc(Size, Look(25, 0, -1));
+    EXPECT_EQ(RightOf(waning), Lit);
+    EXPECT_EQ(LeftOf(waning), Dark);
+}
+
+TEST(MoonPicture, NewIsAllBlackAndFullAllLitInsideABlackOutline)
+{
+    const QImage fresh = DrawMoonDisc(Size, Look(0, 1));
+    const QImage full = DrawMoonDisc(Size, Look(100, 0));
+    EXPECT_EQ(LitShare(fresh), 0);
+    EXPECT_EQ(fresh.pixel(40, 40), Dark);
+    EXPECT_EQ(full.pixel(40, 40), Lit);
+    EXPECT_EQ(full.pixel(40, 2), Dark); // the outline at the top, R = 38
+    EXPECT_EQ(full.pixel(0, 0), Back);
+    EXPECT_GT(LitShare(full), 90);
+}
+
+TEST(MoonPicture, PrintsThePercentAsPassedInRed)
+{
+    const QImage withText = DrawMoon(Size, Look(30, 0), std::nullopt).PicM;
+    const QImage disc = DrawMoonDisc(Size, Look(30, 0));
+    int red = 0, redRightBelowCentre = 0;
+    for (int y = 0; y < Size.height(); ++y) {
+        for (int x = 0; x < Size.width(); ++x) {
+            const bool isRed = withText.pixel(x, y) == qRgb(255, 0, 0);
+            red += isRed ? 1 : 0;
+            redRightBelowCentre += isRed && x >= 40 && y >= 40 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(red, 10);
+    EXPECT_EQ(red, redRightBelowCentre); // written from the disc's centre
+    EXPECT_EQ(withText.pixel(20, 30), disc.pixel(20, 30));
+}
+
+TEST(MoonPicture, TurnedViewOnlyWhenTheMoonIsUpAndTheOptionOn)
+{
+    const double q = std::acos(0.0);
+    MoonTurn turn{0.3, q, true, Size};
+    EXPECT_FALSE(DrawMoon(Size, Look(50, 1), turn).ToPict.isNull());
+    turn.MoonAltitude = -0.01;
+    EXPECT_TRUE(DrawMoon(Size, Look(50, 1), turn).ToPict.isNull());
+    turn = {0.3, q, false, Size};
+    EXPECT_TRUE(DrawMoon(Size, Look(50, 1), turn).ToPict.isNull());
+}
+
+TEST(MoonPicture, TurnedViewRotatesByTheParallacticAngle)
+{
+    // Turned by -q with q = 90 degrees (clockwise on the screen) the lit right half of a
+    // waxing half moon goes to the bottom; the southern disc is drawn half a turn round, so it
+    // is turned by 180 degrees - q and its lit left half goes to the bottom as well.
+    const double q = std::acos(0.0);
+    const QImage north = DrawMoon(Size, Look(50, 1), MoonTurn{0.5, q, true, Size}).ToPict;
+    EXPECT_EQ(north.pixel(40, 64), Lit);
+    EXPECT_EQ(north.pixel(40, 16), Dark);
+    const QImage south = DrawMoon(Size, Look(50, 1, -1), MoonTurn{0.5, q, true, Size}).ToPict;
+    EXPECT_EQ(south.pixel(40, 64), Lit);
+    EXPECT_EQ(south.pixel(40, 16), Dark);
+    const QImage level = DrawMoon(Size, Look(50, 1), MoonTurn{0.5, 0.0, true, Size}).ToPict;
+    EXPECT_EQ(RightOf(level), Lit);
+    EXPECT_EQ(LeftOf(level), Dark);
+}
+
+TEST(MoonPicture, RotatePictureCopiesPixelByPixelAndLeavesRowAndColumnZero)
+{
+    QImage source(10, 10, QImage::Format_RGB32);
+    source.fill(qRgb(0, 0, 255));
+    source.setPixel(7, 5, qRgb(255, 0, 0));
+    QImage target(10, 10, QImage::Format_RGB32);
+    target.fill(qRgb(0, 255, 0));
+    // A quarter turn counter-clockwise on the screen: (7, 5) -> (5, 3) about (5, 5).
+    RotatePicture(source, target, std::acos(0.0), 0, 0, 10, 10, 5, 5, 5, 5);
+    EXPECT_EQ(target.pixel(5, 3), qRgb(255, 0, 0));
+    EXPECT_EQ(target.pixel(0, 0), qRgb(0, 255, 0));
+    EXPECT_EQ(target.pixel(4, 0), qRgb(0, 255, 0));
+    EXPECT_EQ(target.pixel(0, 4), qRgb(0, 255, 0));
+    EXPECT_EQ(target.pixel(6, 6), qRgb(0, 0, 255));
+}
+
+namespace {
+// Screen direction (radians counter-clockwise from up) from the disc's centre to the centre
+// of its lit pixels.
+double LitDirection(const QImage& image)
+{
+    double sx = 0.0, sy = 0.0;
+    int n = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) == Lit) {
+                sx += x - image.width() / 2.0;
+                sy += y - image.height() / 2.0;
+                ++n;
+            }
+    return std::atan2(-sx / n, -sy / n);
+}
+
+// Where the Sun stands seen from the Moon on the sky, zenith up and azimuth growing to the
+// right as an observer facing the Moon sees it: the initial bearing of the great circle
+// from the Moon to the Sun in the horizon's coordinates, counter-clockwise from up.
+double SunDirection(const std::array<double, 4>& sky)
+{
+    const double dA = sky[0] - sky[1], hs = sky[2], hm = sky[3];
+    const double right = std::sin(dA) * std::cos(hs);
+    const double up = std::cos(hm) * std::sin(hs) - std::sin(hm) * std::cos(hs) * std::cos(dA);
+    return std::atan2(-right, up);
+}
+
+// Differences in degrees between the turned picture's lit side and the Sun's direction over
+// a year of hours when the Moon is up and neither new nor full.
+std::vector<double> TurnedErrors(double lonWest, double latNorth, int zone)
+{
+    Astronomy a;
+    a.Site.SetPlace(lonWest, latNorth, std::int16_t(zone));
+    std::vector<double> errors;
+    const double start = CivilToJd(2024, 1, 1);
+    for (int d = 0; d < 366; d += 2) {
+        for (double hour : {3.0, 7.0, 11.0, 15.0, 19.0, 23.0}) {
+            a.Site.HourInstant = hour / 24.0 + a.Site.ZoneDays;
+            a.ComputeSunDay(start + d);
+            a.ComputeDay(start + d);
+            const DayForecast& f = a.Forecast;
+            if (f.SkyPosition[3] < 0.05 || f.IllumPercent < 15 || f.IllumPercent > 85)
+                continue;
+            const MoonLook look = Look(f.IllumPercent, f.Waxing, latNorth < 0 ? -1 : 0);
+            const MoonTurn turn{f.SkyPosition[3], f.MoonParallacticAngle, true, Size};
+            const double diff =
+                LitDirection(DrawMoon(Size, look, turn).ToPict) - SunDirection(f.SkyPosition);
+            errors.push_back(std::fabs(std::remainder(diff, 2.0 * std::numbers::pi)) * 180.0 /
+                             std::numbers::pi);
+        }
+    }
+    std::sort(errors.begin(), errors.end());
+    return errors;
+}
+} // namespace
+
+// The turned picture shows the Moon as it stands in the sky, its lit side towards the Sun,
+// north and south of the equator alike.
+TEST(MoonPicture, TurnedLitSideFacesTheSunInBothHemispheres)
+{
+    for (const auto& [lon, lat, zone] :
+         {std::tuple{-151.21, -33.87, -10}, std::tuple{92.42, 31.25, 6}}) {
+        const std::vector<double> errors = TurnedErrors(lon, lat, zone);
+        ASSERT_GT(errors.size(), 100u);
+        EXPECT_LT(errors[errors.size() / 2], 30.0) << "median at latitude " << lat;
+        EXPECT_LT(errors.back(), 45.0) << "largest at latitude " << lat;
+    }
+}

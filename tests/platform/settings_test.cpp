@@ -1,0 +1,178 @@
+#include "platform/settingsio.h"
+#include "platform/settingsstore.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+namespace {
+SettingsStore FreshStore()
+{
+    SettingsStore store(QStringLiteral("SettingsTest"));
+    store.DeleteAll();
+    return store;
+}
+} // namespace
+
+TEST(Settings, MissingKeysTakeTheDefaultsTable)
+{
+    SettingsStore store = FreshStore();
+    Settings s;
+    LoadSettings(s, store);
+    EXPECT_EQ(s.Locations[1].Name, "Alexandria, LA");
+    EXPECT_DOUBLE_EQ(s.Locations[1].Longitude, 92.42);
+    EXPECT_DOUBLE_EQ(s.Locations[2].Longitude, 80.2);
+    EXPECT_DOUBLE_EQ(s.Locations[5].Longitude, 84.79);
+    EXPECT_EQ(s.Locations[8].Name, "Pittsburg, PA");
+    EXPECT_EQ(s.Locations[10].Name, "Seattle, Wa");
+    EXPECT_EQ(s.Locations[3].TimeZone, 8);
+    EXPECT_EQ(s.TimeFormats, 1);
+    EXPECT_EQ(s.FormTop, "300");
+    EXPECT_EQ(s.FormLeft, 300);
+    EXPECT_TRUE(s.MouseClick);
+    EXPECT_EQ(s.MoonColor, 16777215);
+}
+
+TEST(Settings, StoredTextFormsRoundTrip)
+{
+    SettingsStore store = FreshStore();
+    store.Write("Usr1Long", "92.4249");
+    store.Write("Usr2Long", "80.2");
+    store.Write("Usr3Lat", "-0.5");
+    store.Write("Usr4TZ", "-3");
+    store.Write("Graphic", "7");
+    store.Write("MouseClick", "False");
+    Settings s;
+    LoadSettings(s, store);
+    EXPECT_DOUBLE_EQ(s.Locations[1].Longitude, 92.42);
+    EXPECT_DOUBLE_EQ(s.Locations[3].Latitude, -0.5);
+    s.Locations[5].Longitude = 0.5;
+    EXPECT_TRUE(SaveSettings(s, store));
+    EXPECT_EQ(store.Read("Usr1Long", ""), "92.42");
+    EXPECT_EQ(store.Read("Usr2Long", ""), "80.20");
+    EXPECT_EQ(store.Read("Usr5Long", ""), ".50");
+    EXPECT_EQ(store.Read("Usr3Lat", ""), "-.50");
+    EXPECT_EQ(store.Read("Usr1TZ", ""), " 6");
+    EXPECT_EQ(store.Read("Usr4TZ", ""), "-3");
+    EXPECT_EQ(store.Read("Graphic", ""), "7"); // kept although nothing uses it
+    EXPECT_EQ(store.Read("MouseClick", ""), "False");
+    EXPECT_EQ(store.Read("TimeFormats", ""), "1");
+    Settings again;
+    LoadSettings(again, store);
+    EXPECT_DOUBLE_EQ(again.Locations[5].Longitude, 0.5);
+    EXPECT_EQ(again.Locations[4].TimeZone, -3);
+    EXPECT_FALSE(again.MouseClick);
+}
+
+TEST(Settings, FirstStartValuesDifferFromTheDefaultsInThreePlaces)
+{
+    SettingsStore store = FreshStore();
+    WriteFirstStartValues(store);
+    Settings s;
+    LoadSettings(s, store);
+    EXPECT_DOUBLE_EQ(s.Locations[5].Longitude, 84.39);
+    EXPECT_EQ(s.Locations[8].Name, "Pittsburgh, PA");
+    EXPECT_EQ(s.Locations[10].Name, "Seattle, WA");
+    EXPECT_EQ(s.Locations[1].Name, "Alexandria, LA");
+    EXPECT_EQ(store.Read("Usr1TZ", ""), " 6");
+    EXPECT_FALSE(store.Contains("FormTop"));
+}
+
+TEST(Settings, TextThatDoesNotConvertNamesTheKey)
+{
+    SettingsStore store = FreshStore();
+    store.Write("Usr7TZ", "five");
+    Settings s;
+    try {
+        LoadSettings(s, store);
+        FAIL() << "bad text accepted";
+    } catch (const SettingError& e) {
+        EXPECT_EQ(e.Key, "Usr7TZ");
+        EXPECT_EQ(e.Text, "five");
+    }
+    store.Write("Usr7TZ", "5");
+    store.Write("FormLeft", "70000"); // beyond a 16-bit integer
+    EXPECT_THROW(LoadSettings(s, store), SettingError);
+}
+
+TEST(Settings, TextSettingsReadAsBooleans)
+{
+    Settings s;
+    EXPECT_TRUE(s.AmPm());
+    s.AMPM = "False";
+    EXPECT_FALSE(s.AmPm());
+    s.ParallacticAngle = "-1";
+    EXPECT_TRUE(s.ParallacticOn());
+    s.DefLoc = "4";
+    EXPECT_EQ(s.DefaultLocation(), 4);
+    s.DefLoc = "11";
+    EXPECT_EQ(s.DefaultLocation(), 1);
+}
+
+// A person editing the file writes names with commas unquoted, which QSettings reads as a
+// list; coordinates and zones out of range are refused like text that does not convert.
+TEST(Settings, HandWrittenFileIsReadWholeAndRangeChecked)
+{
+    SettingsStore store = FreshStore();
+    const auto writeFile = [&store](const QByteArray& settings) {
+        QFileInfo(store.FilePath()).dir().mkpath(QStringLiteral("."));
+        QFile file(store.FilePath());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write("[Settings]\n" + settings);
+    };
+    writeFile("Usr1Name=Alexandria, LA\nUsr2Name=\"Key West, FL\"\n");
+    Settings s;
+    LoadSettings(s, store);
+    EXPECT_EQ(s.Locations[1].Name, "Alexandria, LA");
+    EXPECT_EQ(s.Locations[2].Name, "Key West, FL");
+    EXPECT_TRUE(SaveSettings(s, store));
+    EXPECT_EQ(store.Read("Usr1Name", ""), "Alexandria, LA");
+
+    for (const auto& [line, key] : {std::pair{"Usr1Lat=95", "Usr1Lat"},
+                                    {"Usr3Lat=-90.5", "Usr3Lat"},
+                                    {"Usr2Long=180.01", "Usr2Long"},
+                                    {"Usr1TZ=30000", "Usr1TZ"},
+                                    {"Usr10TZ=-13", "Usr10TZ"}}) {
+        writeFile(QByteArray(line) + "\n");
+        try {
+            LoadSettings(s, store);
+            ADD_FAILURE() << line << " accepted";
+        } catch (const SettingError& e) {
+            EXPECT_EQ(e.Key, key);
+        }
+    }
+    writeFile("Usr1Lat=-90\nUsr2Long=-180\nUsr1TZ=-12\nUsr2TZ=12\n");
+    EXPECT_NO_THROW(LoadSettings(s, store));
+}
+
+// A file that cannot be written (here a folder stands in its place, which stops root too)
+// is reported, not passed over.
+TEST(Settings, SavingReportsAFileThatCannotBeWritten)
+{
+    SettingsStore store(QStringLiteral("Unwritable"));
+    QFile::remove(store.FilePath());
+    ASSERT_TRUE(QDir().mkpath(store.FilePath()));
+    Settings s;
+    EXPECT_FALSE(SaveSettings(s, store));
+    QDir(store.FilePath()).removeRecursively();
+    EXPECT_TRUE(SaveSettings(s, store));
+}
+
+// The command line's store reads the file and keeps its own writes in memory.
+TEST(Settings, ReadOnlyStoreLeavesTheFileAlone)
+{
+    SettingsStore file = FreshStore();
+    file.Write("Usr1Name", "Camp");
+    ASSERT_TRUE(file.Flush());
+    SettingsStore store = SettingsStore::ReadOnly(QStringLiteral("SettingsTest"));
+    EXPECT_EQ(store.Read("Usr1Name", ""), "Camp");
+    WriteFirstStartValues(store);
+    EXPECT_EQ(store.Read("Usr1Name", ""), "Alexandria, LA");
+    EXPECT_EQ(file.Read("Usr1Name", ""), "Camp");
+    EXPECT_FALSE(file.Contains("Usr2Name"));
+    store.DeleteAll();
+    EXPECT_FALSE(store.Contains("Usr1Name"));
+    EXPECT_TRUE(file.Contains("Usr1Name"));
+}

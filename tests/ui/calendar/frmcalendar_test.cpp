@@ -1,0 +1,303 @@
+#include "astro/timebase.h"
+#include "platform/settingsio.h"
+#include "ui/calendar/daycellwidget.h"
+#include "ui/calendar/frmcalendar.h"
+#include "ui/calendar/mainwindowtest.h"
+
+#include <QLabel>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+
+// The main window on 10 March 2024, 07:30.
+class Window : public MainWindowTest {
+protected:
+    Window() : MainWindowTest("2024-03-10T07:30:00") {}
+    int FramedCell() const
+    {
+        for (int i = 0; i < 37; ++i)
+            if (W->txtpic[std::size_t(i)]->Framed())
+                return i;
+        return -1;
+    }
+};
+
+TEST_F(Window, OpensOnTodayAtNoon)
+{
+    EXPECT_EQ(Text(11), "March");
+    EXPECT_EQ(Text(12), " 2024");
+    EXPECT_EQ(W->VsbHour->value(), 720);
+    EXPECT_EQ(Text(15), "12:00 PM");
+    EXPECT_EQ(FramedCell(), 5 + 9); // 1 March 2024 is a Friday
+    EXPECT_EQ(W->SelDay, 10);
+    EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 10));
+    EXPECT_NEAR(App.Astro.Site.HourInstant, 0.5 + 0.25, 1e-12);
+    EXPECT_EQ(W->txtpic[14]->Shown().Number, "10");
+    EXPECT_FALSE(W->txtpic[0]->isEnabled());
+    EXPECT_EQ(W->txtpic[14]->toolTip(), " Moon at Perigee ");
+    EXPECT_EQ(W->txtpic[5 + 30]->toolTip(), " Easter Sunday ");
+}
+
+TEST_F(Window, MonthButtonsWrapTheYearRange)
+{
+    SetMonth(2500, 12);
+    W->IncMonth_Click();
+    EXPECT_EQ(App.Cal.CurYear, 1900);
+    EXPECT_EQ(App.Cal.CurMonth, 1);
+    EXPECT_EQ(W->VsbYear->value(), 1900);
+    EXPECT_EQ(Text(11), "January");
+    EXPECT_EQ(Text(12), " 1900");
+    EXPECT_EQ(W->SkipRefresh, 0);
+    W->DecMonth_Click();
+    EXPECT_EQ(App.Cal.CurYear, 2500);
+    EXPECT_EQ(App.Cal.CurMonth, 12);
+    EXPECT_EQ(Text(11), "December");
+    W->DecMonth_Click();
+    EXPECT_EQ(Text(11), "November");
+    EXPECT_EQ(FramedCell(), App.Cal.FirstWeekday); // not this month: day 1 is framed
+}
+
+TEST_F(Window, NowReturnsToTodayAtNoon)
+{
+    SetMonth(1999, 7);
+    W->VsbHour->setValue(100);
+    W->CmdNOW_Click();
+    EXPECT_EQ(Text(11), "March");
+    EXPECT_EQ(W->VsbYear->value(), 2024);
+    EXPECT_EQ(W->VsbHour->value(), 720);
+    EXPECT_EQ(FramedCell(), 14);
+}
+
+TEST_F(Window, YearBarChangesTheYearAndScrollingOnlyTheNumber)
+{
+    W->VsbYear->setValue(2030);
+    EXPECT_EQ(Text(12), " 2030");
+    EXPECT_EQ(App.Cal.CurYear, 2030);
+    W->VsbYear->setSliderPosition(2040);
+    W->VsbYear_Scroll();
+    EXPECT_EQ(App.Cal.CurYear, 2040);
+    EXPECT_EQ(Text(12), " 2030");
+}
+
+// The hour bar moves the moment: the Moon's altitude changes, the label follows, and the
+// click on the label resets to noon.
+TEST_F(Window, HourBarMovesTheMomentOfTheDay)
+{
+    const double noonAltitude = App.Astro.Forecast.SkyPosition[3];
+    W->VsbHour->setValue(18 * 60 + 45);
+    EXPECT_EQ(Text(15), "06:45 PM");
+    EXPECT_NE(App.Astro.Forecast.SkyPosition[3], noonAltitude);
+    W->Label15_Click();
+    EXPECT_EQ(W->VsbHour->value(), 720);
+    EXPECT_DOUBLE_EQ(App.Astro.Forecast.SkyPosition[3], noonAltitude);
+}
+
+// With "On Click", hovering shows the day counter but recomputes nothing; with "On Move" a
+// day is recomputed once when the mouse comes to it, not on every movement.
+TEST_F(Window, MouseOptionsDecideWhenADayIsRecomputed)
+{
+    W->Mouse_Click(1);
+    W->txtpic_MouseMove(20); // 16 March
+    EXPECT_EQ(Text(3), "Day  76   290 days remain");
+    EXPECT_EQ(FramedCell(), 14);
+    EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 16));
+    W->Mouse_Click(0);
+    W->VsbHour->setValue(300);
+    W->txtpic_MouseMove(21); // 17 March: the panel shows it at noon, the frame stays
+    EXPECT_EQ(FramedCell(), 14);
+    EXPECT_EQ(W->SelDay, 17);
+    EXPECT_EQ(W->VsbHour->value(), 720);
+    EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 17));
+    Astronomy reference = App.Astro;
+    reference.ComputeDay(CivilToJd(2024, 3, 17));
+    EXPECT_EQ(App.Astro.Forecast.Major1Text, reference.Forecast.Major1Text);
+    App.Astro.Forecast.Major1Text = "marker";
+    W->txtpic_MouseMove(21);
+    EXPECT_EQ(App.Astro.Forecast.Major1Text, "marker");
+    W->txtpic_MouseMove(22);
+    EXPECT_NE(App.Astro.Forecast.Major1Text, "marker");
+    W->Form_MouseMove();
+    EXPECT_EQ(Text(3), "");
+    EXPECT_EQ(W->LastHoveredCell, -1);
+}
+
+TEST_F(Window, ClickSelectsAndRecomputesAtNoon)
+{
+    W->Mouse_Click(1);
+    W->VsbHour->setValue(300);
+    QTest::mouseClick(W->txtpic[25], Qt::LeftButton);
+    EXPECT_EQ(FramedCell(), 25);
+    EXPECT_FALSE(W->txtpic[14]->Framed());
+    EXPECT_EQ(W->VsbHour->value(), 720);
+    EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 21));
+    EXPECT_EQ(Text(0), App.Astro.Forecast.Major1Text);
+}
+
+TEST_F(Window, DayCounterOfTheLastDayOfALeapYear)
+{
+    SetMonth(2024, 12);
+    W->txtpic_MouseMove(App.Cal.FirstWeekday + 30);
+    EXPECT_EQ(Text(3), "Day  366   0 days remain");
+}
+
+// The hour bar follows the clock while today is selected, and stays put on another day.
+TEST_F(Window, TimerKeepsTodayOnTheClock)
+{
+    qputenv("QUILLMERE_NOW", "2024-03-10T16:20:40");
+    W->Timer1_Timer();
+    EXPECT_EQ(W->VsbHour->value(), 16 * 60 + 20);
+    W->Mouse_Click(1);
+    W->txtpic_Click(15);
+    W->Timer1_Timer();
+    EXPECT_EQ(W->VsbHour->value(), 720);
+}
+
+// A southern location swaps the quarter pictures of the grid; a northern one swaps them back.
+TEST_F(Window, SouthernLocationSwapsTheQuarterPictures)
+{
+    const QImage first = W->ImageA[8].toImage(), last = W->ImageA[10].toImage();
+    ASSERT_NE(first, last);
+    EXPECT_EQ(W->Pic[21].toImage(), first);
+    App.Config.Locations[3].Latitude = -33.87;
+    W->DLoc_Click(3);
+    EXPECT_EQ(W->Here.SouthernHemisphere, -1);
+    EXPECT_EQ(W->Pic[21].toImage(), last);
+    EXPECT_EQ(W->Pic[23].toImage(), first);
+    // The first quarter of March 2024 shows the southern first-quarter picture.
+    int quarters = 0;
+    for (int d = 1; d <= 31; ++d)
+        if (App.Cal.YearDays[std::size_t(App.Cal.MonthStartDoy[3] + d - 1)].Phase == 2) {
+            EXPECT_EQ(W->txtpic[std::size_t(5 + d - 1)]->Shown().Phase.toImage(), last);
+            ++quarters;
+        }
+    EXPECT_EQ(quarters, 1);
+    W->DLoc_Click(1);
+    EXPECT_EQ(W->Pic[21].toImage(), first);
+}
+
+// The moon picture: dark on the new-moon day; the parallactic view only on request.
+TEST_F(Window, MoonPictureAndItsParallacticView)
+{
+    EXPECT_EQ(Text(32), App.Astro.Forecast.SkyPosition[3] < 0 ? "Moon has Set" : "Moon is Up");
+    const QImage moon = W->PicM->pixmap().toImage();
+    const QPoint centre(moon.width() / 2, moon.height() / 3);
+    EXPECT_LT(qGray(moon.pixel(centre)), 80); // 10 March 2024 is a new moon
+    App.Config.ParallacticAngle = "False";
+    W->PicM_MouseMove();
+    EXPECT_EQ(W->PicM->toolTip(), " Click to Show Parallactic Angle View ");
+    App.Config.ParallacticAngle = "True";
+    W->PicM_MouseMove();
+    EXPECT_EQ(W->PicM->toolTip(), "");
+}
+
+// Number, marks, phase symbol and fish each keep their own place inside the selection frame,
+// on the days with marks and two-digit numbers too (10 March, 15 and 30 December 2024).
+TEST_F(Window, DayCellsKeepTheirPartsApart)
+{
+    int marked = 0;
+    for (const auto& [year, month] : {std::pair{2024, 3}, {2024, 12}}) {
+        SetMonth(year, month);
+        for (int i = 0; i < 37; ++i) {
+            const DayCellWidget& cell = *W->txtpic[std::size_t(i)];
+            const DayCellWidget::Placement at = cell.Place();
+            marked += cell.Shown().Marks > 0 ? 1 : 0;
+            std::vector<QRect> parts{at.Number};
+            for (const QRect& r : {at.Marks, at.Phase, at.Rating})
+                if (!r.isEmpty())
+                    parts.push_back(r);
+            for (std::size_t a = 0; a < parts.size(); ++a) {
+                EXPECT_TRUE(at.Inside.contains(parts[a])) << year << "-" << month << " cell " << i;
+                for (std::size_t b = a + 1; b < parts.size(); ++b)
+                    EXPECT_FALSE(parts[a].intersects(parts[b]))
+                        << year << "-" << month << " cell " << i << " parts " << a << ", " << b;
+            }
+        }
+    }
+    EXPECT_GT(marked, 4);
+}
+
+// The chosen hour is a clock hour of the place: after a move to another zone the moon is
+// computed for the hour the label shows.
+TEST_F(Window, LocationChangeKeepsTheChosenClockHour)
+{
+    W->VsbHour->setValue(15 * 60);
+    App.Config.Locations[5] = {"Sydney, NSW", -151.21, -33.87, -10};
+    W->DLoc_Click(5);
+    EXPECT_EQ(Text(15), "03:00 PM");
+    EXPECT_NEAR(App.Astro.Site.HourInstant, 15.0 / 24.0 - 10.0 / 24.0, 1e-12);
+    Astronomy fresh;
+    fresh.Site = App.Astro.Site;
+    fresh.ComputeDay(App.Config.SelectedJD);
+    EXPECT_EQ(App.Astro.Forecast.IllumFraction, fresh.Forecast.IllumFraction);
+    EXPECT_EQ(App.Astro.Forecast.MoonParallacticAngle, fresh.Forecast.MoonParallacticAngle);
+}
+
+// A stored time format that is neither choice leaves the menu's checks alone.
+TEST_F(Window, UnknownTimeFormatLeavesTheMenuChecks)
+{
+    W->DST_Click(0);
+    App.Config.TimeFormats = 2;
+    W->ApplyCurrentLocation();
+    EXPECT_TRUE(W->DST[0]->isChecked());
+    EXPECT_FALSE(W->DST[1]->isChecked());
+}
+
+TEST_F(Window, DaylightSavingMovesTheTimesOneHour)
+{
+    const std::string standard = Text(14);
+    W->DST_Click(0);
+    EXPECT_TRUE(W->DST[0]->isChecked());
+    EXPECT_NE(Text(14), standard);
+    EXPECT_NE(W->Here.LocationCaption.find("Time=DST"), std::string::npos);
+    W->DST_Click(1);
+    EXPECT_EQ(Text(14), standard);
+}
+
+} // namespace
+
+namespace {
+TEST_F(Window, LocationMenusAndStatusBarCaption)
+{
+    App.Config.DefLoc = "4";
+    W->ApplyCurrentLocation();
+    EXPECT_EQ(W->DLoc[1]->text(), "# 1 Alexandria, LA");
+    EXPECT_TRUE(W->DLoc[4]->text().endsWith("  [Def]"));
+    EXPECT_TRUE(W->Loc[4]->text().endsWith("  [Def]"));
+    for (int i : {1, 2, 3, 5, 10})
+        EXPECT_FALSE(W->DLoc[std::size_t(i)]->text().contains("[Def]")) << i;
+    W->StatusBar1_MouseMove(1000);
+    EXPECT_EQ(W->StatusBar1->toolTip(), "Alexandria, LA  Long=92.42 W Lat=31.25 N TimeZone= 6 "
+                                        " Time=STD Hemisphere=Northern ");
+    W->StatusBar1_MouseMove(2100);
+    EXPECT_EQ(W->StatusBar1->toolTip(), "");
+}
+
+// Screenshots for a person to look at: this month at location 1, a southern location, and a
+// month with holidays and all four phases (March 2024).
+TEST_F(Window, SavesScreenshots)
+{
+    const QString dir = QStringLiteral(QUILLMERE_SCREENSHOTS);
+    W->resize(W->size()); // the window's own fixed size
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-location1.png"));
+    SetMonth(2024, 3);
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-march2024.png"));
+    W->Mouse_Click(1);
+    W->txtpic_Click(App.Cal.FirstWeekday + 13); // 14 March at noon: the Moon is up
+    EXPECT_EQ(Text(32), "Moon is Up");
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-alexandria-14march2024.png"));
+    App.Config.Locations[5] = {"Hobart, TAS", -147.33, -42.88, -10};
+    W->DLoc_Click(5);
+    EXPECT_EQ(W->StatusPanels[0]->text(), "Hobart, TAS");
+    W->Pangle_Click(1);
+    W->txtpic_Click(App.Cal.FirstWeekday + 13);
+    W->VsbHour->setValue(19 * 60); // an evening waxing crescent, turned as in the sky
+    EXPECT_TRUE(W->ToPict->isVisible());
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-southern.png"));
+}
+} // namespace

@@ -1,0 +1,171 @@
+// The location editor on a copy of the built city database: the boxes, options and zone
+// list for a location, picking a state and a city (names with a quote too), "&Done", and
+// what happens when the city list is missing, empty or has lost a record.
+#include "support/cityfolder.h"
+#include "ui/common/messageservice.h"
+#include "ui/locations/frmlocation.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QScrollBar>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Editor {
+    explicit Editor(const QString& folder, const Location& loc)
+    {
+        Locations[3] = loc;
+        Locations[1] = {"Alexandria, LA", 92.42, 31.25, 6};
+        Messages.Script([](const ShownMessage&) { return MsgResult::OK; });
+        W = std::make_unique<FrmLocation>(
+            LocationContext{Messages, Locations, CurLoc, DefLoc, folder});
+        W->show();
+    }
+    QString Text(int i) const { return W->Text[std::size_t(i)]->text(); }
+    // The degree and hundredth boxes of longitude, then of latitude.
+    QString Boxes() const { return QStringList{Text(0), Text(1), Text(2), Text(3)}.join(' '); }
+    QString Zone() const { return W->List1->currentItem()->text(); }
+    // Picks the entry as a user does, by its text.
+    void Pick(int combo, const QString& text)
+    {
+        QComboBox* box = W->Combo[std::size_t(combo)];
+        const int index = box->findText(text);
+        ASSERT_GE(index, 0) << text.toStdString();
+        box->setCurrentIndex(index);
+        W->Combo_Click(combo);
+    }
+
+    LocationTable Locations;
+    std::int16_t CurLoc = 3;
+    std::string DefLoc = "1";
+    MessageService Messages;
+    std::unique_ptr<FrmLocation> W;
+};
+
+} // namespace
+
+TEST(FrmLocation, ShowsALocationInTheBoxesOptionsAndZoneList)
+{
+    const QString folder = cityfolder::Make("loc-show");
+    Editor east(folder, {"Greenwich east", -0.5, 51.48, -1});
+    EXPECT_EQ(east.Boxes(), "000 50 51 48");
+    EXPECT_TRUE(east.W->SSOption[1]->isChecked()); // E
+    EXPECT_TRUE(east.W->SSOption[2]->isChecked()); // N
+    EXPECT_EQ(east.Zone(), "+1");
+    EXPECT_EQ(east.Text(4), "Greenwich east");
+    EXPECT_EQ(east.Text(5), "Alexandria, LA");
+    EXPECT_EQ(east.W->Text[0]->toolTip(), " Integer Degrees of Longitude ");
+    east.W->CloseLocation_Click();
+    EXPECT_DOUBLE_EQ(east.Locations[3].Longitude, -0.5);
+    EXPECT_DOUBLE_EQ(east.Locations[3].Latitude, 51.48);
+    EXPECT_EQ(east.Locations[3].TimeZone, -1);
+
+    Editor miami(folder, {"Miami, FL", 80.2, -25.77, 5});
+    EXPECT_EQ(miami.Boxes(), "080 20 25 77");
+    EXPECT_TRUE(miami.W->SSOption[0]->isChecked()); // W
+    EXPECT_TRUE(miami.W->SSOption[3]->isChecked()); // S
+    EXPECT_EQ(miami.Zone(), "-5  (Eastern)");
+    Editor utc(folder, {"Seattle", 122.34, 47.61, 0});
+    EXPECT_EQ(utc.Boxes(), "122 34 47 61");
+    EXPECT_EQ(utc.Zone(), " 0  (UTC)");
+}
+
+TEST(FrmLocation, StateFillsCitiesInOrderAndACityFillsEveryField)
+{
+    const QString folder = cityfolder::Make("loc-pick");
+    Editor e(folder, {"Somewhere", 90.0, 30.0, 6});
+    const QStringList states = cityfolder::Column(folder, "SELECT DISTINCT State FROM Table1");
+    ASSERT_EQ(e.W->Combo[0]->count(), states.size());
+    e.Pick(0, "Australia");
+    const QStringList cities = cityfolder::Column(
+        folder, "SELECT City FROM Table1 WHERE State = 'Australia' ORDER BY lower(City)");
+    QStringList shown;
+    for (int i = 0; i < e.W->Combo[1]->count(); ++i)
+        shown << e.W->Combo[1]->itemText(i);
+    EXPECT_EQ(shown, cities);
+
+    e.Pick(1, "Sydney");
+    EXPECT_EQ(e.Boxes(), "151 21 33 87");
+    EXPECT_TRUE(e.W->SSOption[1]->isChecked()); // E
+    EXPECT_TRUE(e.W->SSOption[3]->isChecked()); // S
+    EXPECT_EQ(e.Zone(), "+10");
+    EXPECT_EQ(e.Text(4), "Sydney, Australia");
+    EXPECT_EQ(e.Locations[3].Name, "Somewhere"); // nothing stored before "&Done"
+    EXPECT_EQ(e.Locations[3].TimeZone, 6);
+    e.W->CloseLocation_Click();
+    EXPECT_DOUBLE_EQ(e.Locations[3].Longitude, -151.21);
+    EXPECT_DOUBLE_EQ(e.Locations[3].Latitude, -33.87);
+    EXPECT_EQ(e.Locations[3].TimeZone, -10);
+    EXPECT_EQ(e.Locations[3].Name, "Sydney, Australia");
+}
+
+TEST(FrmLocation, NamesWithAQuoteArePickedLikeAnyOther)
+{
+    const QString folder = cityfolder::Make("loc-quote");
+    Editor e(folder, {"Somewhere", 90.0, 30.0, 6});
+    e.Pick(0, "ID");
+    e.Pick(1, "Coeur d'Alene");
+    EXPECT_EQ(e.Boxes().left(6), "116 78");
+    EXPECT_EQ(e.Zone(), "-8  (Pacific)");
+    EXPECT_EQ(e.Text(4), "Coeur d'Alene, ID");
+    EXPECT_TRUE(e.Messages.Shown().empty());
+}
+
+TEST(FrmLocation, MakeDefaultNamesTheDefault)
+{
+    Editor e(cityfolder::Make("loc-default"), {"Old", 90.0, 30.0, 6});
+    e.W->Text[4]->setText("Camp Lake");
+    e.W->CmdDefault_Click();
+    EXPECT_EQ(e.DefLoc, "3");
+    EXPECT_EQ(e.Locations[3].Name, "Camp Lake");
+    EXPECT_EQ(e.Text(5), "Camp Lake");
+}
+
+TEST(FrmLocation, MissingOrEmptyCityListLeavesHandEditing)
+{
+    Editor missing(cityfolder::Make("loc-missing", false), {"Home", 90.0, 30.0, 6});
+    EXPECT_EQ(missing.W->Combo[0]->count(), 0);
+    EXPECT_TRUE(missing.W->CityNote->text().contains("is missing; type the place by hand"));
+    missing.W->VsbDegLon->setValue(91);
+    missing.W->List1->setCurrentRow(12 + 7);
+    missing.W->CloseLocation_Click();
+    EXPECT_DOUBLE_EQ(missing.Locations[3].Longitude, 91.0);
+    EXPECT_EQ(missing.Locations[3].TimeZone, 7);
+
+    const QString emptyFolder = cityfolder::Make("loc-emptyfile", false);
+    QFile(emptyFolder + "/Encdb.MDB").open(QIODevice::WriteOnly);
+    Editor empty(emptyFolder, {"Home", 90.0, 30.0, 6});
+    EXPECT_EQ(empty.W->Combo[0]->count(), 0);
+    EXPECT_TRUE(empty.W->CityNote->text().contains("cannot be read"));
+}
+
+TEST(FrmLocation, ACityDeletedMeanwhileIsReportedAndChangesNothing)
+{
+    const QString folder = cityfolder::Make("loc-deleted");
+    Editor e(folder, {"Home", 90.0, 30.0, 6});
+    e.Pick(0, "TX");
+    ASSERT_TRUE(
+        cityfolder::Exec(folder, "DELETE FROM Table1 WHERE City = 'Austin' AND State = 'TX'"));
+    e.Pick(1, "Austin");
+    ASSERT_EQ(e.Messages.Shown().size(), 1u);
+    EXPECT_EQ(e.Messages.Shown()[0].Text, "Austin, TX is no longer in the city list.");
+    EXPECT_EQ(e.Text(0), "090");
+    EXPECT_EQ(e.Text(4), "Home");
+    e.W->reject(); // closed without "&Done"
+    EXPECT_EQ(e.Locations[3].Name, "Home");
+}
+
+TEST(FrmLocation, Screenshot)
+{
+    Editor e(cityfolder::Make("loc-shot"), {"Alexandria, LA", 92.42, 31.25, 6});
+    e.W->setWindowTitle("Location #3 ");
+    e.Pick(0, "LA");
+    e.Pick(1, "Alexandria");
+    EXPECT_TRUE(e.W->grab().save(QStringLiteral(QUILLMERE_SCREENSHOTS "/frmlocation.png")));
+}

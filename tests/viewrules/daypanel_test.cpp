@@ -1,0 +1,83 @@
+#include "viewrules/daypanel.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+DayForecast Day()
+{
+    DayForecast f;
+    f.SunEvents(0, 0) = 6.5; // sunrise
+    f.SunEvents(0, 1) = 12.5;
+    f.SunEvents(0, 2) = 18.5; // sunset
+    f.Major1 = 7.5;
+    f.Major2 = 19.0 + 31.0 / 60.0;
+    f.Minor1 = 1.0;
+    f.Minor2 = -1.0;
+    f.Major1Text = "07:30 AM";
+    f.Major2Text = "07:31 PM";
+    f.Minor1Text = "01:00 AM";
+    f.Minor2Text = "*******";
+    f.DayLength = 12.0;
+    f.MoonEvents.RiseTime = 3.25;
+    f.MoonEvents.SetTime = 15.5;
+    f.MoonEvents.RiseFlag = 0;
+    f.MoonEvents.SetFlag = 0;
+    return f;
+}
+
+TEST(DayPanel, PeriodsNearTheSunAreYellow)
+{
+    const DayPanel p = DoLabels(Day(), 0.1, true);
+    EXPECT_EQ(p.Colors.at(0), Yellow); // exactly an hour after sunrise
+    EXPECT_EQ(p.Colors.at(2), Black);  // an hour and a minute after sunset
+    EXPECT_EQ(p.Colors.at(4), Black);
+    EXPECT_EQ(p.Colors.count(5), 0u); // no such minor: its colour is left as it was
+    EXPECT_EQ(p.Captions.at(5), "*******");
+    EXPECT_EQ(p.Captions.at(32), "Moon is Up");
+    EXPECT_EQ(p.Colors.at(32), Red);
+    EXPECT_EQ(p.Captions.at(7), "12:00");
+    EXPECT_EQ(DoLabels(Day(), -0.1, true).Captions.at(32), "Moon has Set");
+}
+
+TEST(DayPanel, MoonRiseAndSetInTheOrderTheyHappen)
+{
+    DayForecast f = Day();
+    DayPanel p = DoLabels(f, 0, true);
+    EXPECT_EQ(p.Captions.at(18), "Rise");
+    EXPECT_EQ(p.Captions.at(19), "03:15 AM");
+    EXPECT_EQ(p.Captions.at(21), "Set");
+    f.MoonEvents.RiseTime = 16.0;
+    p = DoLabels(f, 0, true);
+    EXPECT_EQ(p.Captions.at(18), "Set");
+    EXPECT_EQ(p.Captions.at(22), "04:00 PM");
+    f.MoonEvents.RiseFlag = 2;
+    p = DoLabels(f, 0, true);
+    EXPECT_EQ(p.Captions.at(18), "Set");
+    EXPECT_EQ(p.Captions.at(19), "03:30 PM");
+    EXPECT_EQ(p.Captions.at(21), "Rise");
+    EXPECT_EQ(p.Captions.at(22), "*****");
+    f.MoonEvents.RiseFlag = 0;
+    f.MoonEvents.SetFlag = 2;
+    p = DoLabels(f, 0, true);
+    EXPECT_EQ(p.Captions.at(19), "*****");
+    EXPECT_EQ(p.Captions.at(22), "04:00 PM");
+}
+
+TEST(DayPanel, ToolTips)
+{
+    DayForecast f = Day();
+    f.Major1 = 0.5;
+    EXPECT_EQ(LabelToolTip(0, f, true), " 11:30 PM to 01:30 AM ");
+    EXPECT_EQ(LabelToolTip(5, f, true), " ****** ");
+    EXPECT_EQ(LabelToolTip(4, f, false), " 00:25 to 01:34 ");
+    EXPECT_EQ(LabelToolTip(7, f, true), " Length of day, Sunrise to Sunset ");
+    f.SunEvents(1, 0) = 6.0;
+    f.SunEvents(2, 0) = 5.5;
+    f.SunEvents(3, 0) = 5.0;
+    EXPECT_EQ(LabelToolTip(14, f, false),
+              " Transit=12:30 Twilight  Civil=06:00 Nautical=05:30 Astronomical=05:00 ");
+    EXPECT_EQ(LabelToolTip(3, f, true), "");
+}
+
+} // namespace
