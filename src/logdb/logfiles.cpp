@@ -2,6 +2,7 @@
 
 #include "db/jetsql.h"
 #include "logdb/logrepair.h"
+#include "logdb/yearlock.h"
 
 #include <QDir>
 #include <QFile>
@@ -200,6 +201,11 @@ CreateYearResult CreateYearFile(const QString& folder, int year, const YearFill&
 {
     CreateYearResult out;
     out.Path = QDir(folder).filePath(YearFileName(year));
+    const YearFileLock lock(out.Path);
+    if (!lock.Held()) {
+        out.Message = lock.Message();
+        return out;
+    }
     if (ops.Exists(out.Path)) {
         out.Outcome = CreateYearResult::Status::AlreadyExists;
         return out;
@@ -257,6 +263,9 @@ DbResult CompactDB(const QString& path, const QString& connect)
 DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
 {
     const QString compacted = Sibling(path, QStringLiteral("New") + QFileInfo(path).fileName());
+    const YearFileLock lock(path);
+    if (!lock.Held())
+        return DbResult::Failure(lock.Message());
     {
         Database db;
         if (DbResult opened = db.Open(path, connect); !opened)
@@ -284,6 +293,9 @@ DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
 
 bool DeleteYearFile(const QString& path)
 {
+    const YearFileLock lock(path);
+    if (!lock.Held())
+        return false;
     FileOps ops;
     const bool removed = ops.Remove(path);
     for (const QString& companion : EngineCompanions(path))
@@ -357,6 +369,9 @@ DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept)
 DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept, FileOps& ops)
 {
     const QString path = QDir(folder).filePath(YearFileName(kept.Year));
+    const YearFileLock lock(path);
+    if (!lock.Held())
+        return DbResult::Failure(lock.Message());
     if (ops.Exists(path))
         return DbResult::Failure(QStringLiteral("'%1' exists already.").arg(path));
     if (DbResult checked = CheckFile(kept.Copy, {}); !checked)
@@ -615,6 +630,11 @@ RepairReport RepairYearFile(const QString& path, const QString& connect, FileOps
         report.Result = Fail(ops, rebuilt, failure);
         return report;
     };
+    const YearFileLock lock(path);
+    if (!lock.Held()) {
+        report.Result = DbResult::Failure(lock.Message());
+        return report;
+    }
     {
         Database damaged;
         if (report.Result = damaged.Open(path, connect); !report.Result)

@@ -11,6 +11,7 @@
 #include "logdb/logfiles.h"
 #include "logdb/logimport.h"
 #include "logdb/logreport.h"
+#include "logdb/yearlock.h"
 #include "model/settings.h"
 #include "pages/reportpage.h"
 #include "platform/clock.h"
@@ -333,6 +334,12 @@ std::optional<Selection> Selected(const LogRequest& r, const Streams& io, int& s
         io.Err << "quillmere-log: " << *wrong << "\n";
         return std::nullopt;
     }
+    // The query leaves its result in the file's work tables: a write like any other.
+    const YearFileLock lock(io.YearPath(r.Year));
+    if (!lock.Held()) {
+        io.Fail(Std(lock.Message()));
+        return std::nullopt;
+    }
     Selection selection = RunQuery(io.YearPath(r.Year), request, io.Err);
     if (!selection.Error.isEmpty()) {
         status = 2;
@@ -421,11 +428,12 @@ int Import(const LogRequest& r, const Streams& io)
     if (const DbResult kept = BackUpIfChanged(path, Clock::Now()); !kept)
         return io.Fail("cannot back up " + Std(path) + ": " + Std(kept.Message) +
                        "; nothing was imported");
-    int written = 0;
+    ImportCount count;
     const ImportChoice choice = overwrite ? ImportChoice::Overwrite : ImportChoice::Skip;
-    if (const DbResult done = ApplyImport(path, plan, choice, written); !done)
+    if (const DbResult done = ApplyImport(path, plan, choice, count); !done)
         return io.Fail("cannot import into " + Std(path) + ": " + Std(done.Message));
-    io.Out << "Imported " << written << " day(s) into " << Std(path) << "\n";
+    io.Out << "Imported " << count.Written << " day(s) into " << Std(path)
+           << Std(GainedEntryNote(count)) << "\n";
     return 0;
 }
 
