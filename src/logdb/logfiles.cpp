@@ -326,9 +326,15 @@ QStringList CleanLeftovers(const QString& folder)
     const QDir dir(folder);
     QStringList removed;
     for (const QString& name : dir.entryList(QDir::Files, QDir::Name)) {
-        const QString yearFile = YearFileOfLeftover(name);
         const bool unfinishedCreate = name.endsWith(QStringLiteral(".creating"));
-        if (!unfinishedCreate && (yearFile.isEmpty() || !IsSound(dir.filePath(yearFile))))
+        const QString yearFile = unfinishedCreate ? name.chopped(QStringLiteral(".creating").size())
+                                                  : YearFileOfLeftover(name);
+        if (yearFile.isEmpty())
+            continue;
+        // A leftover is only one while no program holds its year: a compaction, repair or
+        // create at work in another program is writing it.
+        const YearFileLock idle(dir.filePath(yearFile), std::chrono::milliseconds(0));
+        if (!idle.Held() || (!unfinishedCreate && !IsSound(dir.filePath(yearFile))))
             continue;
         RemoveWithCompanions(dir.filePath(name), ops);
         removed << name;

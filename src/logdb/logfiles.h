@@ -75,8 +75,8 @@ bool DeleteYearFile(const QString& path);
 
 // Removes what an interrupted create, compaction or repair left in the folder, where it
 // holds nothing of the angler's that is not in the year file: "YYYY.mdb.creating" files
-// (forecasts only), and "NewYYYY.mdb" or "RepYYYY.mdb" beside a sound "YYYY.mdb". Returns
-// the names removed.
+// (forecasts only), and "NewYYYY.mdb" or "RepYYYY.mdb" beside a sound "YYYY.mdb"; never
+// while another program holds the year's lock. Returns the names removed.
 QStringList CleanLeftovers(const QString& folder);
 
 // A year whose file is missing while a copy of it is kept: the compacted "NewYYYY.mdb" of an

@@ -7,16 +7,19 @@
 //   logcrash_child edit PATH          (saves Notes "catch N" on day N, prints "saved N")
 //   logcrash_child save PATH TAG      (as edit, through the browser's locked save, with
 //                                      Notes "TAG N"; other programs change the file meanwhile)
+//   logcrash_child restore PATH BACKUP  (the Backups window's restore of that copy)
 //
 // KILL_DAY is the day of the fill at which to die (0: none); KILL_STEP the file step
 // (remove, copy, sync, rename) before which to die (0: none).
 #include "cli/common/forecastrun.h"
 #include "db/datacontrol.h"
+#include "logdb/backups.h"
 #include "logdb/filldata.h"
 #include "logdb/logfiles.h"
 #include "logdb/yearlock.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 
 #include <csignal>
 #include <cstdio>
@@ -125,6 +128,8 @@ int main(int argc, char** argv)
                             [](DataControl& data) { return data.Update(); });
     if (a.size() == 4 && a[1] == "save")
         return EditEveryDay(a[2], a[3], UpdateUnderLock);
-    std::fprintf(stderr, "usage: logcrash_child create|compact|edit|save ...\n");
+    if (a.size() == 4 && a[1] == "restore")
+        return RestoreBackup(a[2], a[3], QDateTime::currentDateTime()) ? 0 : 3;
+    std::fprintf(stderr, "usage: logcrash_child create|compact|edit|save|restore ...\n");
     return 2;
 }
