@@ -97,6 +97,8 @@ namespace {
 
 DbResult BackUpUnlocked(const QString& yearFile, const QDateTime& now)
 {
+    if (!QFileInfo::exists(yearFile))
+        return DbResult::Success(); // a deleted year being restored: nothing to keep
     QByteArray current;
     if (DbResult read = ReadAll(yearFile, current); !read)
         return read;

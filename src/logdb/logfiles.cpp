@@ -1,6 +1,7 @@
 #include "logdb/logfiles.h"
 
 #include "db/jetsql.h"
+#include "logdb/backups.h"
 #include "logdb/logrepair.h"
 #include "logdb/yearlock.h"
 
@@ -419,6 +420,15 @@ std::vector<RestorableYear> RestorableYears(const QString& folder)
     return years;
 }
 
+std::optional<RestorableYear> DeletedYear(const QString& folder, int year)
+{
+    const QString yearFile = QDir(folder).filePath(YearFileName(year));
+    const QStringList copies = ListBackups(yearFile);
+    if (QFileInfo::exists(yearFile) || copies.isEmpty())
+        return std::nullopt;
+    return RestorableYear{year, copies.front()};
+}
+
 DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept)
 {
     FileOps ops;
@@ -444,8 +454,8 @@ DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept, File
                         QStringLiteral("Cannot copy '%1' to '%2'.").arg(kept.Copy, building)));
     if (DbResult published = Publish(building, path, ops); !published)
         return Fail(ops, building, published);
-    if (!kept.Copy.endsWith(QStringLiteral(".BAK"), Qt::CaseInsensitive))
-        ops.Remove(kept.Copy);
+    if (!YearFileOfLeftover(QFileInfo(kept.Copy).fileName()).isEmpty())
+        ops.Remove(kept.Copy); // a compaction's copy is used up; .BAK and backups stay
     return DbResult::Success();
 }
 

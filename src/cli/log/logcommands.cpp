@@ -263,7 +263,9 @@ int Repair(const LogRequest& r, const Streams& io)
 
 int Restore(const LogRequest& r, const Streams& io)
 {
-    const auto years = RestorableYears(io.Folder);
+    auto years = RestorableYears(io.Folder);
+    if (const auto deleted = DeletedYear(io.Folder, r.Year))
+        years.push_back(*deleted); // after any copy beside the file, which is newer
     const auto kept = std::find_if(years.begin(), years.end(),
                                    [&r](const RestorableYear& k) { return k.Year == r.Year; });
     if (kept == years.end())
@@ -373,8 +375,21 @@ int Query(const LogRequest& r, const Streams& io)
     return 0;
 }
 
+// A report may replace an earlier report, never a year file or anything else.
+bool IsPdfOrAbsent(const QString& path)
+{
+    QFile file(path);
+    if (!file.exists())
+        return true;
+    return file.open(QIODevice::ReadOnly) && file.read(5) == QByteArrayLiteral("%PDF-");
+}
+
 int Report(const LogRequest& r, const Streams& io)
 {
+    if (const auto pdf = r.Options.find("--pdf");
+        pdf != r.Options.end() && !IsPdfOrAbsent(QString::fromStdString(pdf->second)))
+        return io.Fail("will not print over " + pdf->second +
+                       ": it is not a PDF; nothing was written");
     int status = 0;
     const auto selection = Selected(r, io, status);
     if (!selection)
