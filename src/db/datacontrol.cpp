@@ -2,7 +2,11 @@
 
 #include "db/jetcondition.h"
 
+#include <QFile>
+
 #include <algorithm>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -19,6 +23,19 @@ JetValue ConditionValue(const QVariant& value)
 
 } // namespace
 
+namespace {
+
+// The device and inode of the file at path; zeros when there is none.
+std::pair<quint64, quint64> FileIdentity(const QString& path)
+{
+    struct stat info {};
+    if (::stat(QFile::encodeName(path).constData(), &info) != 0)
+        return {};
+    return {quint64(info.st_dev), quint64(info.st_ino)};
+}
+
+} // namespace
+
 DataControl::DataControl(QObject* parent) : QObject(parent) {}
 
 DataControl::~DataControl() = default;
@@ -27,10 +44,20 @@ DbResult DataControl::OpenIfNeeded()
 {
     if (db_.IsOpen() && openedName_ == databaseName_ && openedConnect_ == connect_)
         return DbResult::Success();
+    openedFile_ = FileIdentity(databaseName_);
     DbResult opened = db_.Open(databaseName_, connect_);
     openedName_ = opened ? databaseName_ : QString();
     openedConnect_ = opened ? connect_ : QString();
     return opened;
+}
+
+DbResult DataControl::ReopenIfReplaced()
+{
+    if (!db_.IsOpen() || FileIdentity(openedName_) == openedFile_)
+        return DbResult::Success();
+    db_.Close();
+    openedName_.clear();
+    return OpenIfNeeded();
 }
 
 DbResult DataControl::Refresh()
@@ -287,6 +314,8 @@ DbResult DataControl::Update()
         return DbResult::Failure(QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
     if (DbResult collected = CollectBoundEntries(); !collected)
         return collected;
+    if (DbResult opened = ReopenIfReplaced(); !opened)
+        return opened;
     const FieldValues fields = ChangedFields();
     const QString keyColumn = fields_[std::size_t(keyIndex_)];
     std::vector<QVariant> row;

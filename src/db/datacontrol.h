@@ -79,7 +79,9 @@ public:
 
     DbResult Edit();
     DbResult AddNew();
-    // Saves the edit or the new record, bound controls' entries included. A new record is
+    // Saves the edit or the new record, bound controls' entries included; when another program
+    // has put a new file under the name since it was opened, that file is opened first and
+    // the edit goes into it. A new record is
     // added at the end of the result; the record that was current stays current.
     DbResult Update();
     void CancelUpdate();
@@ -123,6 +125,7 @@ signals:
 
 private:
     DbResult OpenIfNeeded();
+    DbResult ReopenIfReplaced();
     void Load(RowSet rows, const QString& sourceTable);
     DbResult MoveTo(int index);
     void SetPosition(int index);
@@ -140,6 +143,9 @@ private:
     QString mirrorTable_;
     QString openedName_;
     QString openedConnect_;
+    // The file the connection reads: another program's compaction or restore puts a new file
+    // under the same name, and the connection would go on reading the old one.
+    std::pair<quint64, quint64> openedFile_{};
     Database db_;
 
     QString sourceTable_;

@@ -1,5 +1,7 @@
 #include "logdb/backups.h"
 
+#include "logdb/yearlock.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -91,8 +93,12 @@ QDateTime BackupTime(const QString& backup)
     return QDateTime::fromString(name.mid(5, TimeFormat.size()), TimeFormat);
 }
 
-DbResult BackUpIfChanged(const QString& yearFile, const QDateTime& now)
+namespace {
+
+DbResult BackUpUnlocked(const QString& yearFile, const QDateTime& now)
 {
+    if (!QFileInfo::exists(yearFile))
+        return DbResult::Success(); // a deleted year being restored: nothing to keep
     QByteArray current;
     if (DbResult read = ReadAll(yearFile, current); !read)
         return read;
@@ -103,13 +109,26 @@ DbResult BackUpIfChanged(const QString& yearFile, const QDateTime& now)
     return BackUpBytes(yearFile, current, now);
 }
 
+} // namespace
+
+// Under the year's lock, so that the copy is never taken in the middle of another program's
+// write.
+DbResult BackUpIfChanged(const QString& yearFile, const QDateTime& now)
+{
+    const YearFileLock lock(yearFile);
+    return lock.Held() ? BackUpUnlocked(yearFile, now) : DbResult::Failure(lock.Message());
+}
+
 DbResult RestoreBackup(const QString& yearFile, const QString& backup, const QDateTime& now)
 {
+    const YearFileLock lock(yearFile);
+    if (!lock.Held())
+        return DbResult::Failure(lock.Message());
     // Read before backing up: keeping ten may delete the very copy being restored.
     QByteArray restored;
     if (DbResult read = ReadAll(backup, restored); !read)
         return read;
-    if (DbResult kept = BackUpIfChanged(yearFile, now); !kept)
+    if (DbResult kept = BackUpUnlocked(yearFile, now); !kept)
         return DbResult::Failure(kept.Message + QStringLiteral(" Nothing was restored."));
     return WriteWhole(yearFile, restored);
 }

@@ -1,8 +1,11 @@
 #include "logdb/logfiles.h"
 
 #include "db/jetsql.h"
+#include "logdb/backups.h"
 #include "logdb/logrepair.h"
+#include "logdb/yearlock.h"
 
+#include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -100,11 +103,57 @@ void RemoveWithCompanions(const QString& path, FileOps& ops)
         ops.Remove(companion);
 }
 
+// The engine's file header: its first 16 bytes, the page size at 16 (two bytes, 1 meaning
+// 65536), the change counter at 24, the page count at 28, valid while the copy of the change
+// counter at 92 equals it (sqlite.org/fileformat2.html).
+constexpr int EngineHeaderSize = 100;
+const QByteArray EngineMagic("SQLite format 3\0", 16);
+constexpr qint64 SmallestPage = 512;
+constexpr qint64 PageSizeCode64K = 1;
+constexpr qint64 LargestPage = 65536;
+
+qint64 BigEndianAt(const QByteArray& bytes, int at, int count)
+{
+    qint64 value = 0;
+    for (int i = 0; i < count; ++i)
+        value = (value << 8) | quint8(bytes[at + i]);
+    return value;
+}
+
+// Whether the file's bytes can be a whole log: the engine's header and every page it counts.
+DbResult CheckLogBytes(const QString& path)
+{
+    const QString name = QFileInfo(path).fileName();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return DbResult::Failure(
+            QStringLiteral("Cannot read %1: %2.").arg(name, file.errorString()));
+    const QByteArray head = file.read(EngineHeaderSize);
+    if (file.size() == 0)
+        return DbResult::Failure(QStringLiteral("%1 is empty.").arg(name));
+    if (file.size() < SmallestPage || !head.startsWith(EngineMagic))
+        return DbResult::Failure(QStringLiteral("%1 is not a Quillmere log.").arg(name));
+    const qint64 code = BigEndianAt(head, 16, 2);
+    const qint64 pageSize = code == PageSizeCode64K ? LargestPage : code;
+    const bool countValid = head.mid(24, 4) == head.mid(92, 4);
+    if (pageSize < SmallestPage || file.size() % pageSize != 0 ||
+        (countValid && file.size() < BigEndianAt(head, 28, 4) * pageSize))
+        return DbResult::Failure(QStringLiteral("%1 is cut short.").arg(name));
+    return DbResult::Success();
+}
+
+// A whole, sound log: its bytes, its table1, and the engine's integrity check.
 DbResult CheckFile(const QString& path, const QString& connect)
 {
+    if (DbResult bytes = CheckLogBytes(path); !bytes)
+        return bytes;
     Database db;
-    DbResult result = db.Open(path, connect);
-    return result ? CheckIntegrity(db) : result;
+    if (DbResult opened = db.Open(path, connect); !opened)
+        return opened;
+    if (!db.Tables().contains(LogTableName, Qt::CaseInsensitive))
+        return DbResult::Failure(
+            QStringLiteral("%1 is not a Quillmere log.").arg(QFileInfo(path).fileName()));
+    return CheckIntegrity(db);
 }
 
 DbResult Fail(FileOps& ops, const QString& leftover, const DbResult& failure)
@@ -200,6 +249,11 @@ CreateYearResult CreateYearFile(const QString& folder, int year, const YearFill&
 {
     CreateYearResult out;
     out.Path = QDir(folder).filePath(YearFileName(year));
+    const YearFileLock lock(out.Path);
+    if (!lock.Held()) {
+        out.Message = lock.Message();
+        return out;
+    }
     if (ops.Exists(out.Path)) {
         out.Outcome = CreateYearResult::Status::AlreadyExists;
         return out;
@@ -257,6 +311,15 @@ DbResult CompactDB(const QString& path, const QString& connect)
 DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
 {
     const QString compacted = Sibling(path, QStringLiteral("New") + QFileInfo(path).fileName());
+    const YearFileLock lock(path);
+    if (!lock.Held())
+        return DbResult::Failure(lock.Message());
+    // A file that is not a whole log must not become the kept copy's successor.
+    if (DbResult whole = CheckFile(path, connect); !whole)
+        return DbResult::Failure(whole.Message +
+                                 QStringLiteral(" It is not compacted; repair it first. %1 is "
+                                                "kept as it is.")
+                                     .arg(QFileInfo(Companion(path, ".BAK")).fileName()));
     {
         Database db;
         if (DbResult opened = db.Open(path, connect); !opened)
@@ -284,6 +347,9 @@ DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
 
 bool DeleteYearFile(const QString& path)
 {
+    const YearFileLock lock(path);
+    if (!lock.Held())
+        return false;
     FileOps ops;
     const bool removed = ops.Remove(path);
     for (const QString& companion : EngineCompanions(path))
@@ -314,9 +380,15 @@ QStringList CleanLeftovers(const QString& folder)
     const QDir dir(folder);
     QStringList removed;
     for (const QString& name : dir.entryList(QDir::Files, QDir::Name)) {
-        const QString yearFile = YearFileOfLeftover(name);
         const bool unfinishedCreate = name.endsWith(QStringLiteral(".creating"));
-        if (!unfinishedCreate && (yearFile.isEmpty() || !IsSound(dir.filePath(yearFile))))
+        const QString yearFile = unfinishedCreate ? name.chopped(QStringLiteral(".creating").size())
+                                                  : YearFileOfLeftover(name);
+        if (yearFile.isEmpty())
+            continue;
+        // A leftover is only one while no program holds its year: a compaction, repair or
+        // create at work in another program is writing it.
+        const YearFileLock idle(dir.filePath(yearFile), std::chrono::milliseconds(0));
+        if (!idle.Held() || (!unfinishedCreate && !IsSound(dir.filePath(yearFile))))
             continue;
         RemoveWithCompanions(dir.filePath(name), ops);
         removed << name;
@@ -348,6 +420,15 @@ std::vector<RestorableYear> RestorableYears(const QString& folder)
     return years;
 }
 
+std::optional<RestorableYear> DeletedYear(const QString& folder, int year)
+{
+    const QString yearFile = QDir(folder).filePath(YearFileName(year));
+    const QStringList copies = ListBackups(yearFile);
+    if (QFileInfo::exists(yearFile) || copies.isEmpty())
+        return std::nullopt;
+    return RestorableYear{year, copies.front()};
+}
+
 DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept)
 {
     FileOps ops;
@@ -357,6 +438,9 @@ DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept)
 DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept, FileOps& ops)
 {
     const QString path = QDir(folder).filePath(YearFileName(kept.Year));
+    const YearFileLock lock(path);
+    if (!lock.Held())
+        return DbResult::Failure(lock.Message());
     if (ops.Exists(path))
         return DbResult::Failure(QStringLiteral("'%1' exists already.").arg(path));
     if (DbResult checked = CheckFile(kept.Copy, {}); !checked)
@@ -370,8 +454,8 @@ DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept, File
                         QStringLiteral("Cannot copy '%1' to '%2'.").arg(kept.Copy, building)));
     if (DbResult published = Publish(building, path, ops); !published)
         return Fail(ops, building, published);
-    if (!kept.Copy.endsWith(QStringLiteral(".BAK"), Qt::CaseInsensitive))
-        ops.Remove(kept.Copy);
+    if (!YearFileOfLeftover(QFileInfo(kept.Copy).fileName()).isEmpty())
+        ops.Remove(kept.Copy); // a compaction's copy is used up; .BAK and backups stay
     return DbResult::Success();
 }
 
@@ -460,7 +544,8 @@ DbResult CopyReadableRows(const RebuildLinks& links, const QString& table)
             continue; // read from the pages afterwards, when they still hold it
         const int count = read.record().count();
         if (write.lastQuery().isEmpty())
-            write.prepare(QStringLiteral("INSERT INTO %1 VALUES (%2)")
+            // A row number met twice (garbage that reads as a record) keeps the first.
+            write.prepare(QStringLiteral("INSERT OR IGNORE INTO %1 VALUES (%2)")
                               .arg(QuotedName(table), Placeholders(count)));
         for (int i = 0; i < count; ++i)
             write.addBindValue(read.value(i));
@@ -550,7 +635,7 @@ qint64 HighestNumber(const QSqlDatabase& from, const QSqlDatabase& to)
 
 // Every record the damaged file's table1 still has, read through the engine where it can
 // and from the pages where it cannot; then the values no column can hold are taken out.
-DbResult RebuildAll(Database& damaged, Database& out, RepairReport& report)
+DbResult RebuildAll(const QString& path, Database& damaged, Database& out, RepairReport& report)
 {
     const RebuildLinks links{damaged.Connection(), out.Connection()};
     DbResult result;
@@ -562,14 +647,21 @@ DbResult RebuildAll(Database& damaged, Database& out, RepairReport& report)
     result = ownSchema ? RebuildInto(links, schema) : TemplateSchema(out);
     if (!result)
         return result;
-    AddSalvagedRecords(damaged.Path(), links.To, QStringLiteral("table1"));
+    AddSalvagedRecords(path, links.To, QStringLiteral("table1"));
     report.Marked = OutOfRangeValues(links.To, true);
     report.Kept = CountRecords(links.To, QStringLiteral("table1"));
-    report.Unreadable = int(std::max<qint64>(0, HighestNumber(links.From, links.To) - report.Kept));
+    // A year file holds a record for every day: where the damaged file no longer tells its
+    // highest number, the days of its year do.
+    bool named = false;
+    const int year = QFileInfo(path).fileName().left(4).toInt(&named);
+    const qint64 days = named ? QDate(year, 1, 1).daysInYear() : 0;
+    report.Unreadable =
+        int(std::max<qint64>(0, std::max(HighestNumber(links.From, links.To), days) - report.Kept));
     return DbResult::Success();
 }
 
-DbResult Rebuild(Database& damaged, const QString& target, RepairReport& report)
+DbResult Rebuild(const QString& path, Database& damaged, const QString& target,
+                 RepairReport& report)
 {
     if (DbResult created = CreateEmptyFile(target); !created)
         return created;
@@ -579,7 +671,7 @@ DbResult Rebuild(Database& damaged, const QString& target, RepairReport& report)
     QSqlDatabase to = out.Connection();
     if (!to.transaction())
         return DbResult::Failure(ErrorText(to.lastError()));
-    if (DbResult result = RebuildAll(damaged, out, report); !result) {
+    if (DbResult result = RebuildAll(path, damaged, out, report); !result) {
         to.rollback();
         return result;
     }
@@ -615,19 +707,35 @@ RepairReport RepairYearFile(const QString& path, const QString& connect, FileOps
         report.Result = Fail(ops, rebuilt, failure);
         return report;
     };
+    const YearFileLock lock(path);
+    if (!lock.Held()) {
+        report.Result = DbResult::Failure(lock.Message());
+        return report;
+    }
+    if (QFileInfo(path).size() < SmallestPage) { // nothing in it to read
+        report.Result = CheckLogBytes(path);
+        report.Result.Message +=
+            QStringLiteral(" Nothing can be read from it; it is kept as it is.");
+        return report;
+    }
     {
+        // A file the engine cannot open is read from its pages alone.
         Database damaged;
-        if (report.Result = damaged.Open(path, connect); !report.Result)
-            return report;
-        if (CheckIntegrity(damaged) && OutOfRangeValues(damaged.Connection(), false) == 0) {
+        const bool opened = bool(damaged.Open(path, connect));
+        if (opened && CheckFile(path, connect) &&
+            OutOfRangeValues(damaged.Connection(), false) == 0) {
             report.Kept = CountRecords(damaged.Connection(), QStringLiteral("table1"));
             return report;
         }
         report.Damaged = true;
         if (ops.Exists(rebuilt) && !ops.Remove(rebuilt))
             return failed(DbResult::Failure(QStringLiteral("Cannot delete '%1'.").arg(rebuilt)));
-        if (DbResult made = Rebuild(damaged, rebuilt, report); !made)
+        if (DbResult made = Rebuild(path, damaged, rebuilt, report); !made)
             return failed(made);
+        if (!opened && report.Kept == 0)
+            return failed(DbResult::Failure(
+                QStringLiteral("No record of a log can be read from %1; it is kept as it is.")
+                    .arg(QFileInfo(path).fileName())));
     }
     if (!ops.Sync(rebuilt))
         return failed(

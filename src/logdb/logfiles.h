@@ -12,6 +12,7 @@ inline constexpr auto TemplateFileName = "Default.mdb";
 inline constexpr auto LogTableName = "table1";
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 // The file steps that creating, compacting, repairing and restoring a year are made of, so
@@ -75,8 +76,8 @@ bool DeleteYearFile(const QString& path);
 
 // Removes what an interrupted create, compaction or repair left in the folder, where it
 // holds nothing of the angler's that is not in the year file: "YYYY.mdb.creating" files
-// (forecasts only), and "NewYYYY.mdb" or "RepYYYY.mdb" beside a sound "YYYY.mdb". Returns
-// the names removed.
+// (forecasts only), and "NewYYYY.mdb" or "RepYYYY.mdb" beside a sound "YYYY.mdb"; never
+// while another program holds the year's lock. Returns the names removed.
 QStringList CleanLeftovers(const QString& folder);
 
 // A year whose file is missing while a copy of it is kept: the compacted "NewYYYY.mdb" of an
@@ -87,8 +88,11 @@ struct RestorableYear {
 };
 std::vector<RestorableYear> RestorableYears(const QString& folder);
 
+// A year deleted on purpose: no year file, and its newest copy in backups/.
+std::optional<RestorableYear> DeletedYear(const QString& folder, int year);
+
 // Makes the kept copy the year's file again (copied, synced, renamed into place); the .BAK
-// stays, a "NewYYYY.mdb" is used up.
+// and backups stay, a "NewYYYY.mdb" is used up.
 DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept);
 DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept, FileOps& ops);
 

@@ -3,6 +3,7 @@
 #include "db/storedforms.h"
 #include "logdb/csvread.h"
 #include "logdb/logfiles.h"
+#include "logdb/yearlock.h"
 
 #include <QSqlQuery>
 #include <algorithm>
@@ -185,10 +186,51 @@ DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, Im
     return DbResult::Success();
 }
 
-DbResult ApplyImport(const QString& yearFile, const ImportPlan& plan, ImportChoice choice,
-                     int& written)
+namespace {
+
+// Whether the day's record holds an entry now, read inside the write transaction: another
+// program may have written the day since the plan was made.
+bool HoldsEntryNow(const QSqlDatabase& link, const QString& date)
 {
-    written = 0;
+    QSqlQuery q(link);
+    q.prepare(QStringLiteral("SELECT ") + CatchColumns.join(", ") +
+              QStringLiteral(" FROM table1 WHERE JulianDate = ?"));
+    q.addBindValue(date);
+    bool held = false;
+    if (q.exec() && q.next())
+        for (int i = 0; i < CatchColumns.size(); ++i)
+            held = held || HasValue(q.value(i));
+    return held;
+}
+
+DbResult WriteRow(const QSqlDatabase& link, const ImportRow& row, int& written)
+{
+    QStringList sets;
+    for (const auto& field : row.Fields)
+        sets << QuotedName(field.first) + QStringLiteral(" = ?");
+    QSqlQuery q(link);
+    q.prepare(QStringLiteral("UPDATE table1 SET ") + sets.join(", ") +
+              QStringLiteral(" WHERE JulianDate = ?"));
+    for (const auto& field : row.Fields)
+        q.addBindValue(field.second);
+    q.addBindValue(row.Date);
+    if (!q.exec())
+        return DbResult::Failure(QStringLiteral("Line %1: %2. Nothing was imported.")
+                                     .arg(row.Line)
+                                     .arg(ErrorText(q.lastError())));
+    written += q.numRowsAffected();
+    return DbResult::Success();
+}
+
+} // namespace
+
+DbResult ApplyImport(const QString& yearFile, const ImportPlan& plan, ImportChoice choice,
+                     ImportCount& count)
+{
+    count = {};
+    const YearFileLock lock(yearFile);
+    if (!lock.Held())
+        return DbResult::Failure(lock.Message() + QStringLiteral(" Nothing was imported."));
     Database db;
     if (DbResult opened = db.Open(yearFile); !opened)
         return opened;
@@ -196,31 +238,31 @@ DbResult ApplyImport(const QString& yearFile, const ImportPlan& plan, ImportChoi
     if (!link.transaction())
         return DbResult::Failure(ErrorText(link.lastError()));
     for (const ImportRow& row : plan.Rows) {
-        if (row.Occupied && choice == ImportChoice::Skip)
+        if (choice == ImportChoice::Skip && (row.Occupied || HoldsEntryNow(link, row.Date))) {
+            count.GainedEntry += row.Occupied ? 0 : 1;
             continue;
-        QStringList sets;
-        for (const auto& field : row.Fields)
-            sets << QuotedName(field.first) + QStringLiteral(" = ?");
-        QSqlQuery q(link);
-        q.prepare(QStringLiteral("UPDATE table1 SET ") + sets.join(", ") +
-                  QStringLiteral(" WHERE JulianDate = ?"));
-        for (const auto& field : row.Fields)
-            q.addBindValue(field.second);
-        q.addBindValue(row.Date);
-        if (!q.exec()) {
-            const QString why = ErrorText(q.lastError());
-            link.rollback();
-            written = 0;
-            return DbResult::Failure(
-                QStringLiteral("Line %1: %2. Nothing was imported.").arg(row.Line).arg(why));
         }
-        written += q.numRowsAffected();
+        if (DbResult wrote = WriteRow(link, row, count.Written); !wrote) {
+            link.rollback();
+            count = {};
+            return wrote;
+        }
     }
     if (!link.commit()) {
-        written = 0;
-        return DbResult::Failure(ErrorText(link.lastError()));
+        count = {};
+        return DbResult::Failure(ErrorText(link.lastError()) +
+                                 QStringLiteral(" Nothing was imported."));
     }
     return DbResult::Success();
+}
+
+QString GainedEntryNote(const ImportCount& count)
+{
+    return count.GainedEntry == 0
+               ? QString()
+               : QStringLiteral("; %1 day(s) that another program gave an entry meanwhile "
+                                "were left as they are")
+                     .arg(count.GainedEntry);
 }
 
 QStringList IssueLines(const ImportPlan& plan)

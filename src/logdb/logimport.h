@@ -31,10 +31,19 @@ enum class ImportChoice { Skip, Overwrite };
 // Reads the CSV text and checks it against the year file of the given year.
 DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, ImportPlan& plan);
 
-// Writes the plan's rows in one transaction; with Skip, records that hold an entry are left
-// as they are. written is the number of records changed.
+struct ImportCount {
+    int Written = 0;     // records changed
+    int GainedEntry = 0; // days left alone because they gained an entry after the plan was made
+};
+
+// Writes the plan's rows in one transaction, holding the year's lock; with Skip, records that
+// hold an entry are left as they are, checked again inside the transaction.
 DbResult ApplyImport(const QString& yearFile, const ImportPlan& plan, ImportChoice choice,
-                     int& written);
+                     ImportCount& count);
+
+// "; 3 day(s) that another program gave an entry meanwhile were left as they are", or
+// nothing.
+QString GainedEntryNote(const ImportCount& count);
 
 // The issues as lines for a report: "Line 7: ...".
 QStringList IssueLines(const ImportPlan& plan);

@@ -225,15 +225,14 @@ std::optional<std::pair<std::int64_t, int>> ReadVarint(const std::uint8_t* at,
     return std::nullopt;
 }
 
-std::vector<SalvagedRecord> SalvageRecords(const std::vector<std::uint8_t>& file,
-                                           std::size_t columns)
+namespace {
+
+std::vector<SalvagedRecord> ScanPages(const std::vector<std::uint8_t>& file, const Geometry& g,
+                                      std::size_t columns)
 {
-    const auto geometry = GeometryOf(file);
-    if (!geometry)
-        return {};
-    const Reader reader{file, *geometry, columns};
+    const Reader reader{file, g, columns};
     std::vector<SalvagedRecord> listed, carved;
-    for (std::size_t number = 1; number <= geometry->Pages; ++number) {
+    for (std::size_t number = 1; number <= g.Pages; ++number) {
         if (auto cells = reader.ListedCells(number)) {
             std::move(cells->begin(), cells->end(), std::back_inserter(listed));
         } else if (!reader.IsOtherBtreePage(number)) {
@@ -243,4 +242,27 @@ std::vector<SalvagedRecord> SalvageRecords(const std::vector<std::uint8_t>& file
     }
     std::move(carved.begin(), carved.end(), std::back_inserter(listed));
     return listed;
+}
+
+constexpr std::size_t SmallestPage = 512;
+constexpr std::size_t LargestPage = 65536;
+
+} // namespace
+
+std::vector<SalvagedRecord> SalvageRecords(const std::vector<std::uint8_t>& file,
+                                           std::size_t columns)
+{
+    if (const auto geometry = GeometryOf(file))
+        return ScanPages(file, *geometry, columns);
+    // The header that gives the page size is lost: every size the format allows is tried,
+    // without reserved bytes (as the program writes its files), and the one that reads the
+    // most records wins.
+    std::vector<SalvagedRecord> best;
+    for (std::size_t size = SmallestPage; size <= LargestPage && size <= file.size(); size *= 2) {
+        std::vector<SalvagedRecord> found =
+            ScanPages(file, {size, size, file.size() / size}, columns);
+        if (found.size() > best.size())
+            best = std::move(found);
+    }
+    return best;
 }

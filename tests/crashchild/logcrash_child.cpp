@@ -5,18 +5,25 @@
 //   logcrash_child create FOLDER YEAR KILL_DAY KILL_STEP
 //   logcrash_child compact PATH KILL_STEP
 //   logcrash_child edit PATH          (saves Notes "catch N" on day N, prints "saved N")
+//   logcrash_child save PATH TAG      (as edit, through the browser's locked save, with
+//                                      Notes "TAG N"; other programs change the file meanwhile)
+//   logcrash_child restore PATH BACKUP  (the Backups window's restore of that copy)
 //
 // KILL_DAY is the day of the fill at which to die (0: none); KILL_STEP the file step
 // (remove, copy, sync, rename) before which to die (0: none).
 #include "cli/common/forecastrun.h"
 #include "db/datacontrol.h"
+#include "logdb/backups.h"
 #include "logdb/filldata.h"
 #include "logdb/logfiles.h"
+#include "logdb/yearlock.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 
 #include <csignal>
 #include <cstdio>
+#include <functional>
 #include <string>
 
 namespace {
@@ -82,7 +89,9 @@ int Compact(const QString& path, int killStep)
     return CompactDB(path, {}, ops) ? 0 : 3;
 }
 
-int EditEveryDay(const QString& path)
+// Notes "<tag> N" on day N, each saved by `save`; prints "saved N" once it said so.
+int EditEveryDay(const QString& path, const QString& tag,
+                 const std::function<DbResult(DataControl&)>& save)
 {
     DataControl data1;
     data1.SetDatabaseName(path);
@@ -91,9 +100,12 @@ int EditEveryDay(const QString& path)
         return 3;
     for (int day = 1; !data1.IsEOF(); ++day) {
         if (!data1.Edit() ||
-            !data1.SetField(QStringLiteral("Notes"), QStringLiteral("catch %1").arg(day)) ||
-            !data1.Update())
+            !data1.SetField(QStringLiteral("Notes"), QStringLiteral("%1 %2").arg(tag).arg(day)))
             return 3;
+        if (const DbResult saved = save(data1); !saved) {
+            std::fprintf(stderr, "%s\n", qPrintable(saved.Message));
+            return 3;
+        }
         std::printf("saved %d\n", day);
         std::fflush(stdout);
         data1.MoveNext();
@@ -112,7 +124,12 @@ int main(int argc, char** argv)
     if (a.size() == 4 && a[1] == "compact")
         return Compact(a[2], a[3].toInt());
     if (a.size() == 3 && a[1] == "edit")
-        return EditEveryDay(a[2]);
-    std::fprintf(stderr, "usage: logcrash_child create|compact|edit ...\n");
+        return EditEveryDay(a[2], QStringLiteral("catch"),
+                            [](DataControl& data) { return data.Update(); });
+    if (a.size() == 4 && a[1] == "save")
+        return EditEveryDay(a[2], a[3], UpdateUnderLock);
+    if (a.size() == 4 && a[1] == "restore")
+        return RestoreBackup(a[2], a[3], QDateTime::currentDateTime()) ? 0 : 3;
+    std::fprintf(stderr, "usage: logcrash_child create|compact|edit|save|restore ...\n");
     return 2;
 }

@@ -159,3 +159,33 @@ TEST(Password, AProtectedFileOpensOnlyWithItsPassword)
     ASSERT_TRUE(db.SetPassword({}));
     EXPECT_TRUE(db.Open(path));
 }
+
+TEST(Compaction, AFileThatIsNotAWholeLogIsRefusedAndTheBackupKept)
+{
+    const QString made = MakeYearFile("compact-bad-source");
+    const QByteArray whole = testenv::FileBytes(made);
+    const int page = (uchar(whole[16]) << 8) | uchar(whole[17]);
+    const std::vector<std::pair<const char*, QByteArray>> bad = {
+        {"is empty", QByteArray()},
+        {"is cut short", whole.left(whole.size() - page)},
+        {"is cut short", whole.left(whole.size() - 100)},
+        {"is not a Quillmere log", QByteArray("%PDF-1.4 a report")},
+    };
+    for (const auto& [why, content] : bad) {
+        const QString path = MakeYearFile("compact-bad");
+        ASSERT_TRUE(CompactDB(path)); // 2024.BAK: the good file
+        const QString bak = QDir(FolderOf(path)).filePath("2024.BAK");
+        const QByteArray kept = testenv::FileBytes(bak);
+        {
+            QFile f(path);
+            ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            f.write(content);
+        }
+        const DbResult compacted = CompactDB(path);
+        EXPECT_FALSE(compacted) << why;
+        EXPECT_TRUE(compacted.Message.contains(why)) << compacted.Message.toStdString();
+        EXPECT_TRUE(compacted.Message.contains("2024.BAK is kept as it is"));
+        EXPECT_EQ(testenv::FileBytes(bak), kept) << why;
+        EXPECT_EQ(testenv::FileBytes(path), content) << why;
+    }
+}

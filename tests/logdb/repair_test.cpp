@@ -14,7 +14,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
+#include <functional>
+#include <map>
 
 using namespace logtest;
 
@@ -236,4 +239,117 @@ TEST(Repair, RebuildsADamagedFileKeepingTheReadableRecords)
     ASSERT_TRUE(data.AddNew());
     ASSERT_TRUE(data.Update());
     EXPECT_EQ(data.LastModified().toInt(), Rows + 1);
+}
+
+namespace {
+
+// A damage to the file's bytes: the length it is cut to (the whole file when negative) and
+// the stretches overwritten, with zeros, garbage, or another page of the file.
+struct Damage {
+    const char* Name;
+    std::function<qint64(qint64 size, int page)> CutTo;
+    std::function<void(QByteArray& bytes, int page, std::vector<std::pair<qint64, qint64>>&)>
+        Overwrite;
+};
+
+qint64 WholeFile(qint64 size, int) { return size; }
+
+void NoOverwrite(QByteArray&, int, std::vector<std::pair<qint64, qint64>>&) {}
+
+// The start of the page holding the day's record: its date's text is only there.
+qint64 RecordPage(const QByteArray& original, int day, int page)
+{
+    const QByteArray date = QDate(Year, 1, 1).addDays(day - 1).toString("yyyy-MM-dd").toLatin1();
+    return original.indexOf(date) / page * page;
+}
+
+const std::vector<Damage> Damages = {
+    {"cut by its last page", [](qint64 size, int page) { return size - page; }, NoOverwrite},
+    {"cut inside a page", [](qint64 size, int page) { return size - 3 * page - 700; }, NoOverwrite},
+    {"cut to less than half", [](qint64 size, int) { return size / 2 - 123; }, NoOverwrite},
+    {"first page zeroed", WholeFile,
+     [](QByteArray& bytes, int page, auto& hit) {
+         bytes.replace(0, page, QByteArray(page, '\0'));
+         hit.emplace_back(0, page);
+     }},
+    {"garbage in the middle", WholeFile,
+     [](QByteArray& bytes, int page, auto& hit) {
+         const qint64 from = bytes.size() / 2 - page / 3;
+         QByteArray garbage(page, '\0');
+         std::uint32_t x = 2463534242u; // xorshift: the same garbage every run
+         for (char& c : garbage) {
+             x ^= x << 13, x ^= x >> 17, x ^= x << 5;
+             c = char(x);
+         }
+         bytes.replace(from, garbage.size(), garbage);
+         hit.emplace_back(from, from + garbage.size());
+     }},
+    {"a leaf page copied over another (row ids twice)", WholeFile,
+     [](QByteArray& bytes, int page, auto& hit) {
+         const QByteArray original = bytes;
+         const qint64 from = RecordPage(original, 100, page), to = RecordPage(original, 200, page);
+         bytes.replace(to, page, original.mid(from, page));
+         hit.emplace_back(to, to + page);
+     }},
+};
+
+} // namespace
+
+TEST(Repair, AFileTheEngineCannotOpenGivesBackEveryRecordOfItsIntactPagesByteExact)
+{
+    for (const Damage& damage : Damages) {
+        const std::string where = damage.Name;
+        const QString path = MakeYearWithEntries("repair-unopenable");
+        const auto original = PlainRows(path, "select * from table1 order by DBID");
+        QByteArray bytes = testenv::FileBytes(path);
+        const int page = PageSize(bytes);
+        const QByteArray intact = bytes;
+        std::vector<std::pair<qint64, qint64>> hit;
+        damage.Overwrite(bytes, page, hit);
+        bytes.truncate(damage.CutTo(bytes.size(), page));
+        {
+            QFile f(path);
+            ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            ASSERT_EQ(f.write(bytes), bytes.size());
+        }
+        const RepairReport report = RepairAndCheck(path, where);
+        std::map<qint64, std::vector<QVariant>> repaired;
+        for (auto& row : PlainRows(path, "select * from table1"))
+            repaired[row[0].toLongLong()] = row;
+        int expected = 0;
+        for (const auto& row : original) {
+            const int day = row[0].toInt();
+            const qint64 start = RecordPage(intact, day, page);
+            const bool onIntactPage = day != 150 && start + page <= bytes.size() &&
+                                      std::none_of(hit.begin(), hit.end(), [&](const auto& h) {
+                                          return h.first < start + page && start < h.second;
+                                      });
+            if (!onIntactPage)
+                continue;
+            ++expected;
+            ASSERT_TRUE(repaired.count(day)) << where << ": day " << day;
+            EXPECT_EQ(repaired.at(day), row) << where << ": day " << day;
+        }
+        EXPECT_GT(expected, 0) << where;
+        EXPECT_GE(report.Kept, expected) << where;
+    }
+}
+
+TEST(Repair, AnEmptyOrForeignFileIsNeverSoundAndIsKeptAsItIs)
+{
+    const QString path = QDir(testenv::FreshDir("repair-empty")).filePath("2024.mdb");
+    for (const QByteArray& content :
+         {QByteArray(), QByteArray("year,notes\n2024,none\n"), QByteArray(4096, 'x')}) {
+        {
+            QFile f(path);
+            ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            f.write(content);
+        }
+        const RepairReport report = RepairYearFile(path);
+        EXPECT_FALSE(report.Result) << content.size();
+        EXPECT_TRUE(
+            report.Result.Message.contains(content.isEmpty() ? "is empty" : "kept as it is"))
+            << report.Result.Message.toStdString();
+        EXPECT_EQ(testenv::FileBytes(path), content);
+    }
 }

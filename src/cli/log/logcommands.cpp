@@ -11,6 +11,7 @@
 #include "logdb/logfiles.h"
 #include "logdb/logimport.h"
 #include "logdb/logreport.h"
+#include "logdb/yearlock.h"
 #include "model/settings.h"
 #include "pages/reportpage.h"
 #include "platform/clock.h"
@@ -262,7 +263,9 @@ int Repair(const LogRequest& r, const Streams& io)
 
 int Restore(const LogRequest& r, const Streams& io)
 {
-    const auto years = RestorableYears(io.Folder);
+    auto years = RestorableYears(io.Folder);
+    if (const auto deleted = DeletedYear(io.Folder, r.Year))
+        years.push_back(*deleted); // after any copy beside the file, which is newer
     const auto kept = std::find_if(years.begin(), years.end(),
                                    [&r](const RestorableYear& k) { return k.Year == r.Year; });
     if (kept == years.end())
@@ -333,6 +336,12 @@ std::optional<Selection> Selected(const LogRequest& r, const Streams& io, int& s
         io.Err << "quillmere-log: " << *wrong << "\n";
         return std::nullopt;
     }
+    // The query leaves its result in the file's work tables: a write like any other.
+    const YearFileLock lock(io.YearPath(r.Year));
+    if (!lock.Held()) {
+        io.Fail(Std(lock.Message()));
+        return std::nullopt;
+    }
     Selection selection = RunQuery(io.YearPath(r.Year), request, io.Err);
     if (!selection.Error.isEmpty()) {
         status = 2;
@@ -366,8 +375,21 @@ int Query(const LogRequest& r, const Streams& io)
     return 0;
 }
 
+// A report may replace an earlier report, never a year file or anything else.
+bool IsPdfOrAbsent(const QString& path)
+{
+    QFile file(path);
+    if (!file.exists())
+        return true;
+    return file.open(QIODevice::ReadOnly) && file.read(5) == QByteArrayLiteral("%PDF-");
+}
+
 int Report(const LogRequest& r, const Streams& io)
 {
+    if (const auto pdf = r.Options.find("--pdf");
+        pdf != r.Options.end() && !IsPdfOrAbsent(QString::fromStdString(pdf->second)))
+        return io.Fail("will not print over " + pdf->second +
+                       ": it is not a PDF; nothing was written");
     int status = 0;
     const auto selection = Selected(r, io, status);
     if (!selection)
@@ -421,11 +443,12 @@ int Import(const LogRequest& r, const Streams& io)
     if (const DbResult kept = BackUpIfChanged(path, Clock::Now()); !kept)
         return io.Fail("cannot back up " + Std(path) + ": " + Std(kept.Message) +
                        "; nothing was imported");
-    int written = 0;
+    ImportCount count;
     const ImportChoice choice = overwrite ? ImportChoice::Overwrite : ImportChoice::Skip;
-    if (const DbResult done = ApplyImport(path, plan, choice, written); !done)
+    if (const DbResult done = ApplyImport(path, plan, choice, count); !done)
         return io.Fail("cannot import into " + Std(path) + ": " + Std(done.Message));
-    io.Out << "Imported " << written << " day(s) into " << Std(path) << "\n";
+    io.Out << "Imported " << count.Written << " day(s) into " << Std(path)
+           << Std(GainedEntryNote(count)) << "\n";
     return 0;
 }
 

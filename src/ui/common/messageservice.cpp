@@ -10,6 +10,7 @@ QMessageBox::StandardButtons ToQt(MsgButtons b)
     case MsgButtons::OKCancel:
         return QMessageBox::Ok | QMessageBox::Cancel;
     case MsgButtons::YesNo:
+    case MsgButtons::YesNoDefaultNo:
         return QMessageBox::Yes | QMessageBox::No;
     case MsgButtons::YesNoCancel:
         return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
@@ -65,9 +66,16 @@ MsgResult MessageService::MsgBox(const QString& text, MsgButtons buttons, const 
                                  MsgIcon icon)
 {
     Messages.push_back({text, title, buttons, icon});
+    const bool defaultNo = buttons == MsgButtons::YesNoDefaultNo;
+    if (Scripted && ScriptedMessages)
+        return ScriptedMessages(Messages.back());
     if (Scripted)
-        return ScriptedMessages ? ScriptedMessages(Messages.back()) : MsgResult::OK;
+        return defaultNo ? MsgResult::No : MsgResult::OK;
     QMessageBox box(ToQt(icon), title, text, ToQt(buttons), Parent);
+    if (defaultNo) {
+        box.setDefaultButton(QMessageBox::No);
+        box.setEscapeButton(QMessageBox::No);
+    }
     return FromQt(box.exec());
 }
 

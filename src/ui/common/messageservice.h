@@ -11,7 +11,16 @@
 
 class QWidget;
 
-enum class MsgButtons { OK, OKCancel, YesNo, YesNoCancel, RetryCancel, SaveDiscardCancel };
+// YesNoDefaultNo: a question whose careless answer (Enter, Escape) must be No.
+enum class MsgButtons {
+    OK,
+    OKCancel,
+    YesNo,
+    YesNoDefaultNo,
+    YesNoCancel,
+    RetryCancel,
+    SaveDiscardCancel
+};
 enum class MsgIcon { None, Information, Question, Exclamation, Critical };
 enum class MsgResult { OK, Cancel, Yes, No, Retry, Save, Discard };
 
@@ -41,7 +50,8 @@ public:
     QString InputBox(const QString& prompt, const QString& title = QStringLiteral("Quillmere"),
                      const QString& defaultText = {});
 
-    // Tests: answer without showing anything. A missing answerer answers OK / the default.
+    // Tests: answer without showing anything. A missing answerer answers the default button
+    // (OK, or No for YesNoDefaultNo) / the default text.
     void Script(MessageAnswerer messages, InputAnswerer inputs = {});
     const std::vector<ShownMessage>& Shown() const { return Messages; }
     const std::vector<ShownInput>& Asked() const { return Inputs; }

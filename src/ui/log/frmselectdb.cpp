@@ -248,10 +248,16 @@ void FrmSelectDB::DeleteDBFile_Click()
     const QString path = SelectedOrComplain();
     if (path.isEmpty())
         return;
-    const MsgResult answer =
-        Ctx.Messages.MsgBox(QStringLiteral("Confirm to Delete Selected File "), MsgButtons::YesNo);
-    if (answer != MsgResult::No)
-        DeleteYearFile(path);
+    const MsgResult answer = Ctx.Messages.MsgBox(QStringLiteral("Confirm to Delete Selected File "),
+                                                 MsgButtons::YesNoDefaultNo);
+    if (answer == MsgResult::Yes) {
+        // The year goes to the backups first, where Backups and restore find it again.
+        if (const DbResult kept = BackUpIfChanged(path, Clock::Now()); !kept)
+            Ctx.Messages.MsgBox(kept.Message + QStringLiteral(" The file is not deleted."),
+                                MsgButtons::OK, windowTitle(), MsgIcon::Critical);
+        else
+            DeleteYearFile(path);
+    }
     RefreshList();
 }
 
@@ -291,6 +297,13 @@ void FrmSelectDB::CloseSelectDB_Click() { close(); }
 
 void FrmSelectDB::CmdBackups_Click()
 {
+    // With no file selected, a deleted year shown in the main window is found in the backups.
+    const QListWidgetItem* item = DBFiles->currentItem();
+    if (const auto deleted = DeletedYear(Ctx.Folder, Ctx.CurYear);
+        deleted && (!item || !item->isSelected())) {
+        ShowBackups(QDir(Ctx.Folder).filePath(YearFileName(Ctx.CurYear)));
+        return;
+    }
     if (const QString path = SelectedOrComplain(); !path.isEmpty())
         ShowBackups(path);
 }

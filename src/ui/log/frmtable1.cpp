@@ -5,6 +5,7 @@
 #include "logdb/filldata.h"
 #include "logdb/querybuilder.h"
 #include "logdb/queryrun.h"
+#include "logdb/yearlock.h"
 #include "pages/moonpicture.h"
 #include "pages/twips.h"
 #include "ui/common/busypointer.h"
@@ -532,7 +533,11 @@ void frmTable1::cmdEdit_Click()
 
 void frmTable1::cmdUpdate_Click()
 {
-    DbResult saved = Data1.Update();
+    DbResult saved;
+    {
+        const BusyPointer busy;
+        saved = UpdateUnderLock(Data1);
+    }
     saved = saved ? Data1.SetBookmark(Data1.LastModified()) : saved;
     if (!saved) {
         Data1_Error(saved.Message);

@@ -78,17 +78,18 @@ void ImportCatches(const LogContext& context, const QString& yearFile, const QSt
     const std::optional<ImportChoice> choice = AskChoice(messages, plan, name);
     if (!choice)
         return;
-    int written = 0;
+    ImportCount count;
     DbResult done;
     {
         const BusyPointer busy;
         done = BackUpIfChanged(yearFile, Clock::Now());
         if (done)
-            done = ApplyImport(yearFile, plan, *choice, written);
+            done = ApplyImport(yearFile, plan, *choice, count);
     }
     if (!done)
         return Say(messages, QStringLiteral("Nothing was imported: %1").arg(done.Message),
                    MsgIcon::Critical);
-    Say(messages,
-        QStringLiteral("%1 day(s) of %2 now hold the imported entries.").arg(written).arg(name));
+    Say(messages, QStringLiteral("%1 day(s) of %2 now hold the imported entries%3.")
+                      .arg(count.Written)
+                      .arg(name, GainedEntryNote(count)));
 }

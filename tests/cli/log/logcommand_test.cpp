@@ -203,6 +203,13 @@ TEST(LogCommand, QueryAndReportTheSelectedDays)
     ASSERT_GE(pages.size(), 2);
     EXPECT_TRUE(pages[1].trimmed().startsWith("Quillmere DataBase Report - Page # 2"));
     EXPECT_TRUE(pages[1].simplified().contains("060 02/29/2024")) << pages[1].toStdString();
+    // A second report replaces the first; the year file is never printed over.
+    EXPECT_EQ(RunLog(home, {"report", "--year", "2024", "--pdf", pdf}).Status, 0);
+    const QByteArray year = testenv::FileBytes(YearPath(home));
+    const LogRun over = RunLog(home, {"report", "--year", "2024", "--pdf", YearPath(home)});
+    ExpectOneLineRefusal(over, 1, "report over the year file");
+    EXPECT_TRUE(over.Err.contains("it is not a PDF")) << over.Err.toStdString();
+    EXPECT_EQ(testenv::FileBytes(YearPath(home)), year);
     const LogRun report = RunLog(home, {"report", "--year", "2024", "--months", "1-2"});
     EXPECT_EQ(report.Out.count('\f'), 1);
     EXPECT_TRUE(RunLog(home, {"--help"}).Out.contains("--weekdays D-D"));

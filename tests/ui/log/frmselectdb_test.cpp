@@ -209,14 +209,15 @@ TEST(FrmSelectDB, AFailedFillKeepsNoFileAndCreateWorksAgain)
 TEST(FrmSelectDB, DeleteAsksAndKeepsTheFileOnNo)
 {
     LogWindowEnv env(ProgramFolderWithFiles("select-delete"));
-    FrmSelectDB w(env.Context());
+    FrmSelectDB w(env.Context(2004));
     Opened opened(w);
     Select(w, "2004.mdb");
     env.Answers = {MsgResult::No};
     QTest::mouseClick(w.DeleteDBFile, Qt::LeftButton);
     EXPECT_EQ(env.ShownTexts(), QStringList{"Confirm to Delete Selected File "});
-    EXPECT_EQ(env.Messages.Shown()[0].Buttons, MsgButtons::YesNo);
+    EXPECT_EQ(env.Messages.Shown()[0].Buttons, MsgButtons::YesNoDefaultNo);
     EXPECT_TRUE(QFile::exists(QDir(env.Folder).filePath("2004.mdb")));
+    const QByteArray deleted = testenv::FileBytes(QDir(env.Folder).filePath("2004.mdb"));
     Select(w, "2004.mdb");
     // An unfinished journal goes with its file, so that it cannot touch a later 2004.mdb.
     const QString journal = QDir(env.Folder).filePath("2004.mdb-journal");
@@ -226,6 +227,17 @@ TEST(FrmSelectDB, DeleteAsksAndKeepsTheFileOnNo)
     EXPECT_FALSE(QFile::exists(QDir(env.Folder).filePath("2004.mdb")));
     EXPECT_FALSE(QFile::exists(journal));
     EXPECT_EQ(Listed(w), QStringList{"2005.mdb"});
+    // The deleted year stays in backups/: Backups opens on it with nothing selected, and it
+    // can be restored as it was.
+    QStringList backupsOf;
+    w.ShowBackups = [&backupsOf](const QString& path) { backupsOf << path; };
+    QTest::mouseClick(w.CmdBackups, Qt::LeftButton);
+    EXPECT_EQ(backupsOf, QStringList{QDir(env.Folder).filePath("2004.mdb")});
+    const auto kept = DeletedYear(env.Folder, 2004);
+    ASSERT_TRUE(kept);
+    ASSERT_TRUE(RestoreYearFile(env.Folder, *kept));
+    EXPECT_EQ(testenv::FileBytes(QDir(env.Folder).filePath("2004.mdb")), deleted);
+    EXPECT_TRUE(QFile::exists(kept->Copy));
 }
 
 TEST(FrmSelectDB, CompactingTwiceKeepsOneBackupAndRepairSaysSo)

@@ -98,9 +98,9 @@ TEST(LogImport, SkipLeavesHeldEntriesAndOverwriteReplacesThem)
     ASSERT_TRUE(QFile::copy(path, copy));
     ImportPlan plan;
     ASSERT_TRUE(PlanImport(path, 2024, EveryKindOfRow, plan));
-    int written = -1;
-    ASSERT_TRUE(ApplyImport(path, plan, ImportChoice::Skip, written));
-    EXPECT_EQ(written, 2);
+    ImportCount count;
+    ASSERT_TRUE(ApplyImport(path, plan, ImportChoice::Skip, count));
+    EXPECT_EQ(count.Written, 2);
     EXPECT_EQ(Entry(path, "2024-01-05"), QStringList({"3", "worms", "7:00 AM", "clear, calm"}));
     EXPECT_EQ(Entry(path, "2024-01-09"),
               QStringList({"4", "spinner", "11:00 PM", "said \"big\"\nall day"}));
@@ -109,8 +109,8 @@ TEST(LogImport, SkipLeavesHeldEntriesAndOverwriteReplacesThem)
         EXPECT_EQ(Entry(path, untouched), QStringList({"<null>", "<null>", "<null>", "<null>"}))
             << untouched;
 
-    ASSERT_TRUE(ApplyImport(copy, plan, ImportChoice::Overwrite, written));
-    EXPECT_EQ(written, 3);
+    ASSERT_TRUE(ApplyImport(copy, plan, ImportChoice::Overwrite, count));
+    EXPECT_EQ(count.Written, 3);
     EXPECT_EQ(Entry(copy, "2024-01-11"), QStringList({"6", "jig", "5:00 PM", "<null>"}));
 }
 

@@ -1,0 +1,191 @@
+// Two programs at once on one year file: quillmere-log's import and compact, and a child that
+// saves entries through the record browser's save code or restores a backup as the Backups
+// window does, started with random delays between them. Whatever a program reported saved is
+// in the file afterwards, and none reports success for what it did not keep.
+#include "logdb/backups.h"
+#include "support/filledyear.h"
+#include "support/logfixture.h"
+#include "support/testenv.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QRandomGenerator>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <memory>
+
+using namespace logtest;
+
+namespace {
+
+constexpr int RunsEach = 6;
+constexpr int MaxStartGapMs = 250;
+constexpr int WaitMs = 120000;
+
+std::unique_ptr<QProcess> Start(const QString& program, const QStringList& args,
+                                const QString& home)
+{
+    auto process = std::make_unique<QProcess>();
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("QUILLMERE_HOME", home);
+    process->setProcessEnvironment(env);
+    process->start(program, args);
+    EXPECT_TRUE(process->waitForStarted());
+    return process;
+}
+
+std::unique_ptr<QProcess> StartLog(const QString& home, const QStringList& args)
+{
+    return Start(QStringLiteral(QUILLMERE_LOG), args, home);
+}
+
+std::unique_ptr<QProcess> StartChild(const QStringList& args)
+{
+    return Start(QStringLiteral(LOGCRASH_CHILD), args, {});
+}
+
+struct Ended {
+    int Status = -1;
+    QString Out;
+};
+
+Ended Finish(QProcess& process)
+{
+    EXPECT_TRUE(process.waitForFinished(WaitMs));
+    const Ended ended{process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                      QString::fromUtf8(process.readAllStandardOutput())};
+    if (ended.Status != 0)
+        std::cerr << process.readAllStandardError().toStdString();
+    return ended;
+}
+
+void PauseUpTo(int ms) { QThread::msleep(QRandomGenerator::global()->bounded(ms + 1)); }
+
+// "JulianDate,Notes" lines giving days first..last the note "<tag> <day>".
+QString CatchCsv(const QString& folder, const QString& tag, int first, int last)
+{
+    const QString path = QDir(folder).filePath(tag + ".csv");
+    QFile csv(path);
+    EXPECT_TRUE(csv.open(QIODevice::WriteOnly));
+    csv.write("JulianDate,Notes\r\n");
+    for (int day = first; day <= last; ++day)
+        csv.write(QStringLiteral("%1,%2 %3\r\n")
+                      .arg(QDate(Year, 1, 1).addDays(day - 1).toString("MM/dd/yyyy"), tag)
+                      .arg(day)
+                      .toUtf8());
+    return path;
+}
+
+// The Notes of every day, in date order (index 0 is 1 January).
+QStringList NotesOf(const QString& path)
+{
+    QStringList notes;
+    for (const QVariant& note : PlainColumn(path, "select Notes from table1 order by JulianDate"))
+        notes << note.toString();
+    return notes;
+}
+
+int ImportedCount(const Ended& run)
+{
+    // "Imported 60 day(s) into ...", after the lines of the days already held
+    const QString last = run.Out.trimmed().section('\n', -1);
+    EXPECT_TRUE(last.startsWith("Imported ")) << run.Out.toStdString();
+    return last.section(' ', 1, 1).toInt();
+}
+
+} // namespace
+
+TEST(TwoPrograms, CompactBesideImportKeepsEveryImportedDay)
+{
+    for (int run = 0; run < RunsEach; ++run) {
+        const QString path = MakeYearFileWithEntries("race-compact-import");
+        const QString home = QFileInfo(path).absolutePath();
+        const QString csv = CatchCsv(home, "import", 1, 60);
+        auto import = StartLog(home, {"import", "--year", "2024", csv});
+        PauseUpTo(MaxStartGapMs);
+        auto compact = StartLog(home, {"compact", "--year", "2024"});
+        const Ended imported = Finish(*import);
+        const Ended compacted = Finish(*compact);
+        const std::string where = "run " + std::to_string(run);
+        EXPECT_EQ(compacted.Status, 0) << where;
+        ASSERT_EQ(imported.Status, 0) << where;
+        EXPECT_EQ(ImportedCount(imported), 60) << where;
+        const QStringList notes = NotesOf(path);
+        for (int day = 1; day <= 60; ++day)
+            EXPECT_EQ(notes[day - 1], QString("import %1").arg(day)) << where << " day " << day;
+    }
+}
+
+TEST(TwoPrograms, TwoImportsNeverOverwriteEachOther)
+{
+    for (int run = 0; run < RunsEach; ++run) {
+        const QString path = MakeYearFileWithEntries("race-two-imports");
+        const QString home = QFileInfo(path).absolutePath();
+        auto first = StartLog(home, {"import", "--year", "2024", CatchCsv(home, "A", 1, 60)});
+        PauseUpTo(MaxStartGapMs);
+        auto second =
+            StartLog(home, {"import", "--year", "2024", CatchCsv(home, "B", 31, 90), "--skip"});
+        const Ended a = Finish(*first);
+        const Ended b = Finish(*second);
+        const std::string where = "run " + std::to_string(run);
+        EXPECT_EQ(b.Status, 0) << where;
+        const QStringList notes = NotesOf(path);
+        // Each day of the overlap holds one import's entry, and the counts say which.
+        int fromA = 0, fromB = 0;
+        for (int day = 1; day <= 90; ++day) {
+            const QString note = notes[day - 1];
+            fromA += note == QString("A %1").arg(day);
+            fromB += note == QString("B %1").arg(day);
+            if (a.Status == 0 || day > 60)
+                EXPECT_TRUE(note == QString("A %1").arg(day) || note == QString("B %1").arg(day))
+                    << where << " day " << day << ": " << note.toStdString();
+        }
+        EXPECT_EQ(fromA, a.Status == 0 ? ImportedCount(a) : 0) << where;
+        EXPECT_EQ(fromB, ImportedCount(b)) << where;
+    }
+}
+
+// The browser's save runs day after day while compactions (quillmere-log) or restores (the
+// Backups window) replace the file under it.
+class SaveBeside : public testing::TestWithParam<const char*> {};
+
+TEST_P(SaveBeside, EverySaveReportedIsKept)
+{
+    const QString path = MakeYearFileWithEntries("race-save");
+    const QString home = QFileInfo(path).absolutePath();
+    const bool restoring = QString(GetParam()) == "restore";
+    ASSERT_TRUE(BackUpIfChanged(path, QDateTime::currentDateTime()));
+    const QString backup = ListBackups(path).front();
+    auto saver = StartChild({"save", path, "saved"});
+    int others = 0;
+    while (saver->state() == QProcess::Running && others < 3 * RunsEach) {
+        PauseUpTo(MaxStartGapMs);
+        auto other = restoring ? StartChild({"restore", path, backup})
+                               : StartLog(home, {"compact", "--year", "2024"});
+        EXPECT_EQ(Finish(*other).Status, 0) << GetParam() << " " << others;
+        ++others;
+    }
+    const Ended saves = Finish(*saver);
+    EXPECT_EQ(saves.Status, 0) << QString::fromUtf8(saver->readAllStandardError()).toStdString();
+    EXPECT_GE(others, 2);
+    // A save before a restore is in the copy the restore kept first; any later one, in the file.
+    QStringList kept = NotesOf(path);
+    for (const QString& copy : ListBackups(path))
+        kept += NotesOf(copy);
+    const QStringList reported = saves.Out.split('\n', Qt::SkipEmptyParts);
+    EXPECT_EQ(reported.size(), DaysInYear);
+    for (const QString& line : reported) {
+        const int day = line.section(' ', 1).toInt();
+        EXPECT_TRUE(kept.contains(QString("saved %1").arg(day))) << "day " << day;
+    }
+    if (!restoring)
+        EXPECT_EQ(NotesOf(path).filter("saved ").size(), DaysInYear);
+}
+
+INSTANTIATE_TEST_SUITE_P(TwoPrograms, SaveBeside, testing::Values("compact", "restore"));
