@@ -20,6 +20,28 @@ struct EclipticPoint {
     double Distance = 0.0;  // astronomical units
 };
 
+// The Sun's apparent place (Meeus ch. 25), radians and astronomical units.
+struct SunPlace {
+    double Lambda = 0.0; // longitude, [0, 2pi)
+    double Beta = 0.0;   // latitude
+    double R = 0.0;      // distance
+    double Alpha = 0.0;  // right ascension, [0, 2pi)
+    double Delta = 0.0;  // declination
+};
+
+// The Moon's apparent place (Meeus ch. 47) with its parallax and phase (ch. 48), radians.
+struct MoonPlace {
+    double Lambda = 0.0;        // longitude, [0, 2pi)
+    double Beta = 0.0;          // latitude
+    double Distance = 0.0;      // Delta, kilometres from the Earth's centre
+    double Parallax = 0.0;      // pi, the equatorial horizontal parallax
+    double IllumFraction = 0.0; // k
+    double BrightLimb = 0.0;    // chi, the position angle of the bright limb, [0, 2pi)
+    double Alpha = 0.0;         // right ascension, [0, 2pi)
+    double Delta = 0.0;         // declination
+    double Elongation = 0.0;    // psi, from the Sun
+};
+
 class Astronomy {
 public:
     // Where and when: the current location's working values and the chosen hour.
@@ -39,14 +61,11 @@ public:
         double Alpha = 0.0; // right ascension, [0, 2pi)
         double Delta = 0.0; // declination
     };
-    // Left by the last EclipticToEquatorial.
-    Equatorial EquatorialResult;
 
     // Mean obliquity of the ecliptic in radians (Laskar, Meeus eq. 22.3).
     double MeanObliquity(double jd) const;
-    // Ecliptic longitude and latitude to equatorial (Meeus eqs. 13.3, 13.4); sets
-    // EquatorialResult.
-    void EclipticToEquatorial(double lambda, double beta, double epsilon);
+    // Ecliptic longitude and latitude to equatorial (Meeus eqs. 13.3, 13.4).
+    static Equatorial EclipticToEquatorial(double lambda, double beta, double epsilon);
 
     // ---- nutation and the horizon (Meeus ch. 13, 14, 22, 48) ----
     double NutationLongitude = 0.0; // delta psi, radians
@@ -63,18 +82,12 @@ public:
                                double longitudeDeg);
 
     // ---- the Sun (Meeus ch. 25 with VSOP87) and the Moon (Meeus ch. 47, 48) ----
-    // Results of the position routines and the event search; see each routine.
-    std::array<double, 20> PositionResult{};
-    EclipticPoint SunEcliptic;
-    Equatorial SunEquatorial;
-
-    // Apparent lambda, beta, R, alpha, delta of the Sun in PositionResult[0..4].
-    void SunPosition(double jd);
-    // Geometric longitude and distance of the Sun, low precision, in SunEcliptic.
-    void SunLowPrecision(double jd);
-    // The Moon: lambda, beta, distance (km), parallax, illuminated fraction, bright limb in
-    // PositionResult[0..5]; alpha, delta, elongation in [7..9].
-    void MoonPosition(double jd);
+    // Each leaves the nutation and the obliquity of jd in force.
+    SunPlace SunPosition(double jd);
+    MoonPlace MoonPosition(double jd);
+    // Geometric longitude and distance of the Sun, low precision (Meeus's Astronomical
+    // Formulae for Calculators).
+    static EclipticPoint SunLowPrecision(double jd);
 
     // ---- rising, transit and setting (Meeus ch. 15) ----
     // Inputs of FindEvents, set by the drivers: 0h UT of the day, the place (degrees, west and
@@ -91,6 +104,7 @@ public:
     std::int16_t AboveHorizonState = 0;
     double MoonRiseHour = 0.0, MoonTransitHour = 0.0, MoonSetHour = 0.0;
 
+    std::array<double, 20> PositionResult{};
     // Transit, rise and set in PositionResult[0..2] (hours UT from EventDayJD), transit
     // altitude and azimuths in [3..5], statuses 0 (in the local day) or 2 in [9..11].
     void FindEvents();

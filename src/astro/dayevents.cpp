@@ -29,19 +29,19 @@ const auto& Cached(Cache& cache, double jd, Compute compute)
 const Astronomy::DayPosition& Astronomy::SunAtDay(double jd)
 {
     return Cached(SunDays, jd, [&](DayPosition& e) {
-        SunPosition(jd);
-        e.Alpha = PositionResult[3];
-        e.Delta = PositionResult[4];
+        const SunPlace sun = SunPosition(jd);
+        e.Alpha = sun.Alpha;
+        e.Delta = sun.Delta;
     });
 }
 
 const Astronomy::DayPosition& Astronomy::MoonAtDay(double jd)
 {
     return Cached(MoonDays, jd, [&](DayPosition& e) {
-        MoonPosition(jd);
-        e.Alpha = PositionResult[7];
-        e.Delta = PositionResult[8];
-        e.Parallax = PositionResult[3];
+        const MoonPlace moon = MoonPosition(jd);
+        e.Alpha = moon.Alpha;
+        e.Delta = moon.Delta;
+        e.Parallax = moon.Parallax;
     });
 }
 

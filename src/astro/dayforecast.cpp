@@ -23,9 +23,9 @@ void Astronomy::ComputeSunDay(double jd)
     f.DayLength = f.SunEvents(0, 2) - f.SunEvents(0, 0);
 
     const double t = ChosenInstant(jd);
-    SunPosition(t);
-    const double alpha = PositionResult[3], delta = PositionResult[4];
-    const Horizontal sky = HorizontalPosition(t, alpha, delta, Site.CurLatitude, Site.CurLongitude);
+    const SunPlace sun = SunPosition(t);
+    const Horizontal sky =
+        HorizontalPosition(t, sun.Alpha, sun.Delta, Site.CurLatitude, Site.CurLongitude);
     f.SkyPosition[0] = sky.Azimuth;
     f.SkyPosition[2] = sky.Altitude;
 }
@@ -53,12 +53,12 @@ void Astronomy::ComputeDay(double jd)
     SetPeriods(T);
 
     const double now = ChosenInstant(jd);
-    MoonPosition(now);
-    f.IllumFraction = PositionResult[4];
-    f.BrightLimbAngle = PositionResult[5];
+    const MoonPlace moon = MoonPosition(now);
+    f.IllumFraction = moon.IllumFraction;
+    f.BrightLimbAngle = moon.BrightLimb;
     f.Waxing = f.BrightLimbAngle > 3.14159265358979 ? 1 : 0;
     f.IllumPercent = IllumPercentOf(f.IllumFraction);
-    const double alpha = PositionResult[7], delta = PositionResult[8];
+    const double alpha = moon.Alpha, delta = moon.Delta;
     const double t = Site.TimeFormats == 2 ? now - 15.0 / 1440.0 : now;
     const Horizontal sky = HorizontalPosition(t, alpha, delta, Site.CurLatitude, Site.CurLongitude);
     f.SkyPosition[1] = sky.Azimuth;

@@ -119,8 +119,8 @@ void AddEventTexts(DayGraphSeries& g, const DayMarks& day)
 SunAltitudeRange SunAltitudesOfDay(Astronomy& engine, double jd)
 {
     const Observer& o = engine.Site;
-    engine.SunPosition(jd + 0.5 + o.ZoneDays + o.DstOffsetDays);
-    const double delta = engine.PositionResult[4], phi = o.CurLatitude * DegToRad;
+    const double delta = engine.SunPosition(jd + 0.5 + o.ZoneDays + o.DstOffsetDays).Delta;
+    const double phi = o.CurLatitude * DegToRad;
     // At the upper and the lower meridian passage.
     return {ArcSin(std::sin(phi) * std::sin(delta) - std::cos(phi) * std::cos(delta)),
             ArcSin(std::sin(phi) * std::sin(delta) + std::cos(phi) * std::cos(delta))};
@@ -168,14 +168,13 @@ SkyReadout GetPicData(Astronomy& engine, double jd)
     const Observer& o = engine.Site;
     const double ut = jd + o.ZoneDays + o.DstOffsetDays;
     SkyReadout r;
-    engine.SunPosition(ut);
-    Horizontal h = engine.HorizontalPosition(ut, engine.PositionResult[3], engine.PositionResult[4],
-                                             o.CurLatitude, o.CurLongitude);
+    const SunPlace sun = engine.SunPosition(ut);
+    Horizontal h =
+        engine.HorizontalPosition(ut, sun.Alpha, sun.Delta, o.CurLatitude, o.CurLongitude);
     r.SunAzimuth = h.Azimuth * RadToDeg;
     r.SunElevation = h.Altitude * RadToDeg;
-    engine.MoonPosition(ut);
-    h = engine.HorizontalPosition(ut, engine.PositionResult[7], engine.PositionResult[8],
-                                  o.CurLatitude, o.CurLongitude);
+    const MoonPlace moon = engine.MoonPosition(ut);
+    h = engine.HorizontalPosition(ut, moon.Alpha, moon.Delta, o.CurLatitude, o.CurLongitude);
     r.MoonAzimuth = h.Azimuth * RadToDeg;
     r.MoonElevation = h.Altitude * RadToDeg;
     return r;

@@ -129,12 +129,10 @@ TEST(LunarEvents, ExtremesAgreeWithTheMoonsPosition)
 {
     Astronomy engine;
     const std::function<double(double)> distance = [&](double jd) {
-        engine.MoonPosition(jd);
-        return engine.PositionResult[2];
+        return engine.MoonPosition(jd).Distance;
     };
     const std::function<double(double)> declination = [&](double jd) {
-        engine.MoonPosition(jd);
-        return engine.PositionResult[8];
+        return engine.MoonPosition(jd).Delta;
     };
     double perigee = 0.0, apogee = 0.0, north = 0.0, south = 0.0;
     auto worst = [](double& w, double minutes) { w = std::max(w, std::abs(minutes)); };
