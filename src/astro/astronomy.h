@@ -1,6 +1,7 @@
-// The astronomy engine. Operations overwrite their result members in place and the caller
-// reads them right after the call, so one engine object serves one thread of work; a window,
-// a list or the log filler may each own one.
+// The astronomy engine. Positions come back as named places; the day's events, the forecast
+// and the year's event times are left in named members that the caller reads right after the
+// call, so one engine object serves one thread of work; a window, a list or the log filler may
+// each own one.
 #pragma once
 
 #include "astro/dayforecast.h"
@@ -90,28 +91,15 @@ public:
     static EclipticPoint SunLowPrecision(double jd);
 
     // ---- rising, transit and setting (Meeus ch. 15) ----
-    // Inputs of FindEvents, set by the drivers: 0h UT of the day, the place (degrees, west and
-    // north positive), the body's apparent RA and declination at 0h of days -1, 0, +1 (entries
-    // 1..3), the altitude of the event, and the hours that turn local clock time into UT.
-    double EventDayJD = 0.0;
-    double EventLongitude = 0.0;
-    double EventLatitude = 0.0;
-    std::array<double, 4> EventRA{};
-    std::array<double, 4> EventDec{};
-    double EventAltitude = 0.0;
-    double EventZoneHours = 0.0;
-    // 0 crosses the altitude during the day, 1 stays above it, -1 stays below.
-    std::int16_t AboveHorizonState = 0;
+    // Local clock hours of the Moon's events, as left by the last MoonEventsForDay.
     double MoonRiseHour = 0.0, MoonTransitHour = 0.0, MoonSetHour = 0.0;
 
-    std::array<double, 20> PositionResult{};
-    // Transit, rise and set in PositionResult[0..2] (hours UT from EventDayJD), transit
-    // altitude and azimuths in [3..5], statuses 0 (in the local day) or 2 in [9..11].
-    void FindEvents();
+    // The Moon's events of the local day of jd in Forecast.MoonEvents.
     void MoonEventsForDay(double jd);
     // Whether the Moon's lower transit falls in the local day of jd (the day of the second
-    // major period); overwrites the search's results.
+    // major period).
     bool MoonLowerTransitInDay(double jd);
+    // The Sun's events of the local day of jd in Forecast.SunEvents.
     void SunEventsForDay(double jd);
 
     // ---- the day forecast ----
@@ -138,11 +126,26 @@ public:
     void EarthApsides(int year);
 
 private:
+    // What one rise/transit/set search needs: 0h UT of the day, the place (degrees, west and
+    // north positive), the body's apparent place at 0h of the days before, of and after the
+    // day, the altitude h0 of its events, and the hours that turn local clock time into UT.
+    struct EventSearch {
+        double J0 = 0.0;
+        double Longitude = 0.0;
+        double Latitude = 0.0;
+        Equatorial Yesterday{}, Today{}, Tomorrow{};
+        double Altitude = 0.0;
+        double ZoneHours = 0.0;
+    };
+    // Times in hours UT from J0, statuses for the local day that starts at J0 on the clock.
+    RiseTransitSet FindEvents(const EventSearch& s);
+
     // Positions at 0h of recent days for the event drivers: consecutive days share two of their
     // three, so walking the days computes one new position of each body per day.
     struct DayPosition {
         double JD = 0.0; // 0 marks an empty entry
-        double Alpha = 0.0, Delta = 0.0, Parallax = 0.0;
+        Equatorial Place;
+        double Parallax = 0.0;
     };
     struct DayPositionCache {
         std::array<DayPosition, 4> Entries{};
@@ -152,11 +155,12 @@ private:
     const DayPosition& SunAtDay(double jd);
     const DayPosition& MoonAtDay(double jd);
 
+    double ClockZoneHours() const;
     double LocalHours(double utHours) const;
+    RiseTransitSet InLocalClock(RiseTransitSet e) const;
     double ChosenInstant(double jd) const;
-    void PrepareEventSearch(double J0, double altitude, double zoneHours);
-    void SearchMoonEvents(double J0);
-    void SettleMoonEventsAtMidnight(double J0);
+    EventSearch MoonSearch(double J0);
+    void SettleMoonEventsAtMidnight(double J0, RiseTransitSet& today);
     std::string Clock(double hours) const;
 
     // Local hour angle and latitude shared by the horizon and parallactic conversions.

@@ -18,14 +18,15 @@ void Astronomy::ComputeSunDay(double jd)
 {
     DayForecast& f = Forecast;
     SunEventsForDay(jd);
-    f.SunriseText = Clock(f.SunEvents(0, 0));
-    f.SunsetText = Clock(f.SunEvents(0, 2));
-    f.DayLength = f.SunEvents(0, 2) - f.SunEvents(0, 0);
+    const RiseTransitSet& sun = f.SunEvents.Horizon;
+    f.SunriseText = Clock(sun.RiseTime);
+    f.SunsetText = Clock(sun.SetTime);
+    f.DayLength = sun.SetTime - sun.RiseTime;
 
     const double t = ChosenInstant(jd);
-    const SunPlace sun = SunPosition(t);
+    const SunPlace place = SunPosition(t);
     const Horizontal sky =
-        HorizontalPosition(t, sun.Alpha, sun.Delta, Site.CurLatitude, Site.CurLongitude);
+        HorizontalPosition(t, place.Alpha, place.Delta, Site.CurLatitude, Site.CurLongitude);
     f.SkyPosition[0] = sky.Azimuth;
     f.SkyPosition[2] = sky.Altitude;
 }
@@ -35,7 +36,7 @@ void Astronomy::ComputeDay(double jd)
     DayForecast& f = Forecast;
     MoonEventsForDay(jd);
     double T = MoonTransitHour;
-    if (f.MoonEvents.TransitFlag != 0) {
+    if (f.MoonEvents.TransitFlag != EventFlag::InDay) {
         // No transit of its own: the mean of the neighbouring days' transits.
         const MoonEventRecord today = f.MoonEvents;
         MoonEventsForDay(jd - 1.0);

@@ -10,7 +10,6 @@
 
 struct DayForecast {
     SunEventTable SunEvents;
-    std::array<SunEventStatus, 4> SunStatus; // rows as in SunEvents
     std::string SunriseText;
     std::string SunsetText;
     double DayLength = 0.0;
