@@ -27,8 +27,8 @@ void Astronomy::ComputeSunDay(double jd)
     const SunPlace place = SunPosition(t);
     const Horizontal sky =
         HorizontalPosition(t, place.Alpha, place.Delta, Site.CurLatitude, Site.CurLongitude);
-    f.SkyPosition[0] = sky.Azimuth;
-    f.SkyPosition[2] = sky.Altitude;
+    f.SkyPosition.SunAzimuth = sky.Azimuth;
+    f.SkyPosition.SunAltitude = sky.Altitude;
 }
 
 void Astronomy::ComputeDay(double jd)
@@ -62,8 +62,8 @@ void Astronomy::ComputeDay(double jd)
     const double alpha = moon.Alpha, delta = moon.Delta;
     const double t = Site.TimeFormats == 2 ? now - 15.0 / 1440.0 : now;
     const Horizontal sky = HorizontalPosition(t, alpha, delta, Site.CurLatitude, Site.CurLongitude);
-    f.SkyPosition[1] = sky.Azimuth;
-    f.SkyPosition[3] = sky.Altitude;
+    f.SkyPosition.MoonAzimuth = sky.Azimuth;
+    f.SkyPosition.MoonAltitude = sky.Altitude;
     f.MoonParallacticAngle =
         ParallacticAngleNow(now, alpha, delta, Site.CurLatitude, Site.CurLongitude);
 }

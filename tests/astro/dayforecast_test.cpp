@@ -163,7 +163,7 @@ TEST(DayForecast, MoonUpAtNoonAgreesWithRiseAndSetOverAYear)
                                         : !(m.SetTime < 12.0 && 12.0 < m.RiseTime);
         else
             up = rises ? m.RiseTime < 12.0 : 12.0 < m.SetTime;
-        EXPECT_EQ(a.Forecast.SkyPosition[3] > 0.0, up) << "day " << d;
+        EXPECT_EQ(a.Forecast.SkyPosition.MoonAltitude > 0.0, up) << "day " << d;
         ++compared;
     }
     EXPECT_GT(compared, 340);

@@ -52,8 +52,9 @@ int main(int argc, char** argv)
             a.Site.HourInstant = h / 24.0 + a.Site.ZoneDays;
             a.ComputeSunDay(jd);
             a.ComputeDay(jd);
-            std::printf("S %s %.4f %.4f %.4f %.4f %.4f\n", date, h, f.SkyPosition[0] * Deg,
-                        f.SkyPosition[2] * Deg, f.SkyPosition[1] * Deg, f.SkyPosition[3] * Deg);
+            const SkyAtHour& sky = f.SkyPosition;
+            std::printf("S %s %.4f %.4f %.4f %.4f %.4f\n", date, h, sky.SunAzimuth * Deg,
+                        sky.SunAltitude * Deg, sky.MoonAzimuth * Deg, sky.MoonAltitude * Deg);
         }
     }
     return 0;

@@ -204,8 +204,8 @@ TEST(DayGraph, SkyAtThePointerAgreesWithEphem)
     engine.ComputeSunDay(CivilToJd(2024, 6, 20));
     engine.ComputeDay(CivilToJd(2024, 6, 20));
     const auto& sky = engine.Forecast.SkyPosition;
-    EXPECT_NEAR(sky[0] * 57.29577951308238, r.SunAzimuth, 1e-6);
-    EXPECT_NEAR(sky[3] * 57.29577951308238, r.MoonElevation, 1e-6);
+    EXPECT_NEAR(sky.SunAzimuth * 57.29577951308238, r.SunAzimuth, 1e-6);
+    EXPECT_NEAR(sky.MoonAltitude * 57.29577951308238, r.MoonElevation, 1e-6);
 }
 
 } // namespace

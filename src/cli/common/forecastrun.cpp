@@ -171,10 +171,10 @@ DayRow ForecastRun::Day(int year, int month, int day)
     r.Season = marks.Season;
     r.Holiday = marks.Holiday;
     r.Text = marks.Text;
-    r.SunAzimuth = Degrees(f.SkyPosition[0]);
-    r.MoonAzimuth = Degrees(f.SkyPosition[1]);
-    r.SunAltitude = Degrees(f.SkyPosition[2]);
-    r.MoonAltitude = Degrees(f.SkyPosition[3]);
+    r.SunAzimuth = Degrees(f.SkyPosition.SunAzimuth);
+    r.MoonAzimuth = Degrees(f.SkyPosition.MoonAzimuth);
+    r.SunAltitude = Degrees(f.SkyPosition.SunAltitude);
+    r.MoonAltitude = Degrees(f.SkyPosition.MoonAltitude);
     r.MoonParallacticAngle = Degrees(f.MoonParallacticAngle);
     r.UtcOffsetHours = 24.0 * (Engine.Site.ZoneDays + Engine.Site.DstOffsetDays);
     return r;
