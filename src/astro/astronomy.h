@@ -112,10 +112,11 @@ public:
     void SetPeriods(double T);
 
     // ---- the year's events, local clock Julian days ----
+    // Each list is in the order of its event codes in the year day table (code = index + 1).
     std::array<double, 4> PhaseTimes{};       // new, first quarter, full, last quarter
     std::array<double, 2> PerigeeTimes{};     // perigee, the apogee after it
-    std::array<double, 3> DeclinationTimes{}; // [1] greatest north, [2] greatest south
-    std::array<double, 5> SeasonTimes{};      // [1..4] equinoxes and solstices, dynamical time
+    std::array<double, 2> DeclinationTimes{}; // greatest north, greatest south
+    std::array<double, 4> SeasonTimes{};      // March equinox .. December solstice, dynamical time
     std::array<double, 2> EarthApsisTimes{};  // the Earth's perihelion and aphelion
     // Each takes the cycle number k of its chapter (whole k: the cycle's first event).
     void MoonPhases(double k);
