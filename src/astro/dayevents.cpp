@@ -75,16 +75,17 @@ RiseTransitSet Astronomy::InLocalClock(RiseTransitSet e) const
 
 Astronomy::EventSearch Astronomy::MoonSearch(double J0)
 {
-    EventSearch s{.J0 = J0,
-                  .Longitude = Site.CurLongitude,
-                  .Latitude = Site.CurLatitude,
-                  .Yesterday = MoonAtDay(J0 - 1.0).Place,
-                  .ZoneHours = ClockZoneHours()};
+    const Equatorial yesterday = MoonAtDay(J0 - 1.0).Place;
     const DayPosition today = MoonAtDay(J0); // a copy: the next day may take its cache entry
-    s.Today = today.Place;
-    s.Tomorrow = MoonAtDay(J0 + 1.0).Place;
-    s.Altitude = 0.7275 * today.Parallax - MoonRefraction;
-    return s;
+    const Equatorial tomorrow = MoonAtDay(J0 + 1.0).Place;
+    return {.J0 = J0,
+            .Longitude = Site.CurLongitude,
+            .Latitude = Site.CurLatitude,
+            .Yesterday = yesterday,
+            .Today = today.Place,
+            .Tomorrow = tomorrow,
+            .Altitude = 0.7275 * today.Parallax - MoonRefraction,
+            .ZoneHours = ClockZoneHours()};
 }
 
 // Each day's search interpolates its own three days of positions, so two neighbouring days
@@ -149,6 +150,7 @@ void Astronomy::SunEventsForDay(double jd)
         // Twilights decide the local day with the standard zone.
         const bool clockDay = r == SunRow::Horizon || Site.TwilightsInClockDay;
         s.ZoneHours = clockDay ? ClockZoneHours() : Site.CurTimeZone;
+        // Each twilight row lies 6 degrees below the one before.
         s.Altitude = r == SunRow::Horizon ? SunriseAltitude : -6.0 * int(r) * DegToRad;
         Forecast.SunEvents[r] = InLocalClock(FindEvents(s));
     }

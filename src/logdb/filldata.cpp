@@ -12,12 +12,6 @@ QVariant Text(const std::string& s) { return QVariant(QString::fromStdString(s))
 // An hour of the day, or -1 when the day has no such event.
 QVariant HourOrNone(double hours, bool none) { return none ? QVariant(-1) : QVariant(hours); }
 
-// A moon event's hour, or -1 when it falls on another day.
-QVariant MoonHour(double hours, EventFlag flag)
-{
-    return HourOrNone(hours, flag == EventFlag::OtherDay);
-}
-
 // Keeps the observer's zone and daylight-saving values across the fill's per-day changes.
 class ObserverRestore {
 public:
@@ -70,20 +64,22 @@ FieldValues DayRecord(Astronomy& engine, const Calendar& cal, int d)
 
     engine.ComputeDay(J);
     const DayMarks& marks = cal.YearDays[std::size_t(d)];
-    const FieldValues moon{{"MoonRise", MoonHour(f.MoonEvents.RiseTime, f.MoonEvents.RiseFlag)},
-                           {"MoonSet", MoonHour(f.MoonEvents.SetTime, f.MoonEvents.SetFlag)},
-                           {"Major1", Text(clock(f.Major1))},
-                           {"Major2", Text(clock(f.Major2))},
-                           {"Minor1", HourOrNone(f.Minor1, f.Minor1 < 0)},
-                           {"Minor2", HourOrNone(f.Minor2, f.Minor2 < 0)},
-                           {"IllumPercent", QVariant(f.IllumPercent)},
-                           {"GraphicType", QVariant(marks.Rating)},
-                           {"MoonAge", QVariant(marks.MoonAge)},
-                           {"Waxing", QVariant(f.Waxing)},
-                           {"DaylightHours", QVariant(sun.Horizon.SetTime - sun.Horizon.RiseTime)},
-                           {"Month", Text(VbFormatDate(T, "m"))},
-                           {"DayOfWeek_", Text(VbFormatDate(T, "w"))},
-                           {"Perigee", QVariant(marks.Perigee)}};
+    const FieldValues moon{
+        {"MoonRise",
+         HourOrNone(f.MoonEvents.RiseTime, f.MoonEvents.RiseFlag == EventFlag::OtherDay)},
+        {"MoonSet", HourOrNone(f.MoonEvents.SetTime, f.MoonEvents.SetFlag == EventFlag::OtherDay)},
+        {"Major1", Text(clock(f.Major1))},
+        {"Major2", Text(clock(f.Major2))},
+        {"Minor1", HourOrNone(f.Minor1, f.Minor1 < 0)},
+        {"Minor2", HourOrNone(f.Minor2, f.Minor2 < 0)},
+        {"IllumPercent", QVariant(f.IllumPercent)},
+        {"GraphicType", QVariant(marks.Rating)},
+        {"MoonAge", QVariant(marks.MoonAge)},
+        {"Waxing", QVariant(f.Waxing)},
+        {"DaylightHours", QVariant(sun.Horizon.SetTime - sun.Horizon.RiseTime)},
+        {"Month", Text(VbFormatDate(T, "m"))},
+        {"DayOfWeek_", Text(VbFormatDate(T, "w"))},
+        {"Perigee", QVariant(marks.Perigee)}};
     record.insert(record.end(), moon.begin(), moon.end());
     return record;
 }
