@@ -1,6 +1,7 @@
-// The astronomy engine. Operations overwrite their result members in place and the caller
-// reads them right after the call, so one engine object serves one thread of work; a window,
-// a list or the log filler may each own one.
+// The astronomy engine. Positions come back as named places; the day's events, the forecast
+// and the year's event times are left in named members that the caller reads right after the
+// call, so one engine object serves one thread of work; a window, a list or the log filler may
+// each own one.
 #pragma once
 
 #include "astro/dayforecast.h"
@@ -18,6 +19,28 @@ struct EclipticPoint {
     double Longitude = 0.0; // radians
     double Latitude = 0.0;  // radians
     double Distance = 0.0;  // astronomical units
+};
+
+// The Sun's apparent place (Meeus ch. 25), radians and astronomical units.
+struct SunPlace {
+    double Lambda = 0.0; // longitude, [0, 2pi)
+    double Beta = 0.0;   // latitude
+    double R = 0.0;      // distance
+    double Alpha = 0.0;  // right ascension, [0, 2pi)
+    double Delta = 0.0;  // declination
+};
+
+// The Moon's apparent place (Meeus ch. 47) with its parallax and phase (ch. 48), radians.
+struct MoonPlace {
+    double Lambda = 0.0;        // longitude, [0, 2pi)
+    double Beta = 0.0;          // latitude
+    double Distance = 0.0;      // Delta, kilometres from the Earth's centre
+    double Parallax = 0.0;      // pi, the equatorial horizontal parallax
+    double IllumFraction = 0.0; // k
+    double BrightLimb = 0.0;    // chi, the position angle of the bright limb, [0, 2pi)
+    double Alpha = 0.0;         // right ascension, [0, 2pi)
+    double Delta = 0.0;         // declination
+    double Elongation = 0.0;    // psi, from the Sun
 };
 
 class Astronomy {
@@ -39,14 +62,11 @@ public:
         double Alpha = 0.0; // right ascension, [0, 2pi)
         double Delta = 0.0; // declination
     };
-    // Left by the last EclipticToEquatorial.
-    Equatorial EquatorialResult;
 
     // Mean obliquity of the ecliptic in radians (Laskar, Meeus eq. 22.3).
     double MeanObliquity(double jd) const;
-    // Ecliptic longitude and latitude to equatorial (Meeus eqs. 13.3, 13.4); sets
-    // EquatorialResult.
-    void EclipticToEquatorial(double lambda, double beta, double epsilon);
+    // Ecliptic longitude and latitude to equatorial (Meeus eqs. 13.3, 13.4).
+    static Equatorial EclipticToEquatorial(double lambda, double beta, double epsilon);
 
     // ---- nutation and the horizon (Meeus ch. 13, 14, 22, 48) ----
     double NutationLongitude = 0.0; // delta psi, radians
@@ -63,41 +83,23 @@ public:
                                double longitudeDeg);
 
     // ---- the Sun (Meeus ch. 25 with VSOP87) and the Moon (Meeus ch. 47, 48) ----
-    // Results of the position routines and the event search; see each routine.
-    std::array<double, 20> PositionResult{};
-    EclipticPoint SunEcliptic;
-    Equatorial SunEquatorial;
-
-    // Apparent lambda, beta, R, alpha, delta of the Sun in PositionResult[0..4].
-    void SunPosition(double jd);
-    // Geometric longitude and distance of the Sun, low precision, in SunEcliptic.
-    void SunLowPrecision(double jd);
-    // The Moon: lambda, beta, distance (km), parallax, illuminated fraction, bright limb in
-    // PositionResult[0..5]; alpha, delta, elongation in [7..9].
-    void MoonPosition(double jd);
+    // Each leaves the nutation and the obliquity of jd in force.
+    SunPlace SunPosition(double jd);
+    MoonPlace MoonPosition(double jd);
+    // Geometric longitude and distance of the Sun, low precision (Meeus's Astronomical
+    // Formulae for Calculators).
+    static EclipticPoint SunLowPrecision(double jd);
 
     // ---- rising, transit and setting (Meeus ch. 15) ----
-    // Inputs of FindEvents, set by the drivers: 0h UT of the day, the place (degrees, west and
-    // north positive), the body's apparent RA and declination at 0h of days -1, 0, +1 (entries
-    // 1..3), the altitude of the event, and the hours that turn local clock time into UT.
-    double EventDayJD = 0.0;
-    double EventLongitude = 0.0;
-    double EventLatitude = 0.0;
-    std::array<double, 4> EventRA{};
-    std::array<double, 4> EventDec{};
-    double EventAltitude = 0.0;
-    double EventZoneHours = 0.0;
-    // 0 crosses the altitude during the day, 1 stays above it, -1 stays below.
-    std::int16_t AboveHorizonState = 0;
+    // Local clock hours of the Moon's events, as left by the last MoonEventsForDay.
     double MoonRiseHour = 0.0, MoonTransitHour = 0.0, MoonSetHour = 0.0;
 
-    // Transit, rise and set in PositionResult[0..2] (hours UT from EventDayJD), transit
-    // altitude and azimuths in [3..5], statuses 0 (in the local day) or 2 in [9..11].
-    void FindEvents();
+    // The Moon's events of the local day of jd in Forecast.MoonEvents.
     void MoonEventsForDay(double jd);
     // Whether the Moon's lower transit falls in the local day of jd (the day of the second
-    // major period); overwrites the search's results.
+    // major period).
     bool MoonLowerTransitInDay(double jd);
+    // The Sun's events of the local day of jd in Forecast.SunEvents.
     void SunEventsForDay(double jd);
 
     // ---- the day forecast ----
@@ -110,10 +112,11 @@ public:
     void SetPeriods(double T);
 
     // ---- the year's events, local clock Julian days ----
+    // Each list is in the order of its event codes in the year day table (code = index + 1).
     std::array<double, 4> PhaseTimes{};       // new, first quarter, full, last quarter
     std::array<double, 2> PerigeeTimes{};     // perigee, the apogee after it
-    std::array<double, 3> DeclinationTimes{}; // [1] greatest north, [2] greatest south
-    std::array<double, 5> SeasonTimes{};      // [1..4] equinoxes and solstices, dynamical time
+    std::array<double, 2> DeclinationTimes{}; // greatest north, greatest south
+    std::array<double, 4> SeasonTimes{};      // March equinox .. December solstice, dynamical time
     std::array<double, 2> EarthApsisTimes{};  // the Earth's perihelion and aphelion
     // Each takes the cycle number k of its chapter (whole k: the cycle's first event).
     void MoonPhases(double k);
@@ -124,11 +127,26 @@ public:
     void EarthApsides(int year);
 
 private:
+    // What one rise/transit/set search needs: 0h UT of the day, the place (degrees, west and
+    // north positive), the body's apparent place at 0h of the days before, of and after the
+    // day, the altitude h0 of its events, and the hours that turn local clock time into UT.
+    struct EventSearch {
+        double J0 = 0.0;
+        double Longitude = 0.0;
+        double Latitude = 0.0;
+        Equatorial Yesterday{}, Today{}, Tomorrow{};
+        double Altitude = 0.0;
+        double ZoneHours = 0.0;
+    };
+    // Times in hours UT from J0, statuses for the local day that starts at J0 on the clock.
+    RiseTransitSet FindEvents(const EventSearch& s);
+
     // Positions at 0h of recent days for the event drivers: consecutive days share two of their
     // three, so walking the days computes one new position of each body per day.
     struct DayPosition {
         double JD = 0.0; // 0 marks an empty entry
-        double Alpha = 0.0, Delta = 0.0, Parallax = 0.0;
+        Equatorial Place;
+        double Parallax = 0.0;
     };
     struct DayPositionCache {
         std::array<DayPosition, 4> Entries{};
@@ -138,11 +156,12 @@ private:
     const DayPosition& SunAtDay(double jd);
     const DayPosition& MoonAtDay(double jd);
 
+    double ClockZoneHours() const;
     double LocalHours(double utHours) const;
+    RiseTransitSet InLocalClock(RiseTransitSet e) const;
     double ChosenInstant(double jd) const;
-    void PrepareEventSearch(double J0, double altitude, double zoneHours);
-    void SearchMoonEvents(double J0);
-    void SettleMoonEventsAtMidnight(double J0);
+    EventSearch MoonSearch(double J0);
+    void SettleMoonEventsAtMidnight(double J0, RiseTransitSet& today);
     std::string Clock(double hours) const;
 
     // Local hour angle and latitude shared by the horizon and parallactic conversions.

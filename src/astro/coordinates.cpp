@@ -21,7 +21,7 @@ double Astronomy::MeanObliquity(double jd) const
     return eps0 * ArcsecToRad;
 }
 
-void Astronomy::EclipticToEquatorial(double lambda, double beta, double epsilon)
+Astronomy::Equatorial Astronomy::EclipticToEquatorial(double lambda, double beta, double epsilon)
 {
     const double y = std::sin(lambda) * std::cos(epsilon) - std::tan(beta) * std::sin(epsilon);
     const double x = std::cos(lambda);
@@ -35,7 +35,6 @@ void Astronomy::EclipticToEquatorial(double lambda, double beta, double epsilon)
         else if (y < 0.0)
             alpha += TwoPi;
     }
-    EquatorialResult.Alpha = alpha;
-    EquatorialResult.Delta = ArcSin(std::sin(beta) * std::cos(epsilon) +
-                                    std::cos(beta) * std::sin(epsilon) * std::sin(lambda));
+    return {alpha, ArcSin(std::sin(beta) * std::cos(epsilon) +
+                          std::cos(beta) * std::sin(epsilon) * std::sin(lambda))};
 }

@@ -3,6 +3,7 @@
 #include "astro/astronomy.h"
 #include "astro/mathutil.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -10,6 +11,19 @@ namespace {
 constexpr double MoonRefraction = 0.009948376736367668;
 // h0 for sunrise and sunset: -50 arcminutes.
 constexpr double SunriseAltitude = -0.01454440461552189;
+
+// The three events of a search's result, for the code that treats them alike.
+struct EventFields {
+    double RiseTransitSet::*Time;
+    double RiseTransitSet::*Angle; // the transit's altitude, a rise's or a set's azimuth
+    EventFlag RiseTransitSet::*Flag;
+    bool OnlyWhenCrossing; // searched for only when the body crosses the altitude
+};
+constexpr std::array<EventFields, 3> Events = {
+    {{&RiseTransitSet::TransitTime, &RiseTransitSet::TransitAltitude, &RiseTransitSet::TransitFlag,
+      false},
+     {&RiseTransitSet::RiseTime, &RiseTransitSet::RiseAzimuth, &RiseTransitSet::RiseFlag, true},
+     {&RiseTransitSet::SetTime, &RiseTransitSet::SetAzimuth, &RiseTransitSet::SetFlag, true}}};
 
 // The cached entry for jd, or a fresh one filled by compute in place of the oldest.
 template <typename Cache, typename Compute>
@@ -29,140 +43,115 @@ const auto& Cached(Cache& cache, double jd, Compute compute)
 const Astronomy::DayPosition& Astronomy::SunAtDay(double jd)
 {
     return Cached(SunDays, jd, [&](DayPosition& e) {
-        SunPosition(jd);
-        e.Alpha = PositionResult[3];
-        e.Delta = PositionResult[4];
+        const SunPlace sun = SunPosition(jd);
+        e.Place = {sun.Alpha, sun.Delta};
     });
 }
 
 const Astronomy::DayPosition& Astronomy::MoonAtDay(double jd)
 {
     return Cached(MoonDays, jd, [&](DayPosition& e) {
-        MoonPosition(jd);
-        e.Alpha = PositionResult[7];
-        e.Delta = PositionResult[8];
-        e.Parallax = PositionResult[3];
+        const MoonPlace moon = MoonPosition(jd);
+        e.Place = {moon.Alpha, moon.Delta};
+        e.Parallax = moon.Parallax;
     });
 }
+
+// The hours that turn the local clock time into UT: the zone and daylight saving.
+double Astronomy::ClockZoneHours() const { return Site.CurTimeZone + 24.0 * Site.DstOffsetDays; }
 
 double Astronomy::LocalHours(double utHours) const
 {
     return WrapInto(utHours - 24.0 * (Site.ZoneDays + Site.DstOffsetDays), 24.0);
 }
 
-void Astronomy::PrepareEventSearch(double J0, double altitude, double zoneHours)
+RiseTransitSet Astronomy::InLocalClock(RiseTransitSet e) const
 {
-    EventDayJD = J0;
-    EventLongitude = Site.CurLongitude;
-    EventLatitude = Site.CurLatitude;
-    EventAltitude = altitude;
-    EventZoneHours = zoneHours;
+    e.RiseTime = LocalHours(e.RiseTime);
+    e.TransitTime = LocalHours(e.TransitTime);
+    e.SetTime = LocalHours(e.SetTime);
+    return e;
 }
 
-void Astronomy::SearchMoonEvents(double J0)
+Astronomy::EventSearch Astronomy::MoonSearch(double J0)
 {
-    double parallax = 0.0;
-    for (int i = 1; i <= 3; ++i) {
-        const DayPosition& p = MoonAtDay(J0 + i - 2);
-        EventRA[std::size_t(i)] = p.Alpha;
-        EventDec[std::size_t(i)] = p.Delta;
-        if (i == 2)
-            parallax = p.Parallax;
-    }
-    PrepareEventSearch(J0, 0.7275 * parallax - MoonRefraction,
-                       Site.CurTimeZone + 24.0 * Site.DstOffsetDays);
-    FindEvents();
+    const Equatorial yesterday = MoonAtDay(J0 - 1.0).Place;
+    const DayPosition today = MoonAtDay(J0); // a copy: the next day may take its cache entry
+    const Equatorial tomorrow = MoonAtDay(J0 + 1.0).Place;
+    return {.J0 = J0,
+            .Longitude = Site.CurLongitude,
+            .Latitude = Site.CurLatitude,
+            .Yesterday = yesterday,
+            .Today = today.Place,
+            .Tomorrow = tomorrow,
+            .Altitude = 0.7275 * today.Parallax - MoonRefraction,
+            .ZoneHours = ClockZoneHours()};
 }
 
 // Each day's search interpolates its own three days of positions, so two neighbouring days
 // can disagree by seconds on which side of their common midnight an event falls, and then
 // both or neither would report it. An event that close to the end of the day is taken as the
 // next day's search finds it: the day it falls in by that search reports it, the other not.
-void Astronomy::SettleMoonEventsAtMidnight(double J0)
+void Astronomy::SettleMoonEventsAtMidnight(double J0, RiseTransitSet& today)
 {
-    const double Z = EventZoneHours / 24.0;
+    const double Z = ClockZoneHours() / 24.0;
     // Rise and set are events only where the search refined them (the Moon crosses h0).
-    const auto nearEnd = [&](std::size_t k) {
-        return (k == 0 || AboveHorizonState == 0) &&
-               std::fabs(PositionResult[k] / 24.0 - Z - 1.0) < 2.0 * EventTolerance;
+    const auto searched = [](const RiseTransitSet& r, const EventFields& e) {
+        return !e.OnlyWhenCrossing || r.AboveHorizonState == HorizonState::Crosses;
     };
-    if (!nearEnd(0) && !nearEnd(1) && !nearEnd(2))
+    const auto nearEnd = [&](const EventFields& e) {
+        return searched(today, e) &&
+               std::fabs(today.*e.Time / 24.0 - Z - 1.0) < 2.0 * EventTolerance;
+    };
+    if (std::none_of(Events.begin(), Events.end(), nearEnd))
         return;
-    const std::array<double, 20> today = PositionResult;
-    const std::int16_t state = AboveHorizonState;
-    SearchMoonEvents(J0 + 1.0);
-    const std::array<double, 20> next = PositionResult;
-    const bool nextCrosses = AboveHorizonState == 0;
-    PositionResult = today;
-    AboveHorizonState = state;
-    for (std::size_t k = 0; k < 3; ++k) {
-        const double d = next[k] / 24.0 - Z; // from the start of the next day
-        if (!nearEnd(k) || (k != 0 && !nextCrosses) || std::fabs(d) >= 2.0 * EventTolerance)
+    const RiseTransitSet next = FindEvents(MoonSearch(J0 + 1.0));
+    for (const EventFields& e : Events) {
+        const double d = next.*e.Time / 24.0 - Z; // from the start of the next day
+        if (!nearEnd(e) || !searched(next, e) || std::fabs(d) >= 2.0 * EventTolerance)
             continue;
-        PositionResult[k] = next[k] + 24.0;
-        PositionResult[3 + k] = next[3 + k];
-        PositionResult[9 + k] = d < 0.0 ? 0.0 : 2.0;
+        today.*e.Time = next.*e.Time + 24.0;
+        today.*e.Angle = next.*e.Angle;
+        today.*e.Flag = d < 0.0 ? EventFlag::InDay : EventFlag::OtherDay;
     }
 }
 
 void Astronomy::MoonEventsForDay(double jd)
 {
     const double J0 = JulianDay0(jd);
-    SearchMoonEvents(J0);
-    SettleMoonEventsAtMidnight(J0);
-    MoonRiseHour = LocalHours(PositionResult[1]);
-    MoonTransitHour = LocalHours(PositionResult[0]);
-    MoonSetHour = LocalHours(PositionResult[2]);
+    RiseTransitSet found = FindEvents(MoonSearch(J0));
+    SettleMoonEventsAtMidnight(J0, found);
     MoonEventRecord& e = Forecast.MoonEvents;
-    e.RiseTime = MoonRiseHour;
-    e.TransitTime = MoonTransitHour;
-    e.SetTime = MoonSetHour;
-    e.RiseAzimuth = PositionResult[4];
-    e.TransitAltitude = PositionResult[3];
-    e.SetAzimuth = PositionResult[5];
-    e.RiseFlag = static_cast<std::int16_t>(PositionResult[10]);
-    e.TransitFlag = static_cast<std::int16_t>(PositionResult[9]);
-    e.SetFlag = static_cast<std::int16_t>(PositionResult[11]);
-    e.AboveHorizonState = AboveHorizonState;
+    e = InLocalClock(found);
+    MoonRiseHour = e.RiseTime;
+    MoonTransitHour = e.TransitTime;
+    MoonSetHour = e.SetTime;
 }
 
 // The lower transit is the upper transit seen from the opposite meridian: the same search with
 // the longitude turned by 180 degrees.
 bool Astronomy::MoonLowerTransitInDay(double jd)
 {
-    SearchMoonEvents(JulianDay0(jd));
-    EventLongitude += EventLongitude > 0.0 ? -180.0 : 180.0;
-    FindEvents();
-    return PositionResult[9] == 0.0;
+    EventSearch s = MoonSearch(JulianDay0(jd));
+    s.Longitude += s.Longitude > 0.0 ? -180.0 : 180.0;
+    return FindEvents(s).TransitFlag == EventFlag::InDay;
 }
 
 void Astronomy::SunEventsForDay(double jd)
 {
     const double J0 = JulianDay0(jd);
-    for (int i = 1; i <= 3; ++i) {
-        const DayPosition& p = SunAtDay(J0 + i - 2);
-        EventRA[std::size_t(i)] = p.Alpha;
-        EventDec[std::size_t(i)] = p.Delta;
-    }
-    SunEventTable& s = Forecast.SunEvents;
-    for (int r = 0; r <= 3; ++r) {
+    EventSearch s{.J0 = J0,
+                  .Longitude = Site.CurLongitude,
+                  .Latitude = Site.CurLatitude,
+                  .Yesterday = SunAtDay(J0 - 1.0).Place,
+                  .Today = SunAtDay(J0).Place,
+                  .Tomorrow = SunAtDay(J0 + 1.0).Place};
+    for (SunRow r : SunRows) {
         // Twilights decide the local day with the standard zone.
-        const bool clockDay = r == 0 || Site.TwilightsInClockDay;
-        const double zone =
-            clockDay ? Site.CurTimeZone + 24.0 * Site.DstOffsetDays : Site.CurTimeZone;
-        PrepareEventSearch(J0, r == 0 ? SunriseAltitude : -6.0 * r * DegToRad, zone);
-        FindEvents();
-        s(r, 0) = LocalHours(PositionResult[1]);
-        s(r, 1) = LocalHours(PositionResult[0]);
-        s(r, 2) = LocalHours(PositionResult[2]);
-        Forecast.SunStatus[std::size_t(r)] = {static_cast<std::int16_t>(PositionResult[10]),
-                                              static_cast<std::int16_t>(PositionResult[9]),
-                                              static_cast<std::int16_t>(PositionResult[11]),
-                                              AboveHorizonState};
-        if (r == 0) {
-            s(0, 3) = PositionResult[4];
-            s(0, 4) = PositionResult[3];
-            s(0, 5) = PositionResult[5];
-        }
+        const bool clockDay = r == SunRow::Horizon || Site.TwilightsInClockDay;
+        s.ZoneHours = clockDay ? ClockZoneHours() : Site.CurTimeZone;
+        // Each twilight row lies 6 degrees below the one before.
+        s.Altitude = r == SunRow::Horizon ? SunriseAltitude : -6.0 * int(r) * DegToRad;
+        Forecast.SunEvents[r] = InLocalClock(FindEvents(s));
     }
 }

@@ -18,16 +18,17 @@ void Astronomy::ComputeSunDay(double jd)
 {
     DayForecast& f = Forecast;
     SunEventsForDay(jd);
-    f.SunriseText = Clock(f.SunEvents(0, 0));
-    f.SunsetText = Clock(f.SunEvents(0, 2));
-    f.DayLength = f.SunEvents(0, 2) - f.SunEvents(0, 0);
+    const RiseTransitSet& sun = f.SunEvents.Horizon;
+    f.SunriseText = Clock(sun.RiseTime);
+    f.SunsetText = Clock(sun.SetTime);
+    f.DayLength = sun.SetTime - sun.RiseTime;
 
     const double t = ChosenInstant(jd);
-    SunPosition(t);
-    const double alpha = PositionResult[3], delta = PositionResult[4];
-    const Horizontal sky = HorizontalPosition(t, alpha, delta, Site.CurLatitude, Site.CurLongitude);
-    f.SkyPosition[0] = sky.Azimuth;
-    f.SkyPosition[2] = sky.Altitude;
+    const SunPlace place = SunPosition(t);
+    const Horizontal sky =
+        HorizontalPosition(t, place.Alpha, place.Delta, Site.CurLatitude, Site.CurLongitude);
+    f.SkyPosition.SunAzimuth = sky.Azimuth;
+    f.SkyPosition.SunAltitude = sky.Altitude;
 }
 
 void Astronomy::ComputeDay(double jd)
@@ -35,7 +36,7 @@ void Astronomy::ComputeDay(double jd)
     DayForecast& f = Forecast;
     MoonEventsForDay(jd);
     double T = MoonTransitHour;
-    if (f.MoonEvents.TransitFlag != 0) {
+    if (f.MoonEvents.TransitFlag != EventFlag::InDay) {
         // No transit of its own: the mean of the neighbouring days' transits.
         const MoonEventRecord today = f.MoonEvents;
         MoonEventsForDay(jd - 1.0);
@@ -53,16 +54,16 @@ void Astronomy::ComputeDay(double jd)
     SetPeriods(T);
 
     const double now = ChosenInstant(jd);
-    MoonPosition(now);
-    f.IllumFraction = PositionResult[4];
-    f.BrightLimbAngle = PositionResult[5];
+    const MoonPlace moon = MoonPosition(now);
+    f.IllumFraction = moon.IllumFraction;
+    f.BrightLimbAngle = moon.BrightLimb;
     f.Waxing = f.BrightLimbAngle > 3.14159265358979 ? 1 : 0;
     f.IllumPercent = IllumPercentOf(f.IllumFraction);
-    const double alpha = PositionResult[7], delta = PositionResult[8];
+    const double alpha = moon.Alpha, delta = moon.Delta;
     const double t = Site.TimeFormats == 2 ? now - 15.0 / 1440.0 : now;
     const Horizontal sky = HorizontalPosition(t, alpha, delta, Site.CurLatitude, Site.CurLongitude);
-    f.SkyPosition[1] = sky.Azimuth;
-    f.SkyPosition[3] = sky.Altitude;
+    f.SkyPosition.MoonAzimuth = sky.Azimuth;
+    f.SkyPosition.MoonAltitude = sky.Altitude;
     f.MoonParallacticAngle =
         ParallacticAngleNow(now, alpha, delta, Site.CurLatitude, Site.CurLongitude);
 }

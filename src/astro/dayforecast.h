@@ -4,13 +4,19 @@
 
 #include "astro/riseset.h"
 
-#include <array>
 #include <cstdint>
 #include <string>
 
+// Where the Sun and the Moon stand at the chosen hour (radians, azimuths from north).
+struct SkyAtHour {
+    double SunAzimuth = 0.0;
+    double MoonAzimuth = 0.0;
+    double SunAltitude = 0.0;
+    double MoonAltitude = 0.0;
+};
+
 struct DayForecast {
     SunEventTable SunEvents;
-    std::array<SunEventStatus, 4> SunStatus; // rows as in SunEvents
     std::string SunriseText;
     std::string SunsetText;
     double DayLength = 0.0;
@@ -29,7 +35,6 @@ struct DayForecast {
     double BrightLimbAngle = 0.0;
     std::int16_t Waxing = 0;
     std::int16_t IllumPercent = 0;
-    // 0 Sun azimuth, 1 Moon azimuth, 2 Sun altitude, 3 Moon altitude (radians).
-    std::array<double, 4> SkyPosition{};
+    SkyAtHour SkyPosition;
     double MoonParallacticAngle = 0.0;
 };

@@ -143,12 +143,12 @@ void Astronomy::PerigeeApogee(double k)
 
 void Astronomy::MaxDeclinations(double k)
 {
-    DeclinationTimes[1] = DeclinationJDE(k, true) - Site.ZoneDays - Site.DstOffsetDays;
-    DeclinationTimes[2] = DeclinationJDE(k, false) - Site.ZoneDays - Site.DstOffsetDays;
+    DeclinationTimes[0] = DeclinationJDE(k, true) - Site.ZoneDays - Site.DstOffsetDays;
+    DeclinationTimes[1] = DeclinationJDE(k, false) - Site.ZoneDays - Site.DstOffsetDays;
 }
 
 void Astronomy::Seasons(double year)
 {
     for (int s = 1; s <= 4; ++s)
-        SeasonTimes[std::size_t(s)] = SeasonJDE(int(year), s);
+        SeasonTimes[std::size_t(s - 1)] = SeasonJDE(int(year), s);
 }

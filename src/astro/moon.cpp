@@ -35,7 +35,7 @@ double Radians(const std::array<double, 5>& c, double T)
 double EFactor(int m, double E) { return m == 0 ? 1.0 : (m == 1 || m == -1) ? E : E * E; }
 } // namespace
 
-void Astronomy::MoonPosition(double jd)
+MoonPlace Astronomy::MoonPosition(double jd)
 {
     const double T = CenturiesSinceJ2000(jd);
     const double L1 = Radians(Lp, T), D = Radians(Dm, T), M = Radians(Ms, T);
@@ -64,28 +64,26 @@ void Astronomy::MoonPosition(double jd)
     const double lambda = WrapInto(L1 + sl * DegToRad + NutationLongitude, TwoPi);
     const double beta = sb * DegToRad;
     const double Delta = 385000.56 + sr;
-    EclipticToEquatorial(lambda, beta, epsilon);
-    const Equatorial moon = EquatorialResult;
+    const Equatorial moon = EclipticToEquatorial(lambda, beta, epsilon);
 
-    SunLowPrecision(jd);
-    const double lambda0 = WrapInto(SunEcliptic.Longitude + NutationLongitude, TwoPi);
-    const double R = SunEcliptic.Distance;
-    EclipticToEquatorial(lambda0, 0.0, epsilon);
-    SunEquatorial = EquatorialResult;
+    const EclipticPoint sun = SunLowPrecision(jd);
+    const double lambda0 = WrapInto(sun.Longitude + NutationLongitude, TwoPi);
+    const double R = sun.Distance;
+    const Equatorial sun0 = EclipticToEquatorial(lambda0, 0.0, epsilon);
 
     const double psi = ArcCos(std::cos(beta) * std::cos(lambda - lambda0));
     const double i =
         WrapInto(std::atan(R * std::sin(psi) / (Delta / AuKm - R * std::cos(psi))), Pi);
 
-    PositionResult[0] = lambda;
-    PositionResult[1] = beta;
-    PositionResult[2] = Delta;
-    PositionResult[3] = ArcSin(EarthRadiusKm / Delta);
-    PositionResult[4] = (1.0 + std::cos(i)) / 2.0;
-    PositionResult[5] = WrapInto(
-        BrightLimbAngle(moon.Alpha, moon.Delta, SunEquatorial.Alpha, SunEquatorial.Delta), TwoPi);
-    PositionResult[7] = moon.Alpha;
-    PositionResult[8] = moon.Delta;
-    PositionResult[9] = psi;
-    EquatorialResult = moon;
+    MoonPlace p;
+    p.Lambda = lambda;
+    p.Beta = beta;
+    p.Distance = Delta;
+    p.Parallax = ArcSin(EarthRadiusKm / Delta);
+    p.IllumFraction = (1.0 + std::cos(i)) / 2.0;
+    p.BrightLimb = WrapInto(BrightLimbAngle(moon.Alpha, moon.Delta, sun0.Alpha, sun0.Delta), TwoPi);
+    p.Alpha = moon.Alpha;
+    p.Delta = moon.Delta;
+    p.Elongation = psi;
+    return p;
 }

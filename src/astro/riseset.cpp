@@ -39,37 +39,38 @@ double HorizonAzimuth(double delta, double phi, double h0, bool setting)
 }
 } // namespace
 
-void Astronomy::FindEvents()
+RiseTransitSet Astronomy::FindEvents(const EventSearch& s)
 {
-    const double L = EventLongitude * DegToRad;
-    const double phi = EventLatitude * DegToRad;
-    const double dT = DeltaTSeconds(EventDayJD);
-    const double Z = EventZoneHours / 24.0;
-    double a1 = EventRA[1], a3 = EventRA[3];
-    const double a2 = EventRA[2];
+    const double L = s.Longitude * DegToRad;
+    const double phi = s.Latitude * DegToRad;
+    const double dT = DeltaTSeconds(s.J0);
+    const double Z = s.ZoneHours / 24.0;
+    double a1 = s.Yesterday.Alpha, a3 = s.Tomorrow.Alpha;
+    const double a2 = s.Today.Alpha;
     if (a1 > a2)
         a1 -= TwoPi;
     if (a3 < a2)
         a3 += TwoPi;
-    const double d2 = EventDec[2];
-    const double h0 = EventAltitude;
-    const double Theta0 = GreenwichSiderealHours(EventDayJD) * 15.0 * DegToRad;
+    const double d1 = s.Yesterday.Delta, d2 = s.Today.Delta, d3 = s.Tomorrow.Delta;
+    const double h0 = s.Altitude;
+    const double Theta0 = GreenwichSiderealHours(s.J0) * 15.0 * DegToRad;
     const double cosH0 =
         (std::sin(h0) - std::sin(phi) * std::sin(d2)) / (std::cos(phi) * std::cos(d2));
 
+    RiseTransitSet found;
     double m0 = IntoLocalDay((a2 + L - Theta0) / TwoPi, Z);
     std::array<double, 3> m{m0, m0, m0};
     if (std::fabs(cosH0) <= 1.0) {
         const double H0 = WrapInto(ArcCos(cosH0), Pi);
         m[1] = m0 - H0 / TwoPi;
         m[2] = m0 + H0 / TwoPi;
-        AboveHorizonState = 0;
+        found.AboveHorizonState = HorizonState::Crosses;
     } else if (cosH0 < -1.0) {
         m[1] = m0 - 0.5;
         m[2] = m0 + 0.5;
-        AboveHorizonState = 1;
+        found.AboveHorizonState = HorizonState::StaysAbove;
     } else {
-        AboveHorizonState = -1;
+        found.AboveHorizonState = HorizonState::StaysBelow;
     }
     if (m[1] < 0)
         m[1] += 1.0;
@@ -88,7 +89,7 @@ void Astronomy::FindEvents()
             const double n = mk + dT / 86400.0;
             const double alpha = Interpolate3(a1, a2, a3, n);
             if (k != 0)
-                delta = Interpolate3(EventDec[1], d2, EventDec[3], n);
+                delta = Interpolate3(d1, d2, d3, n);
             H = theta - L - alpha;
             if (H < -Pi)
                 H += TwoPi;
@@ -108,31 +109,38 @@ void Astronomy::FindEvents()
         }
         return Refinement{mk, H, delta};
     };
-    const std::size_t events = AboveHorizonState == 0 ? 3 : 1;
-    for (std::size_t k = 0; k < 3; ++k) {
-        // Rise and set that are not searched for have no extras, never a previous search's.
-        PositionResult[3 + k] = 0.0;
-        PositionResult[9 + k] = 2.0;
-    }
-    for (std::size_t k = 0; k < events; ++k) {
+    // The event k as found from its estimate. An estimate near midnight can walk out of the
+    // day; the day's own event is then the one refined from the estimate a day the other way.
+    const auto Find = [&](std::size_t k) {
         const double first = IntoLocalDay(m[k], Z);
-        Refinement r = Refine(k, first);
-        // An estimate near midnight can walk out of the day; the day's own event is then the
-        // one refined from the estimate a day the other way.
+        const Refinement r = Refine(k, first);
         if (!InLocalDay(r.m, Z)) {
             const Refinement other = Refine(k, first + (r.m - Z >= 1.0 ? -1.0 : 1.0));
             if (InLocalDay(other.m, Z))
-                r = other;
+                return other;
         }
-        m[k] = r.m;
-        PositionResult[9 + k] = InLocalDay(r.m, Z) ? 0.0 : 2.0;
-        // The extras belong to the event found, in the day or not.
-        if (k == 0)
-            PositionResult[3] =
-                ArcSin(std::sin(d2) * std::sin(phi) + std::cos(d2) * std::cos(phi) * std::cos(r.H));
-        else
-            PositionResult[3 + k] = HorizonAzimuth(r.delta, phi, h0, k == 2);
-    }
-    for (std::size_t k = 0; k < 3; ++k)
-        PositionResult[k] = 24.0 * m[k];
+        return r;
+    };
+    const auto Flag = [&](const Refinement& r) {
+        return InLocalDay(r.m, Z) ? EventFlag::InDay : EventFlag::OtherDay;
+    };
+
+    // Where the body stands belongs to the event found, in the day or not.
+    const Refinement transit = Find(0);
+    found.TransitTime = 24.0 * transit.m;
+    found.TransitAltitude =
+        ArcSin(std::sin(d2) * std::sin(phi) + std::cos(d2) * std::cos(phi) * std::cos(transit.H));
+    found.TransitFlag = Flag(transit);
+    found.RiseTime = 24.0 * m[1];
+    found.SetTime = 24.0 * m[2];
+    if (found.AboveHorizonState != HorizonState::Crosses)
+        return found;
+    const Refinement rise = Find(1), set = Find(2);
+    found.RiseTime = 24.0 * rise.m;
+    found.RiseAzimuth = HorizonAzimuth(rise.delta, phi, h0, false);
+    found.RiseFlag = Flag(rise);
+    found.SetTime = 24.0 * set.m;
+    found.SetAzimuth = HorizonAzimuth(set.delta, phi, h0, true);
+    found.SetFlag = Flag(set);
+    return found;
 }

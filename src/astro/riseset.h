@@ -2,40 +2,56 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
+#include <cstddef>
 
 // The event search stops when a correction falls below this many days (8.6 seconds).
 constexpr double EventTolerance = 0.0001;
 
-// The Moon's events of one local day: local clock hours in [0, 24), radians, and the
-// statuses 0 (the event falls in the local day) or 2 (it does not).
-struct MoonEventRecord {
+// Whether an event the search found falls in the local day asked for.
+enum class EventFlag { InDay, OtherDay };
+
+// How a body stands to the altitude of its events through the day.
+enum class HorizonState { Crosses, StaysAbove, StaysBelow };
+
+// A body's rise, transit and set at one altitude: their times in hours, where the body stands
+// at each (radians), and whether each falls in the day. Rise and set are searched for only
+// when the body crosses the altitude; otherwise they lie half a day either side of the
+// transit's first estimate, with no azimuths.
+struct RiseTransitSet {
     double RiseTime = 0.0;
     double TransitTime = 0.0;
     double SetTime = 0.0;
     double RiseAzimuth = 0.0;
     double TransitAltitude = 0.0;
     double SetAzimuth = 0.0;
-    std::int16_t RiseFlag = 2;
-    std::int16_t TransitFlag = 2;
-    std::int16_t SetFlag = 2;
-    std::int16_t AboveHorizonState = 0;
+    EventFlag RiseFlag = EventFlag::OtherDay;
+    EventFlag TransitFlag = EventFlag::OtherDay;
+    EventFlag SetFlag = EventFlag::OtherDay;
+    HorizonState AboveHorizonState = HorizonState::Crosses;
 };
 
-// Sunrise/sunset and the three twilights: [row 0..3, column 0..5] stored row-fastest, so
-// element [r, c] sits at r + 4c (sunrise 0, dawns 1-3, sunset 8, dusks 9-11).
+// The Moon's events of one local day, in local clock hours [0, 24).
+using MoonEventRecord = RiseTransitSet;
+
+// The rows of the Sun's table, from the horizon down: sunrise and sunset, then the dawn and
+// dusk of the civil, nautical and astronomical twilights.
+enum class SunRow { Horizon, Civil, Nautical, Astronomical };
+constexpr std::array<SunRow, 4> SunRows = {SunRow::Horizon, SunRow::Civil, SunRow::Nautical,
+                                           SunRow::Astronomical};
+
+// The Sun's events of one local day in local clock hours [0, 24): Horizon holds sunrise, the
+// Sun's transit and sunset with the sunrise and sunset azimuths and the transit altitude.
 struct SunEventTable {
-    std::array<double, 24> Values{};
-    double& operator()(int r, int c) { return Values[std::size_t(r + 4 * c)]; }
-    double operator()(int r, int c) const { return Values[std::size_t(r + 4 * c)]; }
-};
+    RiseTransitSet Horizon;
+    RiseTransitSet Civil;
+    RiseTransitSet Nautical;
+    RiseTransitSet Astronomical;
 
-// Whether each row of the Sun's table happens in the local day: the statuses of its rise,
-// transit and set (0 or 2, as for the Moon) and whether the Sun crosses the row's altitude (0),
-// stays above it (1) or stays below it (-1) all day.
-struct SunEventStatus {
-    std::int16_t RiseFlag = 2;
-    std::int16_t TransitFlag = 2;
-    std::int16_t SetFlag = 2;
-    std::int16_t AboveHorizonState = 0;
+    const RiseTransitSet& operator[](SunRow r) const { return this->*Rows[std::size_t(r)]; }
+    RiseTransitSet& operator[](SunRow r) { return this->*Rows[std::size_t(r)]; }
+
+private:
+    static constexpr std::array<RiseTransitSet SunEventTable::*, 4> Rows = {
+        &SunEventTable::Horizon, &SunEventTable::Civil, &SunEventTable::Nautical,
+        &SunEventTable::Astronomical};
 };

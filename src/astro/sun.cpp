@@ -29,7 +29,7 @@ double EarthSunDistance(double jde)
                          tau * (Series(Vsop87EarthR3, tau) + tau * Series(Vsop87EarthR4, tau))));
 }
 
-void Astronomy::SunPosition(double jd)
+SunPlace Astronomy::SunPosition(double jd)
 {
     const double tau = MillenniaSinceJ2000(jd);
     const double L =
@@ -53,17 +53,11 @@ void Astronomy::SunPosition(double jd)
     Obliquity = epsilon;
     const double aberration = 20.4898 * ArcsecToRad / R;
     const double lambda = WrapInto(Theta + NutationLongitude - aberration, TwoPi);
-    EclipticToEquatorial(lambda, beta, epsilon);
-
-    SunEcliptic = {lambda, beta, R};
-    PositionResult[0] = lambda;
-    PositionResult[1] = beta;
-    PositionResult[2] = R;
-    PositionResult[3] = EquatorialResult.Alpha;
-    PositionResult[4] = EquatorialResult.Delta;
+    const Equatorial place = EclipticToEquatorial(lambda, beta, epsilon);
+    return {lambda, beta, R, place.Alpha, place.Delta};
 }
 
-void Astronomy::SunLowPrecision(double jd)
+EclipticPoint Astronomy::SunLowPrecision(double jd)
 {
     const double T = (jd - 2415020.0) / 36525.0;
     const double L = 279.69668 + 360.0 * Frac(100.0021359 * T) + 0.0003025 * T * T;
@@ -93,5 +87,5 @@ void Astronomy::SunLowPrecision(double jd)
                              0.00179 * std::sin(D) + 0.00178 * std::sin(Ep);
     R += 0.00000543 * std::sin(A) + 0.00001575 * std::sin(Bp) + 0.00001627 * std::sin(C) +
          0.00003076 * std::cos(D) + 0.00000927 * std::sin(H);
-    SunEcliptic = {longitude * DegToRad, 0.0, R};
+    return {longitude * DegToRad, 0.0, R};
 }

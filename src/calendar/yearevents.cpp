@@ -65,11 +65,11 @@ void SetYearEvents(Calendar& cal, Astronomy& engine, std::int16_t southernHemisp
     });
 
     engine.Seasons(cal.CurYear);
-    for (std::size_t s = 1; s <= 4; ++s)
-        if (DayMarks* r = w.DayOf(engine.SeasonTimes[s])) {
-            r->Season = std::int16_t(s);
-            r->SeasonJD = engine.SeasonTimes[s] + engine.Site.DstOffsetDays;
-            EventWriter::Caption(*r, SeasonCaptions[s - 1]);
+    for (std::size_t i = 0; i < 4; ++i)
+        if (DayMarks* r = w.DayOf(engine.SeasonTimes[i])) {
+            r->Season = std::int16_t(i + 1);
+            r->SeasonJD = engine.SeasonTimes[i] + engine.Site.DstOffsetDays;
+            EventWriter::Caption(*r, SeasonCaptions[i]);
         }
 
     engine.EarthApsides(cal.CurYear);
@@ -81,13 +81,13 @@ void SetYearEvents(Calendar& cal, Astronomy& engine, std::int16_t southernHemisp
 
     WalkCycles(FirstDeclinationCycle(before), after, [&](double k) {
         engine.MaxDeclinations(k);
-        for (std::size_t i = 1; i <= 2; ++i)
+        for (std::size_t i = 0; i < 2; ++i)
             if (DayMarks* r = w.DayWithinYear(engine.DeclinationTimes[i])) {
-                r->Declination = std::int16_t(i);
+                r->Declination = std::int16_t(i + 1);
                 r->DeclinationJD = engine.DeclinationTimes[i];
-                EventWriter::Caption(*r, DeclinationCaptions[i - 1]);
+                EventWriter::Caption(*r, DeclinationCaptions[i]);
             }
-        return engine.DeclinationTimes[1];
+        return engine.DeclinationTimes[0];
     });
 
     WalkCycles(FirstPhaseCycle(before), after, [&](double k) {

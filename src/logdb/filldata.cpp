@@ -55,17 +55,19 @@ FieldValues DayRecord(Astronomy& engine, const Calendar& cal, int d)
     engine.ComputeSunDay(J);
     const SunEventTable& sun = f.SunEvents;
     FieldValues record{{"JulianDate", Text(VbFormatDate(T, "mm/dd/yyyy"))},
-                       {"SunRise", Text(clock(sun(0, 0)))},
-                       {"SunSet", Text(clock(sun(0, 2)))}};
-    for (const auto& [row, column] :
-         {std::pair{1, "CivilTwilight"}, {2, "NauticalTwilight"}, {3, "AstronomicalTwilight"}})
-        record.emplace_back(column, Text(clock(sun(row, 0)) + "/" + clock(sun(row, 2))));
+                       {"SunRise", Text(clock(sun.Horizon.RiseTime))},
+                       {"SunSet", Text(clock(sun.Horizon.SetTime))}};
+    for (const auto& [row, column] : {std::pair{&sun.Civil, "CivilTwilight"},
+                                      {&sun.Nautical, "NauticalTwilight"},
+                                      {&sun.Astronomical, "AstronomicalTwilight"}})
+        record.emplace_back(column, Text(clock(row->RiseTime) + "/" + clock(row->SetTime)));
 
     engine.ComputeDay(J);
     const DayMarks& marks = cal.YearDays[std::size_t(d)];
     const FieldValues moon{
-        {"MoonRise", HourOrNone(f.MoonEvents.RiseTime, f.MoonEvents.RiseFlag == 2)},
-        {"MoonSet", HourOrNone(f.MoonEvents.SetTime, f.MoonEvents.SetFlag == 2)},
+        {"MoonRise",
+         HourOrNone(f.MoonEvents.RiseTime, f.MoonEvents.RiseFlag == EventFlag::OtherDay)},
+        {"MoonSet", HourOrNone(f.MoonEvents.SetTime, f.MoonEvents.SetFlag == EventFlag::OtherDay)},
         {"Major1", Text(clock(f.Major1))},
         {"Major2", Text(clock(f.Major2))},
         {"Minor1", HourOrNone(f.Minor1, f.Minor1 < 0)},
@@ -74,7 +76,7 @@ FieldValues DayRecord(Astronomy& engine, const Calendar& cal, int d)
         {"GraphicType", QVariant(marks.Rating)},
         {"MoonAge", QVariant(marks.MoonAge)},
         {"Waxing", QVariant(f.Waxing)},
-        {"DaylightHours", QVariant(sun(0, 2) - sun(0, 0))},
+        {"DaylightHours", QVariant(sun.Horizon.SetTime - sun.Horizon.RiseTime)},
         {"Month", Text(VbFormatDate(T, "m"))},
         {"DayOfWeek_", Text(VbFormatDate(T, "w"))},
         {"Perigee", QVariant(marks.Perigee)}};

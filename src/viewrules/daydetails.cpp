@@ -25,19 +25,19 @@ std::string EventClock(double jd, bool ampm)
 void SunLines(DetailLines& out, const SunEventTable& s, bool ampm)
 {
     const auto clock = [ampm](double h) { return FormatClock(0, h, ampm); };
-    out[5] = Pair(clock(s(1, 0)), clock(s(1, 2)));
-    out[6] = Pair(clock(s(2, 0)), clock(s(2, 2)));
-    out[7] = Pair(clock(s(3, 0)), clock(s(3, 2)));
-    out[8] = clock(s(0, 1));
-    out[17] = Pair(clock(s(0, 0)), clock(s(0, 2)));
-    out[14] = Pair(Degrees(s(0, 3)), Degrees(s(0, 5)));
-    out[13] = Degrees(s(0, 4));
+    out[5] = Pair(clock(s.Civil.RiseTime), clock(s.Civil.SetTime));
+    out[6] = Pair(clock(s.Nautical.RiseTime), clock(s.Nautical.SetTime));
+    out[7] = Pair(clock(s.Astronomical.RiseTime), clock(s.Astronomical.SetTime));
+    out[8] = clock(s.Horizon.TransitTime);
+    out[17] = Pair(clock(s.Horizon.RiseTime), clock(s.Horizon.SetTime));
+    out[14] = Pair(Degrees(s.Horizon.RiseAzimuth), Degrees(s.Horizon.SetAzimuth));
+    out[13] = Degrees(s.Horizon.TransitAltitude);
 }
 
 // An event of the Moon's day, or "*****" when it does not happen on this day.
-std::string MoonValue(std::int16_t flag, const std::string& value)
+std::string MoonValue(EventFlag flag, const std::string& value)
 {
-    return flag == 0 ? value : NoEvent;
+    return flag == EventFlag::InDay ? value : NoEvent;
 }
 
 // transitAltitude in degrees.

@@ -26,7 +26,7 @@ double Place(double hours) { return hours / 24.0 * TimeLineWidth; }
 // (sunrise, civil, nautical, astronomical): none when it never climbs that high, all day when
 // it never sinks that low, else from the dawn to the dusk, split at midnight when the dusk
 // of the evening before falls after midnight.
-Spans AboveRow(const SunEventTable& s, int r, SunAltitudeRange range)
+Spans AboveRow(const SunEventTable& s, SunRow r, SunAltitudeRange range)
 {
     static constexpr std::array<double, 4> altitude = {-50.0 / 60.0, -6.0, -12.0, -18.0};
     const double h = altitude[std::size_t(r)] * DegToRad;
@@ -34,7 +34,7 @@ Spans AboveRow(const SunEventTable& s, int r, SunAltitudeRange range)
         return {};
     if (range.Lowest > h)
         return {{0.0, TimeLineWidth}};
-    const double dawn = Place(s(r, 0)), dusk = Place(s(r, 2));
+    const double dawn = Place(s[r].RiseTime), dusk = Place(s[r].SetTime);
     if (dawn <= dusk)
         return {{dawn, dusk}};
     return {{0.0, dusk}, {dawn, TimeLineWidth}};
@@ -70,20 +70,22 @@ double EdgeOf(const Span& p, double noonX)
 
 void AddTwilights(DayGraphSeries& g, const DayForecast& f, SunAltitudeRange range)
 {
+    // Each twilight's band: where the Sun stands above its altitude but below the next
+    // brighter row's.
     struct Kind {
+        SunRow Row, Brighter;
         const char* Name;
         std::uint32_t Color;
     };
-    static constexpr std::array<Kind, 3> kinds = {{{" Civil Twilight ", 0xFFC0C0},
-                                                   {" Nautical Twilight ", 0xFF8080},
-                                                   {" Astronomical Twilight ", 0xFF0000}}};
-    const double noonX = Place(f.SunEvents(0, 1));
-    for (int r = 1; r <= 3; ++r) {
-        const Kind& k = kinds[std::size_t(r - 1)];
+    static constexpr std::array<Kind, 3> kinds = {
+        {{SunRow::Civil, SunRow::Horizon, " Civil Twilight ", 0xFFC0C0},
+         {SunRow::Nautical, SunRow::Civil, " Nautical Twilight ", 0xFF8080},
+         {SunRow::Astronomical, SunRow::Nautical, " Astronomical Twilight ", 0xFF0000}}};
+    const double noonX = Place(f.SunEvents.Horizon.TransitTime);
+    for (const Kind& k : kinds)
         for (const Span& p :
-             Without(AboveRow(f.SunEvents, r, range), AboveRow(f.SunEvents, r - 1, range)))
+             Without(AboveRow(f.SunEvents, k.Row, range), AboveRow(f.SunEvents, k.Brighter, range)))
             g.Twilights.push_back({p.X0, p.X1, k.Color, k.Name, EdgeOf(p, noonX)});
-    }
 }
 
 void AddPeriods(DayGraphSeries& g, const DayForecast& f)
@@ -94,11 +96,11 @@ void AddPeriods(DayGraphSeries& g, const DayForecast& f)
         if (*text != "*******")
             g.Bars.push_back({AdjForBias(Place(minor)), LightGreen, "Minor"});
     const MoonEventRecord& m = f.MoonEvents;
-    if (m.RiseFlag == 0)
+    if (m.RiseFlag == EventFlag::InDay)
         g.MoonMarks.push_back({Place(m.RiseTime), White, "Rise"});
-    if (m.TransitFlag == 0)
+    if (m.TransitFlag == EventFlag::InDay)
         g.MoonMarks.push_back({Place(m.TransitTime), White, "Transit"});
-    if (m.SetFlag == 0)
+    if (m.SetFlag == EventFlag::InDay)
         g.MoonMarks.push_back({Place(m.SetTime), White, "Set"});
 }
 
@@ -119,8 +121,8 @@ void AddEventTexts(DayGraphSeries& g, const DayMarks& day)
 SunAltitudeRange SunAltitudesOfDay(Astronomy& engine, double jd)
 {
     const Observer& o = engine.Site;
-    engine.SunPosition(jd + 0.5 + o.ZoneDays + o.DstOffsetDays);
-    const double delta = engine.PositionResult[4], phi = o.CurLatitude * DegToRad;
+    const double delta = engine.SunPosition(jd + 0.5 + o.ZoneDays + o.DstOffsetDays).Delta;
+    const double phi = o.CurLatitude * DegToRad;
     // At the upper and the lower meridian passage.
     return {ArcSin(std::sin(phi) * std::sin(delta) - std::cos(phi) * std::cos(delta)),
             ArcSin(std::sin(phi) * std::sin(delta) + std::cos(phi) * std::cos(delta))};
@@ -129,10 +131,10 @@ SunAltitudeRange SunAltitudesOfDay(Astronomy& engine, double jd)
 DayGraphSeries DrawTimes(const DayForecast& f, const DayMarks& day, SunAltitudeRange range)
 {
     DayGraphSeries g;
-    for (const Span& p : AboveRow(f.SunEvents, 0, range))
+    for (const Span& p : AboveRow(f.SunEvents, SunRow::Horizon, range))
         g.Daylight.push_back({p.X0, p.X1, 0xA0FFFF, " Daylight ", p.X0});
-    g.SunriseX = Place(f.SunEvents(0, 0));
-    g.SunsetX = Place(f.SunEvents(0, 2));
+    g.SunriseX = Place(f.SunEvents.Horizon.RiseTime);
+    g.SunsetX = Place(f.SunEvents.Horizon.SetTime);
     AddTwilights(g, f, range);
     AddPeriods(g, f);
     for (int h = 1; h <= 23; ++h)
@@ -168,14 +170,13 @@ SkyReadout GetPicData(Astronomy& engine, double jd)
     const Observer& o = engine.Site;
     const double ut = jd + o.ZoneDays + o.DstOffsetDays;
     SkyReadout r;
-    engine.SunPosition(ut);
-    Horizontal h = engine.HorizontalPosition(ut, engine.PositionResult[3], engine.PositionResult[4],
-                                             o.CurLatitude, o.CurLongitude);
+    const SunPlace sun = engine.SunPosition(ut);
+    Horizontal h =
+        engine.HorizontalPosition(ut, sun.Alpha, sun.Delta, o.CurLatitude, o.CurLongitude);
     r.SunAzimuth = h.Azimuth * RadToDeg;
     r.SunElevation = h.Altitude * RadToDeg;
-    engine.MoonPosition(ut);
-    h = engine.HorizontalPosition(ut, engine.PositionResult[7], engine.PositionResult[8],
-                                  o.CurLatitude, o.CurLongitude);
+    const MoonPlace moon = engine.MoonPosition(ut);
+    h = engine.HorizontalPosition(ut, moon.Alpha, moon.Delta, o.CurLatitude, o.CurLongitude);
     r.MoonAzimuth = h.Azimuth * RadToDeg;
     r.MoonElevation = h.Altitude * RadToDeg;
     return r;

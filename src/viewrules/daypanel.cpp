@@ -10,8 +10,8 @@ const std::string NoMinor = "*******";
 // A period within an hour of sunrise, the Sun's transit or sunset is highlighted.
 std::uint32_t PeriodColor(double period, const SunEventTable& sun)
 {
-    for (int c = 0; c <= 2; ++c)
-        if (std::fabs(period - sun(0, c)) <= 1.0)
+    for (double event : {sun.Horizon.RiseTime, sun.Horizon.TransitTime, sun.Horizon.SetTime})
+        if (std::fabs(period - event) <= 1.0)
             return Yellow;
     return Black;
 }
@@ -54,9 +54,9 @@ DayPanel DoLabels(const DayForecast& f, double moonAltitude, bool ampm)
     const std::string rise = FormatClock(0, m.RiseTime, ampm);
     const std::string set = FormatClock(0, m.SetTime, ampm);
     std::string first = "Rise", firstTime = rise, second = "Set", secondTime = set;
-    if (m.RiseFlag == 2) {
+    if (m.RiseFlag == EventFlag::OtherDay) {
         first = "Set", firstTime = set, second = "Rise", secondTime = "*****";
-    } else if (m.SetFlag == 2) {
+    } else if (m.SetFlag == EventFlag::OtherDay) {
         first = "Set", firstTime = "*****", second = "Rise", secondTime = rise;
     } else if (m.RiseTime > m.SetTime) {
         first = "Set", firstTime = set, second = "Rise", secondTime = rise;
@@ -84,11 +84,14 @@ std::string LabelToolTip(int i, const DayForecast& f, bool ampm)
     case 7:
         return " Length of day, Sunrise to Sunset ";
     case 14:
-        return " Transit=" + clock(s(0, 1)) + " Twilight  Civil=" + clock(s(1, 0)) +
-               " Nautical=" + clock(s(2, 0)) + " Astronomical=" + clock(s(3, 0)) + " ";
+        return " Transit=" + clock(s.Horizon.TransitTime) +
+               " Twilight  Civil=" + clock(s.Civil.RiseTime) +
+               " Nautical=" + clock(s.Nautical.RiseTime) +
+               " Astronomical=" + clock(s.Astronomical.RiseTime) + " ";
     case 16:
-        return " Twilight  Civil=" + clock(s(1, 2)) + " Nautical=" + clock(s(2, 2)) +
-               " Astronomical=" + clock(s(3, 2)) + " ";
+        return " Twilight  Civil=" + clock(s.Civil.SetTime) +
+               " Nautical=" + clock(s.Nautical.SetTime) +
+               " Astronomical=" + clock(s.Astronomical.SetTime) + " ";
     default:
         return {};
     }

@@ -35,14 +35,15 @@ std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD
         std::string line = VbFormat(d, "00");
         const double J = monthStartJD + d - 1;
         engine.ComputeSunDay(J);
+        const RiseTransitSet& sun = f.SunEvents.Horizon;
         if (ampm)
-            line += "  " + ShortClock(clock(f.SunEvents(0, 0))) + " " +
-                    ShortClock(clock(f.SunEvents(0, 2))) + " ";
+            line +=
+                "  " + ShortClock(clock(sun.RiseTime)) + " " + ShortClock(clock(sun.SetTime)) + " ";
         else
-            line += "   " + clock(f.SunEvents(0, 0)) + "   " + clock(f.SunEvents(0, 2)) + "     ";
+            line += "   " + clock(sun.RiseTime) + "   " + clock(sun.SetTime) + "     ";
         engine.ComputeDay(J);
         const MoonEventRecord& m = f.MoonEvents;
-        const bool noTransit = m.TransitFlag != 0;
+        const bool noTransit = m.TransitFlag != EventFlag::InDay;
         if (ampm) {
             PRNTrue(line, ShortClock(clock(m.RiseTime)));
             PRNTrue(line, ShortClock(clock(m.SetTime)));

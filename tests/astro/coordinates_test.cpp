@@ -10,22 +10,22 @@ TEST(MeanObliquity, IsLaskarValueAtJ2000)
 
 TEST(EclipticToEquatorial, MatchesMeeusExample13aAndAxes)
 {
-    Astronomy a;
     // Pollux, Meeus example 13.a.
-    a.EclipticToEquatorial(113.215630 * DegToRad, 6.684170 * DegToRad, 23.4392911 * DegToRad);
-    EXPECT_NEAR(a.EquatorialResult.Alpha / DegToRad, 116.328942, 1e-6);
-    EXPECT_NEAR(a.EquatorialResult.Delta / DegToRad, 28.026183, 1e-6);
+    Astronomy::Equatorial p = Astronomy::EclipticToEquatorial(
+        113.215630 * DegToRad, 6.684170 * DegToRad, 23.4392911 * DegToRad);
+    EXPECT_NEAR(p.Alpha / DegToRad, 116.328942, 1e-6);
+    EXPECT_NEAR(p.Delta / DegToRad, 28.026183, 1e-6);
 
-    a.EclipticToEquatorial(0.0, 0.0, 23.44 * DegToRad);
-    EXPECT_NEAR(a.EquatorialResult.Alpha, 0.0, 1e-15);
-    EXPECT_NEAR(a.EquatorialResult.Delta, 0.0, 1e-15);
+    p = Astronomy::EclipticToEquatorial(0.0, 0.0, 23.44 * DegToRad);
+    EXPECT_NEAR(p.Alpha, 0.0, 1e-15);
+    EXPECT_NEAR(p.Delta, 0.0, 1e-15);
 
-    a.EclipticToEquatorial(Pi / 2.0, 0.0, 23.44 * DegToRad);
-    EXPECT_NEAR(a.EquatorialResult.Alpha, Pi / 2.0, 1e-12);
-    EXPECT_NEAR(a.EquatorialResult.Delta / DegToRad, 23.44, 1e-12);
+    p = Astronomy::EclipticToEquatorial(Pi / 2.0, 0.0, 23.44 * DegToRad);
+    EXPECT_NEAR(p.Alpha, Pi / 2.0, 1e-12);
+    EXPECT_NEAR(p.Delta / DegToRad, 23.44, 1e-12);
 
     // Just below the equinox the right ascension wraps to just under 2pi, never negative.
-    a.EclipticToEquatorial(-1e-6, 0.0, 23.44 * DegToRad);
-    EXPECT_GT(a.EquatorialResult.Alpha, 6.28);
-    EXPECT_LT(a.EquatorialResult.Alpha, TwoPi);
+    p = Astronomy::EclipticToEquatorial(-1e-6, 0.0, 23.44 * DegToRad);
+    EXPECT_GT(p.Alpha, 6.28);
+    EXPECT_LT(p.Alpha, TwoPi);
 }

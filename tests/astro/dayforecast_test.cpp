@@ -62,19 +62,20 @@ TEST(RiseSet, EquatorAtEquinoxIsSymmetricAboutTransit)
     Astronomy a = At(0.0, 0.0, 0);
     a.SunEventsForDay(CivilToJd(2024, 3, 20));
     const SunEventTable& s = a.Forecast.SunEvents;
-    const double before = s(0, 1) - s(0, 0), after = s(0, 2) - s(0, 1);
+    const RiseTransitSet& sun = s.Horizon;
+    const double before = sun.TransitTime - sun.RiseTime, after = sun.SetTime - sun.TransitTime;
     EXPECT_NEAR(before, after, 1.0 / 60.0);
     EXPECT_GT(before, 6.0);
     EXPECT_LT(before, 6.0 + 4.0 / 60.0);
-    EXPECT_EQ(a.PositionResult[9], 0.0);
-    EXPECT_EQ(a.PositionResult[10], 0.0);
-    EXPECT_EQ(a.PositionResult[11], 0.0);
-    EXPECT_NEAR(s(0, 1), 12.0 + 7.5 / 60.0, 1.0 / 60.0); // the Sun runs 7.5 min slow
+    EXPECT_EQ(s.Astronomical.TransitFlag, EventFlag::InDay);
+    EXPECT_EQ(s.Astronomical.RiseFlag, EventFlag::InDay);
+    EXPECT_EQ(s.Astronomical.SetFlag, EventFlag::InDay);
+    EXPECT_NEAR(sun.TransitTime, 12.0 + 7.5 / 60.0, 1.0 / 60.0); // the Sun runs 7.5 min slow
     // Twilights widen outwards in order.
-    EXPECT_LT(s(3, 0), s(2, 0));
-    EXPECT_LT(s(2, 0), s(1, 0));
-    EXPECT_LT(s(1, 0), s(0, 0));
-    EXPECT_GT(s(3, 2), s(2, 2));
+    EXPECT_LT(s.Astronomical.RiseTime, s.Nautical.RiseTime);
+    EXPECT_LT(s.Nautical.RiseTime, s.Civil.RiseTime);
+    EXPECT_LT(s.Civil.RiseTime, sun.RiseTime);
+    EXPECT_GT(s.Astronomical.SetTime, s.Nautical.SetTime);
 }
 
 // At 70 degrees north at midsummer the Sun never sets: rise and set are the transit -/+ 12 h.
@@ -83,11 +84,12 @@ TEST(RiseSet, MidnightSunAtSeventyNorth)
     Astronomy a = At(-20.0, 70.0, -1);
     a.SunEventsForDay(CivilToJd(2024, 6, 21));
     const SunEventTable& s = a.Forecast.SunEvents;
-    EXPECT_EQ(a.AboveHorizonState, 1); // last search: astronomical twilight row
+    EXPECT_EQ(s.Astronomical.AboveHorizonState, HorizonState::StaysAbove);
     a.ComputeSunDay(CivilToJd(2024, 6, 21));
     // Only the transit is refined; rise and set stay half a day either side of its first guess.
-    EXPECT_NEAR(WrapInto(s(0, 1) - s(0, 0), 24.0), 12.0, 1.0 / 60.0);
-    EXPECT_NEAR(s(0, 2), s(0, 0), 1e-9); // a whole day apart, the same clock hour
+    const RiseTransitSet& sun = s.Horizon;
+    EXPECT_NEAR(WrapInto(sun.TransitTime - sun.RiseTime, 24.0), 12.0, 1.0 / 60.0);
+    EXPECT_NEAR(sun.SetTime, sun.RiseTime, 1e-9); // a whole day apart, the same clock hour
 }
 
 TEST(RiseSet, DaylightSavingMovesLocalTimesOneHourLater)
@@ -100,13 +102,16 @@ TEST(RiseSet, DaylightSavingMovesLocalTimesOneHourLater)
     summer.ComputeSunDay(jd);
     standard.ComputeDay(jd);
     summer.ComputeDay(jd);
-    for (int r = 0; r <= 3; ++r)
-        for (int c = 0; c <= 2; ++c)
-            EXPECT_NEAR(summer.Forecast.SunEvents(r, c),
-                        WrapInto(standard.Forecast.SunEvents(r, c) + 1.0, 24.0), 1e-6)
-                << "row " << r << " column " << c;
-    ASSERT_EQ(standard.Forecast.MoonEvents.TransitFlag, 0);
-    ASSERT_EQ(summer.Forecast.MoonEvents.TransitFlag, 0);
+    for (SunRow r : SunRows) {
+        const RiseTransitSet &later = summer.Forecast.SunEvents[r],
+                             &earlier = standard.Forecast.SunEvents[r];
+        for (const auto& [hours, standardHours] : {std::pair{later.RiseTime, earlier.RiseTime},
+                                                   {later.TransitTime, earlier.TransitTime},
+                                                   {later.SetTime, earlier.SetTime}})
+            EXPECT_NEAR(hours, WrapInto(standardHours + 1.0, 24.0), 1e-6) << "row " << int(r);
+    }
+    ASSERT_EQ(standard.Forecast.MoonEvents.TransitFlag, EventFlag::InDay);
+    ASSERT_EQ(summer.Forecast.MoonEvents.TransitFlag, EventFlag::InDay);
     EXPECT_NEAR(summer.Forecast.Major1, standard.Forecast.Major1 + 1.0, 1e-6);
 }
 
@@ -118,7 +123,7 @@ TEST(DayForecast, DayWithoutTransitAveragesTheNeighbours)
     int found = 0;
     for (int d = 0; d < 60 && found == 0; ++d) {
         a.ComputeDay(start + d);
-        if (a.Forecast.MoonEvents.TransitFlag == 0)
+        if (a.Forecast.MoonEvents.TransitFlag == EventFlag::InDay)
             continue;
         ++found;
         const DayForecast f = a.Forecast;
@@ -147,7 +152,7 @@ TEST(DayForecast, MoonUpAtNoonAgreesWithRiseAndSetOverAYear)
     for (int d = 0; d < 366; ++d) {
         a.ComputeDay(start + d);
         const MoonEventRecord& m = a.Forecast.MoonEvents;
-        const bool rises = m.RiseFlag == 0, sets = m.SetFlag == 0;
+        const bool rises = m.RiseFlag == EventFlag::InDay, sets = m.SetFlag == EventFlag::InDay;
         const double margin = 5.0 / 60.0; // the altitude is geocentric, the events topocentric
         if ((!rises && !sets) || (rises && std::fabs(m.RiseTime - 12.0) < margin) ||
             (sets && std::fabs(m.SetTime - 12.0) < margin))
@@ -158,7 +163,7 @@ TEST(DayForecast, MoonUpAtNoonAgreesWithRiseAndSetOverAYear)
                                         : !(m.SetTime < 12.0 && 12.0 < m.RiseTime);
         else
             up = rises ? m.RiseTime < 12.0 : 12.0 < m.SetTime;
-        EXPECT_EQ(a.Forecast.SkyPosition[3] > 0.0, up) << "day " << d;
+        EXPECT_EQ(a.Forecast.SkyPosition.MoonAltitude > 0.0, up) << "day " << d;
         ++compared;
     }
     EXPECT_GT(compared, 340);
@@ -170,7 +175,7 @@ TEST(DayForecast, MajorWithoutTransitStaysInTheDay)
 {
     Astronomy a = At(-151.21, -33.87, -10);
     a.ComputeDay(CivilToJd(2020, 1, 11));
-    EXPECT_NE(a.Forecast.MoonEvents.TransitFlag, 0);
+    EXPECT_NE(a.Forecast.MoonEvents.TransitFlag, EventFlag::InDay);
     EXPECT_GE(a.Forecast.Major1, 0.0);
     EXPECT_LT(a.Forecast.Major1, 1.0);
     EXPECT_EQ(a.Forecast.Major1Text.substr(0, 4), "*12:");
@@ -192,7 +197,8 @@ TEST(RiseSet, ResultsDoNotDependOnEarlierDays)
         EXPECT_EQ(x.TransitAltitude, y.TransitAltitude) << d;
         EXPECT_EQ(x.RiseAzimuth, y.RiseAzimuth) << d;
         EXPECT_EQ(x.SetAzimuth, y.SetAzimuth) << d;
-        outside += x.TransitFlag + x.RiseFlag + x.SetFlag;
+        for (EventFlag flag : {x.TransitFlag, x.RiseFlag, x.SetFlag})
+            outside += flag == EventFlag::OtherDay ? 1 : 0;
     }
     EXPECT_GT(outside, 0);
 }
@@ -208,7 +214,7 @@ TEST(RiseSet, EventAtMidnightIsReportedOnce)
         for (double d : {day, day + 1.0}) {
             a.ComputeDay(CivilToJd(2024, 1, d));
             const MoonEventRecord& m = a.Forecast.MoonEvents;
-            if (m.RiseFlag != 0)
+            if (m.RiseFlag != EventFlag::InDay)
                 continue;
             ++reported;
             EXPECT_LT(std::min(m.RiseTime, 24.0 - m.RiseTime), 1.0 / 60.0) << lat;

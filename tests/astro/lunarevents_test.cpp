@@ -86,7 +86,7 @@ TEST(LunarEvents, PhasesAndSeasonsOf2024AgreeWithEphem)
     const double seasons[] = {2460389.62942, 2460482.36879, 2460576.03023, 2460665.88913};
     engine.Seasons(2024);
     for (int s = 1; s <= 4; ++s) {
-        const double jde = engine.SeasonTimes[std::size_t(s)];
+        const double jde = engine.SeasonTimes[std::size_t(s - 1)];
         EXPECT_NEAR(jde - DeltaTSeconds(jde) / 86400.0, seasons[s - 1], 2.0 * Minute);
     }
 }
@@ -100,7 +100,7 @@ TEST(LunarEvents, ResultTablesAreInLocalClockTime)
     engine.PerigeeApogee(-149.0);
     EXPECT_NEAR(engine.PerigeeTimes[1], PerigeeApogeeJDE(-148.5) - 5.0 / 24.0, 1e-9);
     engine.MaxDeclinations(-148.0);
-    EXPECT_NEAR(engine.DeclinationTimes[1], DeclinationJDE(-148.0, true) - 5.0 / 24.0, 1e-9);
+    EXPECT_NEAR(engine.DeclinationTimes[0], DeclinationJDE(-148.0, true) - 5.0 / 24.0, 1e-9);
     engine.MoonPhases(-283.0);
     const double jde = PhaseJDE(-283.0);
     EXPECT_NEAR(engine.PhaseTimes[0], jde - 5.0 / 24.0 - DeltaTSeconds(jde) / 86400.0, 1e-9);
@@ -129,12 +129,10 @@ TEST(LunarEvents, ExtremesAgreeWithTheMoonsPosition)
 {
     Astronomy engine;
     const std::function<double(double)> distance = [&](double jd) {
-        engine.MoonPosition(jd);
-        return engine.PositionResult[2];
+        return engine.MoonPosition(jd).Distance;
     };
     const std::function<double(double)> declination = [&](double jd) {
-        engine.MoonPosition(jd);
-        return engine.PositionResult[8];
+        return engine.MoonPosition(jd).Delta;
     };
     double perigee = 0.0, apogee = 0.0, north = 0.0, south = 0.0;
     auto worst = [](double& w, double minutes) { w = std::max(w, std::abs(minutes)); };

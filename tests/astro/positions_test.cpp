@@ -52,12 +52,12 @@ TEST(Nutation, MatchesMeeusExample22a)
 TEST(SunPosition, MatchesMeeusExample25b)
 {
     Astronomy a;
-    a.SunPosition(2448908.5);
-    EXPECT_NEAR(a.PositionResult[2], 0.99760775, 2e-8);
-    EXPECT_NEAR(Deg(a.PositionResult[0]), Dms(199, 54, 21.818), 1.0 / 3600.0);
-    EXPECT_NEAR(Deg(a.PositionResult[1]) * 3600.0, 0.62, 0.01); // the Appendix III terms
-    EXPECT_NEAR(Deg(a.PositionResult[3]) / 15.0, Dms(13, 13, 30.749), 0.05 / 3600.0);
-    EXPECT_NEAR(Deg(a.PositionResult[4]), -Dms(7, 47, 1.74), 0.5 / 3600.0);
+    const SunPlace p = a.SunPosition(2448908.5);
+    EXPECT_NEAR(p.R, 0.99760775, 2e-8);
+    EXPECT_NEAR(Deg(p.Lambda), Dms(199, 54, 21.818), 1.0 / 3600.0);
+    EXPECT_NEAR(Deg(p.Beta) * 3600.0, 0.62, 0.01); // the Appendix III terms
+    EXPECT_NEAR(Deg(p.Alpha) / 15.0, Dms(13, 13, 30.749), 0.05 / 3600.0);
+    EXPECT_NEAR(Deg(p.Delta), -Dms(7, 47, 1.74), 0.5 / 3600.0);
 }
 
 TEST(SunPosition, LongitudeStaysInRangeAcrossTheEquinox)
@@ -65,9 +65,9 @@ TEST(SunPosition, LongitudeStaysInRangeAcrossTheEquinox)
     Astronomy a;
     const double equinox = 2460389.63; // 2024 March 20, about 3h UT
     for (double jd = equinox - 0.2; jd < equinox + 0.2; jd += 0.001) {
-        a.SunPosition(jd);
-        ASSERT_GE(a.PositionResult[0], 0.0);
-        ASSERT_LT(a.PositionResult[0], TwoPi);
+        const double lambda = a.SunPosition(jd).Lambda;
+        ASSERT_GE(lambda, 0.0);
+        ASSERT_LT(lambda, TwoPi);
     }
 }
 
@@ -76,12 +76,11 @@ TEST(SunPosition, LowPrecisionTheoryAgreesWithinAHundredthOfADegree)
     Astronomy a;
     double worst = 0.0;
     for (double jd = CivilToJd(1900, 1, 1); jd < CivilToJd(2100, 1, 1); jd += 97.3) {
-        a.SunPosition(jd);
+        const SunPlace p = a.SunPosition(jd);
         // Compare geometric longitudes: undo nutation and aberration of the apparent one.
-        const double geometric =
-            a.PositionResult[0] - a.NutationLongitude + 20.4898 * Arcsec / a.PositionResult[2];
-        a.SunLowPrecision(jd);
-        worst = std::max(worst, std::fabs(Deg(WrapSigned(a.SunEcliptic.Longitude - geometric))));
+        const double geometric = p.Lambda - a.NutationLongitude + 20.4898 * Arcsec / p.R;
+        const double low = Astronomy::SunLowPrecision(jd).Longitude;
+        worst = std::max(worst, std::fabs(Deg(WrapSigned(low - geometric))));
     }
     EXPECT_LT(worst, 0.01);
 }
@@ -90,22 +89,22 @@ TEST(SunPosition, LowPrecisionTheoryAgreesWithinAHundredthOfADegree)
 TEST(MoonPosition, MatchesMeeusExample47a)
 {
     Astronomy a;
-    a.MoonPosition(2448724.5);
-    EXPECT_NEAR(Deg(a.PositionResult[0]), 133.167265, 0.00001);
-    EXPECT_NEAR(Deg(a.PositionResult[1]), -3.229126, 0.000001);
-    EXPECT_NEAR(a.PositionResult[2], 368409.7, 0.1);
-    EXPECT_NEAR(Deg(a.PositionResult[3]), 0.991990, 0.000001);
-    EXPECT_NEAR(Deg(a.PositionResult[7]), 134.688470, 0.00001);
-    EXPECT_NEAR(Deg(a.PositionResult[8]), 13.768368, 0.00001);
+    const MoonPlace p = a.MoonPosition(2448724.5);
+    EXPECT_NEAR(Deg(p.Lambda), 133.167265, 0.00001);
+    EXPECT_NEAR(Deg(p.Beta), -3.229126, 0.000001);
+    EXPECT_NEAR(p.Distance, 368409.7, 0.1);
+    EXPECT_NEAR(Deg(p.Parallax), 0.991990, 0.000001);
+    EXPECT_NEAR(Deg(p.Alpha), 134.688470, 0.00001);
+    EXPECT_NEAR(Deg(p.Delta), 13.768368, 0.00001);
 }
 
 // Meeus example 48.a: 1992 April 12, 0h TD, k = 0.6786 and chi about 285 degrees (waxing).
 TEST(MoonPosition, IlluminatedFractionAndBrightLimbOfExample48a)
 {
     Astronomy a;
-    a.MoonPosition(2448724.5);
-    EXPECT_NEAR(a.PositionResult[4], 0.6786, 0.001);
-    EXPECT_NEAR(Deg(a.PositionResult[5]), 285.0, 0.2);
+    const MoonPlace p = a.MoonPosition(2448724.5);
+    EXPECT_NEAR(p.IllumFraction, 0.6786, 0.001);
+    EXPECT_NEAR(Deg(p.BrightLimb), 285.0, 0.2);
 }
 
 // Meeus example 13.b: Venus seen from Washington, 1987 April 10, 19h21m UT.

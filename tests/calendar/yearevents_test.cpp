@@ -69,9 +69,9 @@ Found Expected(Astronomy& engine, const Calendar& cal)
     }
     for (double k = FirstDeclinationCycle(from); k < FirstDeclinationCycle(to); ++k) {
         engine.MaxDeclinations(k);
-        for (std::size_t i = 1; i <= 2; ++i)
+        for (std::size_t i = 0; i < 2; ++i)
             if (WithinYear(cal, engine.DeclinationTimes[i]))
-                f.Declinations[i].insert(engine.DeclinationTimes[i]);
+                f.Declinations[i + 1].insert(engine.DeclinationTimes[i]);
     }
     return f;
 }

@@ -90,7 +90,7 @@ double SunriseWith(Astronomy engine, const Calendar& cal, int d, double dstOffse
 {
     engine.Site.DstOffsetDays = dstOffsetDays;
     engine.ComputeSunDay(cal.YearStartJD + d - 1);
-    return engine.Forecast.SunEvents(0, 0);
+    return engine.Forecast.SunEvents.Horizon.RiseTime;
 }
 
 } // namespace
@@ -191,11 +191,13 @@ TEST(FillYear, StoresTheDaysValuesUnformattedAndMinusOneForMissingEvents)
         EXPECT_DOUBLE_EQ(hoursOfLight, check.Forecast.DayLength) << d;
         check.ComputeDay(cal.YearStartJD + d - 1);
         const MoonEventRecord& m = check.Forecast.MoonEvents;
-        EXPECT_DOUBLE_EQ(row[MoonRise].toDouble(), m.RiseFlag == 2 ? -1.0 : m.RiseTime) << d;
-        EXPECT_DOUBLE_EQ(row[MoonSet].toDouble(), m.SetFlag == 2 ? -1.0 : m.SetTime) << d;
+        const bool noRise = m.RiseFlag == EventFlag::OtherDay;
+        const bool noSet = m.SetFlag == EventFlag::OtherDay;
+        EXPECT_DOUBLE_EQ(row[MoonRise].toDouble(), noRise ? -1.0 : m.RiseTime) << d;
+        EXPECT_DOUBLE_EQ(row[MoonSet].toDouble(), noSet ? -1.0 : m.SetTime) << d;
         EXPECT_DOUBLE_EQ(row[Minor2].toDouble(), std::max(check.Forecast.Minor2, -1.0)) << d;
-        noMoonrise += m.RiseFlag == 2 ? 1 : 0;
-        noMoonset += m.SetFlag == 2 ? 1 : 0;
+        noMoonrise += noRise ? 1 : 0;
+        noMoonset += noSet ? 1 : 0;
         noMinor += row[Minor1].toDouble() < 0 || row[Minor2].toDouble() < 0 ? 1 : 0;
     }
     // A year has about a dozen days without moonrise and as many without moonset.

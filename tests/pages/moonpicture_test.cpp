@@ -192,9 +192,9 @@ double LitDirection(const QImage& image)
 // Where the Sun stands seen from the Moon on the sky, zenith up and azimuth growing to the
 // right as an observer facing the Moon sees it: the initial bearing of the great circle
 // from the Moon to the Sun in the horizon's coordinates, counter-clockwise from up.
-double SunDirection(const std::array<double, 4>& sky)
+double SunDirection(const SkyAtHour& sky)
 {
-    const double dA = sky[0] - sky[1], hs = sky[2], hm = sky[3];
+    const double dA = sky.SunAzimuth - sky.MoonAzimuth, hs = sky.SunAltitude, hm = sky.MoonAltitude;
     const double right = std::sin(dA) * std::cos(hs);
     const double up = std::cos(hm) * std::sin(hs) - std::sin(hm) * std::cos(hs) * std::cos(dA);
     return std::atan2(-right, up);
@@ -214,10 +214,10 @@ std::vector<double> TurnedErrors(double lonWest, double latNorth, int zone)
             a.ComputeSunDay(start + d);
             a.ComputeDay(start + d);
             const DayForecast& f = a.Forecast;
-            if (f.SkyPosition[3] < 0.05 || f.IllumPercent < 15 || f.IllumPercent > 85)
+            if (f.SkyPosition.MoonAltitude < 0.05 || f.IllumPercent < 15 || f.IllumPercent > 85)
                 continue;
             const MoonLook look = Look(f.IllumPercent, f.Waxing, latNorth < 0 ? -1 : 0);
-            const MoonTurn turn{f.SkyPosition[3], f.MoonParallacticAngle, true, Size};
+            const MoonTurn turn{f.SkyPosition.MoonAltitude, f.MoonParallacticAngle, true, Size};
             const double diff =
                 LitDirection(DrawMoon(Size, look, turn).ToPict) - SunDirection(f.SkyPosition);
             errors.push_back(std::fabs(std::remainder(diff, 2.0 * std::numbers::pi)) * 180.0 /

@@ -13,7 +13,10 @@
 
 namespace {
 constexpr double Deg = 57.29577951308232;
-}
+
+// The flag as the comparison reads it: 0 in the day, 2 on another.
+int FlagNumber(EventFlag flag) { return flag == EventFlag::InDay ? 0 : 2; }
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -39,16 +42,19 @@ int main(int argc, char** argv)
         a.ComputeDay(jd);
         const DayForecast& f = a.Forecast;
         const MoonEventRecord& m = f.MoonEvents;
+        const RiseTransitSet& sun = f.SunEvents.Horizon;
         std::printf("E %s %.6f %d %.6f %d %.6f %d %.4f %.4f %.6f %.6f %.4f %.4f %.6f\n", date,
-                    m.RiseTime, m.RiseFlag, m.TransitTime, m.TransitFlag, m.SetTime, m.SetFlag,
-                    m.RiseAzimuth * Deg, m.SetAzimuth * Deg, f.SunEvents(0, 0), f.SunEvents(0, 2),
-                    f.SunEvents(0, 3) * Deg, f.SunEvents(0, 5) * Deg, f.Major1);
+                    m.RiseTime, FlagNumber(m.RiseFlag), m.TransitTime, FlagNumber(m.TransitFlag),
+                    m.SetTime, FlagNumber(m.SetFlag), m.RiseAzimuth * Deg, m.SetAzimuth * Deg,
+                    sun.RiseTime, sun.SetTime, sun.RiseAzimuth * Deg, sun.SetAzimuth * Deg,
+                    f.Major1);
         for (double h : hours) {
             a.Site.HourInstant = h / 24.0 + a.Site.ZoneDays;
             a.ComputeSunDay(jd);
             a.ComputeDay(jd);
-            std::printf("S %s %.4f %.4f %.4f %.4f %.4f\n", date, h, f.SkyPosition[0] * Deg,
-                        f.SkyPosition[2] * Deg, f.SkyPosition[1] * Deg, f.SkyPosition[3] * Deg);
+            const SkyAtHour& sky = f.SkyPosition;
+            std::printf("S %s %.4f %.4f %.4f %.4f %.4f\n", date, h, sky.SunAzimuth * Deg,
+                        sky.SunAltitude * Deg, sky.MoonAzimuth * Deg, sky.MoonAltitude * Deg);
         }
     }
     return 0;

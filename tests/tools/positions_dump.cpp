@@ -15,13 +15,12 @@ int main(int argc, char** argv)
     for (int i = 0; i < count; ++i) {
         // An irrational step so that the instants fall at all times of day.
         const double jd = first + (last - first) * (i + 0.5 * 0.6180339887) / count;
-        a.SunPosition(jd);
-        const auto& p = a.PositionResult;
-        std::printf("%.8f %.12f %.12f %.12f %.12f %.12f %.10f", jd, a.Obliquity, p[0], p[1], p[3],
-                    p[4], p[2]);
-        a.MoonPosition(jd);
-        std::printf(" %.12f %.12f %.12f %.12f %.4f %.12f\n", p[0], p[1], p[7], p[8], p[2],
-                    a.Obliquity);
+        const SunPlace sun = a.SunPosition(jd);
+        std::printf("%.8f %.12f %.12f %.12f %.12f %.12f %.10f", jd, a.Obliquity, sun.Lambda,
+                    sun.Beta, sun.Alpha, sun.Delta, sun.R);
+        const MoonPlace moon = a.MoonPosition(jd);
+        std::printf(" %.12f %.12f %.12f %.12f %.4f %.12f\n", moon.Lambda, moon.Beta, moon.Alpha,
+                    moon.Delta, moon.Distance, a.Obliquity);
     }
     return 0;
 }

@@ -44,27 +44,27 @@ TEST(DayGraph, SeriesOfASummerDayFollowTheForecast)
     const SunEventTable& e = engine.Forecast.SunEvents;
     const struct {
         const char* Name;
-        int Row;
+        SunRow Row, Brighter;
         std::uint32_t Colour;
-    } kinds[] = {{" Civil Twilight ", 1, 0xFFC0C0},
-                 {" Nautical Twilight ", 2, 0xFF8080},
-                 {" Astronomical Twilight ", 3, 0xFF0000}};
+    } kinds[] = {{" Civil Twilight ", SunRow::Civil, SunRow::Horizon, 0xFFC0C0},
+                 {" Nautical Twilight ", SunRow::Nautical, SunRow::Civil, 0xFF8080},
+                 {" Astronomical Twilight ", SunRow::Astronomical, SunRow::Nautical, 0xFF0000}};
     ASSERT_EQ(s.Twilights.size(), 6u);
     for (const auto& k : kinds) {
         const auto bands = BandsNamed(s, k.Name);
         ASSERT_EQ(bands.size(), 2u) << k.Name;
         // Morning: from this twilight's dawn to the next brighter one's; evening mirrored.
-        EXPECT_NEAR(bands[0].X0, e(k.Row, 0) * Units, 1e-9);
-        EXPECT_NEAR(bands[0].X1, e(k.Row - 1, 0) * Units, 1e-9);
-        EXPECT_NEAR(bands[1].X0, e(k.Row - 1, 2) * Units, 1e-9);
-        EXPECT_NEAR(bands[1].X1, e(k.Row, 2) * Units, 1e-9);
+        EXPECT_NEAR(bands[0].X0, e[k.Row].RiseTime * Units, 1e-9);
+        EXPECT_NEAR(bands[0].X1, e[k.Brighter].RiseTime * Units, 1e-9);
+        EXPECT_NEAR(bands[1].X0, e[k.Brighter].SetTime * Units, 1e-9);
+        EXPECT_NEAR(bands[1].X1, e[k.Row].SetTime * Units, 1e-9);
         EXPECT_EQ(bands[0].Color, k.Colour);
         EXPECT_EQ(bands[0].EdgeX, bands[0].X0); // the tip names the dawn ...
         EXPECT_EQ(bands[1].EdgeX, bands[1].X1); // ... and the dusk
     }
     ASSERT_EQ(s.Daylight.size(), 1u);
-    EXPECT_NEAR(s.Daylight[0].X0, e(0, 0) * Units, 1e-9);
-    EXPECT_NEAR(s.Daylight[0].X1, e(0, 2) * Units, 1e-9);
+    EXPECT_NEAR(s.Daylight[0].X0, e.Horizon.RiseTime * Units, 1e-9);
+    EXPECT_NEAR(s.Daylight[0].X1, e.Horizon.SetTime * Units, 1e-9);
 
     const DayForecast& f = engine.Forecast;
     ASSERT_NE(f.Minor1Text, "*******");
@@ -85,8 +85,9 @@ TEST(DayGraph, SeriesOfASummerDayFollowTheForecast)
     // The tool tips along the line.
     EXPECT_EQ(DayPartTip(s, 1.0 * Units, true), " Night ");
     EXPECT_EQ(DayPartTip(s, 23.9 * Units, true), " Night ");
-    const std::string civil = DayPartTip(s, (e(1, 0) + e(0, 0)) / 2.0 * Units, true);
-    EXPECT_EQ(civil, " Civil Twilight " + FormatClock(0, AdjBiasBack(e(1, 0) * Units), true) + " ");
+    const double dawn = e.Civil.RiseTime;
+    const std::string civil = DayPartTip(s, (dawn + e.Horizon.RiseTime) / 2.0 * Units, true);
+    EXPECT_EQ(civil, " Civil Twilight " + FormatClock(0, AdjBiasBack(dawn * Units), true) + " ");
     const std::string day = DayPartTip(s, 12.0 * Units, true);
     EXPECT_EQ(day.substr(0, 9), " Sunrise ");
     EXPECT_NE(day.find(", Sunset "), std::string::npos);
@@ -118,8 +119,8 @@ TEST(DayGraph, PolarDayAndWhiteNight)
     ASSERT_EQ(w.Twilights.size(), 2u);
     EXPECT_TRUE(BandsNamed(w, " Nautical Twilight ").empty());
     EXPECT_EQ(w.Twilights[0].X0, 0.0);
-    EXPECT_NEAR(w.Twilights[0].X1, e(0, 0) * Units, 1e-9);
-    EXPECT_NEAR(w.Twilights[1].X0, e(0, 2) * Units, 1e-9);
+    EXPECT_NEAR(w.Twilights[0].X1, e.Horizon.RiseTime * Units, 1e-9);
+    EXPECT_NEAR(w.Twilights[1].X0, e.Horizon.SetTime * Units, 1e-9);
     EXPECT_EQ(w.Twilights[1].X1, TimeLineWidth);
 }
 
@@ -203,8 +204,8 @@ TEST(DayGraph, SkyAtThePointerAgreesWithEphem)
     engine.ComputeSunDay(CivilToJd(2024, 6, 20));
     engine.ComputeDay(CivilToJd(2024, 6, 20));
     const auto& sky = engine.Forecast.SkyPosition;
-    EXPECT_NEAR(sky[0] * 57.29577951308238, r.SunAzimuth, 1e-6);
-    EXPECT_NEAR(sky[3] * 57.29577951308238, r.MoonElevation, 1e-6);
+    EXPECT_NEAR(sky.SunAzimuth * 57.29577951308238, r.SunAzimuth, 1e-6);
+    EXPECT_NEAR(sky.MoonAltitude * 57.29577951308238, r.MoonElevation, 1e-6);
 }
 
 } // namespace

@@ -7,9 +7,9 @@ namespace {
 DayForecast Day()
 {
     DayForecast f;
-    f.SunEvents(0, 0) = 6.5; // sunrise
-    f.SunEvents(0, 1) = 12.5;
-    f.SunEvents(0, 2) = 18.5; // sunset
+    f.SunEvents.Horizon.RiseTime = 6.5;
+    f.SunEvents.Horizon.TransitTime = 12.5;
+    f.SunEvents.Horizon.SetTime = 18.5;
     f.Major1 = 7.5;
     f.Major2 = 19.0 + 31.0 / 60.0;
     f.Minor1 = 1.0;
@@ -21,8 +21,8 @@ DayForecast Day()
     f.DayLength = 12.0;
     f.MoonEvents.RiseTime = 3.25;
     f.MoonEvents.SetTime = 15.5;
-    f.MoonEvents.RiseFlag = 0;
-    f.MoonEvents.SetFlag = 0;
+    f.MoonEvents.RiseFlag = EventFlag::InDay;
+    f.MoonEvents.SetFlag = EventFlag::InDay;
     return f;
 }
 
@@ -51,14 +51,14 @@ TEST(DayPanel, MoonRiseAndSetInTheOrderTheyHappen)
     p = DoLabels(f, 0, true);
     EXPECT_EQ(p.Captions.at(18), "Set");
     EXPECT_EQ(p.Captions.at(22), "04:00 PM");
-    f.MoonEvents.RiseFlag = 2;
+    f.MoonEvents.RiseFlag = EventFlag::OtherDay;
     p = DoLabels(f, 0, true);
     EXPECT_EQ(p.Captions.at(18), "Set");
     EXPECT_EQ(p.Captions.at(19), "03:30 PM");
     EXPECT_EQ(p.Captions.at(21), "Rise");
     EXPECT_EQ(p.Captions.at(22), "*****");
-    f.MoonEvents.RiseFlag = 0;
-    f.MoonEvents.SetFlag = 2;
+    f.MoonEvents.RiseFlag = EventFlag::InDay;
+    f.MoonEvents.SetFlag = EventFlag::OtherDay;
     p = DoLabels(f, 0, true);
     EXPECT_EQ(p.Captions.at(19), "*****");
     EXPECT_EQ(p.Captions.at(22), "04:00 PM");
@@ -72,9 +72,9 @@ TEST(DayPanel, ToolTips)
     EXPECT_EQ(LabelToolTip(5, f, true), " ****** ");
     EXPECT_EQ(LabelToolTip(4, f, false), " 00:25 to 01:34 ");
     EXPECT_EQ(LabelToolTip(7, f, true), " Length of day, Sunrise to Sunset ");
-    f.SunEvents(1, 0) = 6.0;
-    f.SunEvents(2, 0) = 5.5;
-    f.SunEvents(3, 0) = 5.0;
+    f.SunEvents.Civil.RiseTime = 6.0;
+    f.SunEvents.Nautical.RiseTime = 5.5;
+    f.SunEvents.Astronomical.RiseTime = 5.0;
     EXPECT_EQ(LabelToolTip(14, f, false),
               " Transit=12:30 Twilight  Civil=06:00 Nautical=05:30 Astronomical=05:00 ");
     EXPECT_EQ(LabelToolTip(3, f, true), "");

@@ -56,7 +56,7 @@ TEST(MonthlyList, DayWithoutTransit)
     for (int d = 1; d <= 31; ++d) {
         const double J = CivilToJd(2024, 1, d);
         engine.ComputeDay(J);
-        if (engine.Forecast.MoonEvents.TransitFlag == 0)
+        if (engine.Forecast.MoonEvents.TransitFlag == EventFlag::InDay)
             continue;
         for (const bool ampm : {true, false}) {
             const std::string line = MonthlyListLines(engine, J, 1, ampm)[0];

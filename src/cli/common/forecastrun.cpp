@@ -9,26 +9,28 @@
 
 namespace {
 
-DayEvent Crossing(std::int16_t flag, double hours)
+DayEvent Crossing(EventFlag flag, double hours)
 {
-    return flag == 0 ? DayEvent::At(hours) : DayEvent{};
+    return flag == EventFlag::InDay ? DayEvent::At(hours) : DayEvent{};
 }
 
 // A rise or set: none at all when the body stays on one side of the altitude all day.
-DayEvent RiseOrSet(std::int16_t flag, std::int16_t aboveHorizonState, double hours)
+DayEvent RiseOrSet(EventFlag flag, HorizonState aboveHorizonState, double hours)
 {
-    if (aboveHorizonState != 0)
-        return {std::nullopt, aboveHorizonState > 0 ? EventStatus::Above : EventStatus::Below};
+    if (aboveHorizonState != HorizonState::Crosses)
+        return {std::nullopt, aboveHorizonState == HorizonState::StaysAbove ? EventStatus::Above
+                                                                            : EventStatus::Below};
     return Crossing(flag, hours);
 }
 
-DayEvent SunEvent(const DayForecast& f, int row, int column)
+DayEvent Rise(const RiseTransitSet& e)
 {
-    const SunEventStatus& s = f.SunStatus[std::size_t(row)];
-    const double hours = f.SunEvents(row, column);
-    if (column == 1)
-        return Crossing(s.TransitFlag, hours);
-    return RiseOrSet(column == 0 ? s.RiseFlag : s.SetFlag, s.AboveHorizonState, hours);
+    return RiseOrSet(e.RiseFlag, e.AboveHorizonState, e.RiseTime);
+}
+DayEvent Transit(const RiseTransitSet& e) { return Crossing(e.TransitFlag, e.TransitTime); }
+DayEvent Set(const RiseTransitSet& e)
+{
+    return RiseOrSet(e.SetFlag, e.AboveHorizonState, e.SetTime);
 }
 
 // Hours of the local day with the Sun above the horizon, from the day's own rise and set.
@@ -131,24 +133,26 @@ DayRow ForecastRun::Day(int year, int month, int day)
     r.Year = year;
     r.Month = month;
     r.Day = day;
-    r.Sunrise = SunEvent(f, 0, 0);
-    r.SunTransit = SunEvent(f, 0, 1);
-    r.Sunset = SunEvent(f, 0, 2);
-    r.CivilDawn = SunEvent(f, 1, 0);
-    r.CivilDusk = SunEvent(f, 1, 2);
-    r.NauticalDawn = SunEvent(f, 2, 0);
-    r.NauticalDusk = SunEvent(f, 2, 2);
-    r.AstronomicalDawn = SunEvent(f, 3, 0);
-    r.AstronomicalDusk = SunEvent(f, 3, 2);
+    const SunEventTable& sun = f.SunEvents;
+    r.Sunrise = Rise(sun.Horizon);
+    r.SunTransit = Transit(sun.Horizon);
+    r.Sunset = Set(sun.Horizon);
+    r.CivilDawn = Rise(sun.Civil);
+    r.CivilDusk = Set(sun.Civil);
+    r.NauticalDawn = Rise(sun.Nautical);
+    r.NauticalDusk = Set(sun.Nautical);
+    r.AstronomicalDawn = Rise(sun.Astronomical);
+    r.AstronomicalDusk = Set(sun.Astronomical);
     r.DayLength = DaylightHours(r.Sunrise, r.Sunset);
-    r.Moonrise = RiseOrSet(m.RiseFlag, m.AboveHorizonState, m.RiseTime);
-    r.MoonTransit = Crossing(m.TransitFlag, m.TransitTime);
-    r.Moonset = RiseOrSet(m.SetFlag, m.AboveHorizonState, m.SetTime);
+    r.Moonrise = Rise(m);
+    r.MoonTransit = Transit(m);
+    r.Moonset = Set(m);
     // A day without a transit of its own gets a major from its neighbours' transits (starred
     // in the window); that transit happens on another day.
     r.Major1 = Crossing(m.TransitFlag, f.Major1);
     // The second major stands for the lower transit, which some days do not have.
-    r.Major2 = Crossing(Engine.MoonLowerTransitInDay(J) ? 0 : 2, f.Major2);
+    r.Major2 = Crossing(Engine.MoonLowerTransitInDay(J) ? EventFlag::InDay : EventFlag::OtherDay,
+                        f.Major2);
     r.Minor1 = Period(f.Minor1);
     r.Minor2 = Period(f.Minor2);
     r.Major1Text = f.Major1Text;
@@ -167,10 +171,10 @@ DayRow ForecastRun::Day(int year, int month, int day)
     r.Season = marks.Season;
     r.Holiday = marks.Holiday;
     r.Text = marks.Text;
-    r.SunAzimuth = Degrees(f.SkyPosition[0]);
-    r.MoonAzimuth = Degrees(f.SkyPosition[1]);
-    r.SunAltitude = Degrees(f.SkyPosition[2]);
-    r.MoonAltitude = Degrees(f.SkyPosition[3]);
+    r.SunAzimuth = Degrees(f.SkyPosition.SunAzimuth);
+    r.MoonAzimuth = Degrees(f.SkyPosition.MoonAzimuth);
+    r.SunAltitude = Degrees(f.SkyPosition.SunAltitude);
+    r.MoonAltitude = Degrees(f.SkyPosition.MoonAltitude);
     r.MoonParallacticAngle = Degrees(f.MoonParallacticAngle);
     r.UtcOffsetHours = 24.0 * (Engine.Site.ZoneDays + Engine.Site.DstOffsetDays);
     return r;

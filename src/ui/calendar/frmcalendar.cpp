@@ -402,7 +402,7 @@ void FrmCalendar::ComputeSelectedDay()
 void FrmCalendar::DoLabels()
 {
     const DayForecast& f = App.Astro.Forecast;
-    Panel = ::DoLabels(f, f.SkyPosition[3], App.Config.AmPm());
+    Panel = ::DoLabels(f, f.SkyPosition.MoonAltitude, App.Config.AmPm());
     for (const auto& [i, text] : Panel.Captions)
         Label[std::size_t(i)]->setText(Q(text));
     for (const auto& [i, colour] : Panel.Colors) {
@@ -428,7 +428,7 @@ void FrmCalendar::DrawMoonPicture(bool parallacticView)
     look.MoonColor = std::uint32_t(App.Config.MoonColor);
     look.BackColor = std::uint32_t(ToVbColor(PicM->palette().color(QPalette::Window)));
     MoonTurn turn;
-    turn.MoonAltitude = f.SkyPosition[3];
+    turn.MoonAltitude = f.SkyPosition.MoonAltitude;
     turn.MoonParallacticAngle = f.MoonParallacticAngle;
     turn.ParallacticAngle = parallacticView;
     turn.ToPictSize = ToPict->size();

@@ -26,8 +26,8 @@ TEST(ForecastRun, DayRowFromTheEngineAndTheYearTable)
     ForecastRun run(Alexandria());
     const DayRow r = run.Day(2024, 3, 31); // Easter
     run.Engine.ComputeSunDay(CivilToJd(2024, 3, 31));
-    EXPECT_DOUBLE_EQ(*r.Sunrise.Hours, run.Engine.Forecast.SunEvents(0, 0));
-    EXPECT_DOUBLE_EQ(*r.AstronomicalDusk.Hours, run.Engine.Forecast.SunEvents(3, 2));
+    EXPECT_DOUBLE_EQ(*r.Sunrise.Hours, run.Engine.Forecast.SunEvents.Horizon.RiseTime);
+    EXPECT_DOUBLE_EQ(*r.AstronomicalDusk.Hours, run.Engine.Forecast.SunEvents.Astronomical.SetTime);
     EXPECT_TRUE(r.Holiday);
     EXPECT_EQ(r.Text, " Easter Sunday ");
     EXPECT_EQ(r.Rating, run.Cal.YearDays[91].Rating);

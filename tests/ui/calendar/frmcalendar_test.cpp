@@ -89,13 +89,13 @@ TEST_F(Window, YearBarChangesTheYearAndScrollingOnlyTheNumber)
 // click on the label resets to noon.
 TEST_F(Window, HourBarMovesTheMomentOfTheDay)
 {
-    const double noonAltitude = App.Astro.Forecast.SkyPosition[3];
+    const double noonAltitude = App.Astro.Forecast.SkyPosition.MoonAltitude;
     W->VsbHour->setValue(18 * 60 + 45);
     EXPECT_EQ(Text(15), "06:45 PM");
-    EXPECT_NE(App.Astro.Forecast.SkyPosition[3], noonAltitude);
+    EXPECT_NE(App.Astro.Forecast.SkyPosition.MoonAltitude, noonAltitude);
     W->Label15_Click();
     EXPECT_EQ(W->VsbHour->value(), 720);
-    EXPECT_DOUBLE_EQ(App.Astro.Forecast.SkyPosition[3], noonAltitude);
+    EXPECT_DOUBLE_EQ(App.Astro.Forecast.SkyPosition.MoonAltitude, noonAltitude);
 }
 
 // With "On Click", hovering shows the day counter but recomputes nothing; with "On Move" a
@@ -184,7 +184,8 @@ TEST_F(Window, SouthernLocationSwapsTheQuarterPictures)
 // The moon picture: dark on the new-moon day; the parallactic view only on request.
 TEST_F(Window, MoonPictureAndItsParallacticView)
 {
-    EXPECT_EQ(Text(32), App.Astro.Forecast.SkyPosition[3] < 0 ? "Moon has Set" : "Moon is Up");
+    EXPECT_EQ(Text(32),
+              App.Astro.Forecast.SkyPosition.MoonAltitude < 0 ? "Moon has Set" : "Moon is Up");
     const QImage moon = W->PicM->pixmap().toImage();
     const QPoint centre(moon.width() / 2, moon.height() / 3);
     EXPECT_LT(qGray(moon.pixel(centre)), 80); // 10 March 2024 is a new moon
