@@ -142,9 +142,10 @@ TEST(TwoPrograms, TwoImportsNeverOverwriteEachOther)
             const QString note = notes[day - 1];
             fromA += note == QString("A %1").arg(day);
             fromB += note == QString("B %1").arg(day);
-            if (a.Status == 0 || day > 60)
+            if (a.Status == 0 || day > 60) {
                 EXPECT_TRUE(note == QString("A %1").arg(day) || note == QString("B %1").arg(day))
                     << where << " day " << day << ": " << note.toStdString();
+            }
         }
         EXPECT_EQ(fromA, a.Status == 0 ? ImportedCount(a) : 0) << where;
         EXPECT_EQ(fromB, ImportedCount(b)) << where;
@@ -184,8 +185,9 @@ TEST_P(SaveBeside, EverySaveReportedIsKept)
         const int day = line.section(' ', 1).toInt();
         EXPECT_TRUE(kept.contains(QString("saved %1").arg(day))) << "day " << day;
     }
-    if (!restoring)
+    if (!restoring) {
         EXPECT_EQ(NotesOf(path).filter("saved ").size(), DaysInYear);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(TwoPrograms, SaveBeside, testing::Values("compact", "restore"));
