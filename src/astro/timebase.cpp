@@ -2,6 +2,7 @@
 
 #include "text/vbformat.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 
@@ -90,32 +91,44 @@ std::string JdToText(double jd, bool monthFirstDates)
                         monthFirstDates ? "mm/dd/yyyy hh:nn:ss" : "dd/mm/yyyy hh:nn:ss");
 }
 
+// Hours carry the rounding of their arithmetic (16.9 h is 16 h 53.99999... min): a time this
+// close below a whole minute is that minute. Anything further below stays truncated.
+constexpr double MinuteTolerance = 1e-6;
+
 std::string FormatClock(int mode, double h, bool ampm)
 {
+    const double minutes = std::floor(h * 60.0 + MinuteTolerance);
+    double s = std::max(0.0, (h * 60.0 - minutes) * 60.0);
+    if (std::nearbyint(s) >= 60)
+        s = 59;
+    double H = std::floor(minutes / 60.0);
+    const double M = minutes - 60.0 * H;
     std::string suffix;
     if (ampm && mode != 3) {
-        const double H = std::floor(h);
         if (H > 12) {
-            h -= 12;
+            H -= 12;
             suffix = " PM";
         } else if (H == 12) {
             suffix = " PM";
         } else if (H == 0) {
-            h += 12;
+            H = 12;
             suffix = " AM";
         } else if (H >= 1) {
             suffix = " AM";
         }
     }
-    std::string text = VbFormat(std::floor(h), "0#") + ":";
-    double m = (h - std::floor(h)) * 60.0;
-    if (mode == 0 && std::nearbyint(m) >= 60)
-        m = 59;
-    text += VbFormat(std::floor(m), "0#");
-    double s = (m - std::floor(m)) * 60.0;
-    if (std::nearbyint(s) >= 60)
-        s = 59;
+    std::string text = VbFormat(H, "0#") + ":" + VbFormat(M, "0#");
     if (mode == 1)
         text += ":" + VbFormat(std::nearbyint(s), "0#");
     return text + suffix;
+}
+
+double EventMinute(double localJD) { return std::round(localJD * MinutesPerDay) / MinutesPerDay; }
+
+double EventDayJD(double localJD) { return std::floor(EventMinute(localJD) + 0.5) - 0.5; }
+
+std::string EventClock(double localJD, int mode, bool ampm)
+{
+    const double minutes = std::round((EventMinute(localJD) - EventDayJD(localJD)) * MinutesPerDay);
+    return FormatClock(mode, minutes / 60.0, ampm);
 }

@@ -12,6 +12,7 @@ constexpr double SerialEpochJD = 2415018.5;
 constexpr double Pi = 3.14159265358979323846;
 constexpr double TwoPi = 2.0 * Pi;
 constexpr double DegToRad = Pi / 180.0;
+constexpr double MinutesPerDay = 1440.0;
 
 // Delta-T in tenths of a second for the years 1620, 1622, ..., 2000.
 extern const std::array<std::int16_t, 191> DeltaTTable;
@@ -25,8 +26,16 @@ double WrapSigned(double x);
 // Date and time of a Julian day: "mm/dd/yyyy hh:nn:ss" month first, else "dd/mm/yyyy hh:nn:ss".
 std::string JdToText(double jd, bool monthFirstDates);
 
-// Clock text of a decimal hour. Mode 0 ordinary, 1 with seconds, 3 always 24-hour.
+// Clock text of a decimal hour. Mode 0 ordinary, 1 with seconds, 3 always 24-hour. Minutes
+// are truncated, seconds rounded.
 std::string FormatClock(int mode, double hours, bool ampm);
+
+// An event of the year (a phase, an apsis, a season...) as every window, list and page shows it:
+// its local clock instant to the nearest minute, the local day that minute falls on (Julian day
+// at 0h) and its clock text (FormatClock's modes).
+double EventMinute(double localJD);
+double EventDayJD(double localJD);
+std::string EventClock(double localJD, int mode, bool ampm);
 
 // Civil date of a Julian day (proleptic Gregorian from 1582 on, as Meeus ch. 7).
 struct CivilDate {

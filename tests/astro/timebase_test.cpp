@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 TEST(TimeBase, JulianDay0SplitsAtMidnight)
 {
     Astronomy a;
@@ -69,6 +71,31 @@ TEST(TimeBase, FormatClockModes)
     EXPECT_EQ(FormatClock(1, 6.5 + 30.4 / 3600.0, false), "06:30:30");
     EXPECT_EQ(FormatClock(1, 6.0 + 59.7 / 3600.0, false), "06:00:59"); // seconds never reach 60
     EXPECT_EQ(FormatClock(0, 24.0 + 10 / 60.0, false), "24:10");
+}
+
+// Every minute of the day prints as itself, however its hour was computed (16.9 h is 16:54,
+// where flooring 53.99999 minutes gave 16:53).
+TEST(TimeBase, FormatClockEveryMinuteOfTheDay)
+{
+    for (int m = 0; m < 1440; ++m) {
+        char want[8];
+        std::snprintf(want, sizeof want, "%02d:%02d", m / 60, m % 60);
+        ASSERT_EQ(FormatClock(3, m / 60.0, true), want);
+        ASSERT_EQ(FormatClock(3, (m * 60.0 + 0.999) / 3600.0, true), want);
+    }
+    EXPECT_EQ(FormatClock(0, 16.9, true), "04:54 PM");
+    EXPECT_EQ(FormatClock(0, 12.0 - 1e-12, true), "12:00 PM");
+}
+
+// An event's minute, day and text: 23:59:40 is the next day's 00:00.
+TEST(TimeBase, EventMinuteDayAndClock)
+{
+    const double day = CivilToJd(2024, 12, 31);
+    const double late = day + (23.0 * 3600.0 + 59.0 * 60.0 + 40.0) / 86400.0;
+    EXPECT_EQ(EventDayJD(late), day + 1.0);
+    EXPECT_EQ(EventClock(late, 3, false), "00:00");
+    EXPECT_EQ(EventClock(day + 0.5 + 20.0 / 86400.0, 0, true), "12:00 PM");
+    EXPECT_EQ(EventClock(day + 16.9 / 24.0, 0, false), "16:54");
 }
 
 TEST(TimeBase, JdToTextBothDateOrdersAndBeforeTheSerialEpoch)
