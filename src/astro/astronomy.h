@@ -9,6 +9,7 @@
 #include "astro/timebase.h"
 
 #include <array>
+#include <unordered_map>
 
 struct Horizontal {
     double Azimuth = 0.0; // from north through east, [0, 2pi)
@@ -116,15 +117,22 @@ public:
     std::array<double, 4> PhaseTimes{};       // new, first quarter, full, last quarter
     std::array<double, 2> PerigeeTimes{};     // perigee, the apogee after it
     std::array<double, 2> DeclinationTimes{}; // greatest north, greatest south
-    std::array<double, 4> SeasonTimes{};      // March equinox .. December solstice, dynamical time
+    std::array<double, 4> SeasonTimes{};      // March equinox .. December solstice
     std::array<double, 2> EarthApsisTimes{};  // the Earth's perihelion and aphelion
     // Each takes the cycle number k of its chapter (whole k: the cycle's first event).
     void MoonPhases(double k);
+    // Perigee, apogee and the greatest declinations are the extremes of this engine's own
+    // Moon (MoonPosition's distance and declination) next to the instants of Meeus ch. 50, 52.
     void PerigeeApogee(double k);
     void MaxDeclinations(double k);
+    enum class MoonExtreme { Apsis, North, South };
+    // The JDE of one such extreme: k of ch. 50 (whole perigee, + 0.5 apogee) or of ch. 52.
+    double RefinedMoonExtreme(MoonExtreme kind, double k);
     void Seasons(double year);
     // The Earth's perihelion and aphelion of a year (Meeus ch. 38 with Table 38.A).
     void EarthApsides(int year);
+    // The local clock Julian day of a dynamical instant (Delta-T, the zone, daylight saving).
+    double LocalInstant(double jde) const;
 
 private:
     // What one rise/transit/set search needs: 0h UT of the day, the place (degrees, west and
@@ -153,6 +161,10 @@ private:
         std::size_t Next = 0;
     };
     DayPositionCache SunDays, MoonDays;
+    // Refined Moon extremes by kind and cycle: they depend on no place, so the year tables of
+    // every month, zone and place share them; cleared when a few years' worth have gathered.
+    static constexpr std::size_t MoonExtremesKept = 1024;
+    std::unordered_map<long long, double> MoonExtremes;
     const DayPosition& SunAtDay(double jd);
     const DayPosition& MoonAtDay(double jd);
 

@@ -2,6 +2,7 @@
 
 #include "astro/astronomy.h"
 #include "astro/lunarevents_terms.h"
+#include "astro/mathutil.h"
 #include "astro/timebase.h"
 
 #include <cmath>
@@ -127,28 +128,52 @@ double FirstDeclinationCycle(double jd)
     return std::floor((jd - 2451562.5897) / 27.321582241) - 1.0;
 }
 
+double Astronomy::LocalInstant(double jde) const
+{
+    return jde - Site.ZoneDays - Site.DstOffsetDays - DeltaTSeconds(jde) / 86400.0;
+}
+
+double Astronomy::RefinedMoonExtreme(MoonExtreme kind, double k)
+{
+    const long long key = std::llround(2.0 * k) * 3 + int(kind);
+    if (const auto found = MoonExtremes.find(key); found != MoonExtremes.end())
+        return found->second;
+    // The series are good to minutes (the declinations' to an hour): steps of 72 and 7.2
+    // minutes bring the vertex to the engine's own extreme within a second.
+    constexpr std::array<double, 2> Steps = {0.05, 0.005}; // days
+    double jde = 0.0;
+    if (kind == MoonExtreme::Apsis)
+        jde = ParabolicExtremum([this](double t) { return MoonPosition(t).Distance; },
+                                PerigeeApogeeJDE(k), Steps);
+    else
+        jde = ParabolicExtremum([this](double t) { return MoonPosition(t).Delta; },
+                                DeclinationJDE(k, kind == MoonExtreme::North), Steps);
+    if (MoonExtremes.size() >= MoonExtremesKept)
+        MoonExtremes.clear();
+    MoonExtremes.emplace(key, jde);
+    return jde;
+}
+
 void Astronomy::MoonPhases(double k)
 {
-    for (std::size_t i = 0; i < 4; ++i) {
-        const double jde = PhaseJDE(k + 0.25 * double(i));
-        PhaseTimes[i] = jde - Site.ZoneDays - Site.DstOffsetDays - DeltaTSeconds(jde) / 86400.0;
-    }
+    for (std::size_t i = 0; i < 4; ++i)
+        PhaseTimes[i] = LocalInstant(PhaseJDE(k + 0.25 * double(i)));
 }
 
 void Astronomy::PerigeeApogee(double k)
 {
-    PerigeeTimes[0] = PerigeeApogeeJDE(k) - Site.ZoneDays - Site.DstOffsetDays;
-    PerigeeTimes[1] = PerigeeApogeeJDE(k + 0.5) - Site.ZoneDays - Site.DstOffsetDays;
+    for (std::size_t i = 0; i < 2; ++i)
+        PerigeeTimes[i] = LocalInstant(RefinedMoonExtreme(MoonExtreme::Apsis, k + 0.5 * double(i)));
 }
 
 void Astronomy::MaxDeclinations(double k)
 {
-    DeclinationTimes[0] = DeclinationJDE(k, true) - Site.ZoneDays - Site.DstOffsetDays;
-    DeclinationTimes[1] = DeclinationJDE(k, false) - Site.ZoneDays - Site.DstOffsetDays;
+    DeclinationTimes[0] = LocalInstant(RefinedMoonExtreme(MoonExtreme::North, k));
+    DeclinationTimes[1] = LocalInstant(RefinedMoonExtreme(MoonExtreme::South, k));
 }
 
 void Astronomy::Seasons(double year)
 {
     for (int s = 1; s <= 4; ++s)
-        SeasonTimes[std::size_t(s - 1)] = SeasonJDE(int(year), s);
+        SeasonTimes[std::size_t(s - 1)] = LocalInstant(SeasonJDE(int(year), s));
 }

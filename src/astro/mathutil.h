@@ -1,5 +1,6 @@
 // Stateless numeric helpers of the engine: polynomials by Horner's rule, three-point
-// interpolation (Meeus eq. 3.3) and inverse trigonometric functions built on the arctangent.
+// interpolation (Meeus eq. 3.3), the extreme of a smooth function (eq. 3.4) and inverse
+// trigonometric functions built on the arctangent.
 #pragma once
 
 #include <array>
@@ -22,6 +23,21 @@ inline double Interpolate3(double y1, double y2, double y3, double n)
     const double b = y3 - y2;
     const double c = b - a;
     return y2 + n / 2.0 * (a + b + n * c);
+}
+
+// The abscissa of the extreme of f near x: the vertex of the parabola through f(x - h), f(x),
+// f(x + h) (Meeus eq. 3.4), found again about each new vertex with each of the ever closer steps h.
+template <typename Function, std::size_t N>
+double ParabolicExtremum(Function f, double x, const std::array<double, N>& steps)
+{
+    for (double h : steps) {
+        const double y1 = f(x - h), y2 = f(x), y3 = f(x + h);
+        const double a = y2 - y1, b = y3 - y2, c = b - a;
+        if (c == 0.0)
+            break; // a straight line: no vertex to move to
+        x -= h * (a + b) / (2.0 * c);
+    }
+    return x;
 }
 
 inline double ArcSin(double x)

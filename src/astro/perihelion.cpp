@@ -1,6 +1,7 @@
 #include "astro/perihelion.h"
 
 #include "astro/astronomy.h"
+#include "astro/mathutil.h"
 #include "astro/timebase.h"
 
 #include <array>
@@ -40,18 +41,12 @@ static_assert(EarthTerms.size() == 5);
 
 const MeanOrbit& OrbitOf(Planet p) { return MeanOrbits[std::size_t(p)]; }
 
-// The extreme of the Earth's distance near jde, as Meeus advises for accurate instants: the
-// vertex of the parabola through three distances (eq. 3.4), with ever closer steps. The
+// The extreme of the Earth's distance near jde, as Meeus advises for accurate instants. The
 // minimum is flat, so the table's estimate can be hours away.
 double DistanceExtremum(double jde)
 {
-    for (double h : {0.5, 0.05, 0.005}) {
-        const double y1 = EarthSunDistance(jde - h), y2 = EarthSunDistance(jde),
-                     y3 = EarthSunDistance(jde + h);
-        const double a = y2 - y1, b = y3 - y2, c = b - a;
-        jde -= h * (a + b) / (2.0 * c);
-    }
-    return jde;
+    constexpr std::array<double, 3> Steps = {0.5, 0.05, 0.005}; // days
+    return ParabolicExtremum(EarthSunDistance, jde, Steps);
 }
 
 } // namespace
@@ -82,7 +77,6 @@ void Astronomy::EarthApsides(int year)
         // The perihelion falls in early January, the aphelion in early July.
         const double k = ApsisCycle(Planet::Earth, year + 0.5 * double(i), i == 1);
         const double jde = DistanceExtremum(ApsisJDE(Planet::Earth, k));
-        EarthApsisTimes[i] =
-            jde - Site.ZoneDays - Site.DstOffsetDays - DeltaTSeconds(jde) / 86400.0;
+        EarthApsisTimes[i] = LocalInstant(jde);
     }
 }
