@@ -17,11 +17,12 @@ struct DayMarks {
     std::int16_t Perigee = 0;     // 1 perigee, 2 apogee, -1 the day before or after a perigee
     std::int16_t Declination = 0; // 1 greatest north, 2 greatest south
     std::int16_t MoonAge = 0;     // whole days since the last new moon
+    // The events' local clock instants, to the minute.
     double PhaseJD = 0.0, PerigeeJD = 0.0, DeclinationJD = 0.0, SeasonJD = 0.0;
     std::int16_t Season = 0;     // 1 March equinox .. 4 December solstice
     std::int16_t EarthApsis = 0; // 1 the Earth at perihelion, 2 at aphelion
-    double EarthApsisJD = 0.0;   // local clock time
-    std::int16_t Rating = 0;     // 0..4, 4 best
+    double EarthApsisJD = 0.0;
+    std::int16_t Rating = 0; // 0..4, 4 best
 };
 
 // What one cell of the month grid shows.
@@ -46,6 +47,8 @@ extern const std::array<const char*, 5> SeasonNames; // 1..4, padded to 16
 extern const std::array<const char*, 2> PerigeeCaptions;
 extern const std::array<const char*, 4> SeasonCaptions;
 extern const std::array<const char*, 2> DeclinationCaptions;
+// The Earth's perihelion and aphelion as the event lists name them.
+extern const std::array<const char*, 2> EarthApsisNames;
 
 class Calendar {
 public:
@@ -91,8 +94,22 @@ std::string ShortClock(const std::string& s);
 // Day of year (1-based) of a date.
 int DayOfYearOf(int year, int month, int day);
 
-// The year's perigees and apogees, seasons, greatest declinations and phases into YearDays
-// (local clock time of the engine's observer), then the ratings.
+// One event of the year: its kind, its code in the year day table (Phase 1..4, Perigee 1..2,
+// Declination 1..2, Season 1..4, EarthApsis 1..2) and its local clock instant (EventMinute,
+// EventDayJD and EventClock give the minute, the day and the text every view shows).
+struct YearEvent {
+    enum class Kind { Phase, Apsis, Declination, Season, EarthApsis };
+    Kind Of = Kind::Phase;
+    std::int16_t Code = 0;
+    double LocalJD = 0.0;
+};
+
+// The events whose local day lies from firstDayJD up to, not with, endDayJD (Julian days at 0h
+// of local days), in time order, for the engine's observer.
+std::vector<YearEvent> YearEventsBetween(Astronomy& engine, double firstDayJD, double endDayJD);
+
+// The year's events into YearDays, each on the local day it falls on (the instants to the
+// minute, as the views show them), then the ratings.
 void SetYearEvents(Calendar& cal, Astronomy& engine, std::int16_t southernHemisphere);
 // Rating and moon age of every day from the phases, perigees and declinations; southern
 // hemisphere -1, northern 0.

@@ -16,12 +16,6 @@ std::string Degrees(double radians) { return VbFormat(radians * RadToDeg, "##0.0
 
 std::string Pair(const std::string& a, const std::string& b) { return a + "/" + b; }
 
-// The time of day of a local clock instant, as the event lines show it.
-std::string EventClock(double jd, bool ampm)
-{
-    return VbFormatDate(jd - SerialEpochJD, ampm ? "hh:nn AMPM" : "hh:nn");
-}
-
 void SunLines(DetailLines& out, const SunEventTable& s, bool ampm)
 {
     const auto clock = [ampm](double h) { return FormatClock(0, h, ampm); };
@@ -53,28 +47,25 @@ void MoonLines(DetailLines& out, const DayForecast& f, double transitAltitude, b
     out[24] = std::to_string(f.IllumPercent) + "%";
 }
 
-// The day's events, each with its local time of day; seasons are kept in dynamical time and
-// take the zone here.
-std::vector<std::string> EventLines(const DayMarks& d, double zoneDays, bool ampm)
+// The day's events, each with its local time of day.
+std::vector<std::string> EventLines(const DayMarks& d, bool ampm)
 {
+    const auto EventTime = [ampm](double jd) { return EventClock(jd, 0, ampm); };
     std::vector<std::string> lines;
     if (d.Phase >= 1 && d.Phase <= 4)
-        lines.push_back(std::string(PhaseNames[std::size_t(d.Phase)]) + " " +
-                        EventClock(d.PhaseJD, ampm));
+        lines.push_back(std::string(PhaseNames[std::size_t(d.Phase)]) + " " + EventTime(d.PhaseJD));
     if (d.Perigee == 1 || d.Perigee == 2)
         lines.push_back(std::string(d.Perigee == 1 ? "Moon at Perigee " : "Moon at Apogee ") +
-                        EventClock(d.PerigeeJD, ampm));
+                        EventTime(d.PerigeeJD));
     if (d.Declination == 1 || d.Declination == 2)
         lines.push_back(
             std::string(d.Declination == 1 ? "Max North Declination" : "Max South Declination") +
-            " " + EventClock(d.DeclinationJD, ampm));
+            " " + EventTime(d.DeclinationJD));
     if (d.Season >= 1 && d.Season <= 4)
-        lines.push_back(std::string(SeasonNames[std::size_t(d.Season)]) +
-                        EventClock(d.SeasonJD - zoneDays, ampm));
+        lines.push_back(std::string(SeasonNames[std::size_t(d.Season)]) + EventTime(d.SeasonJD));
     if (d.EarthApsis == 1 || d.EarthApsis == 2)
-        lines.push_back(
-            std::string(d.EarthApsis == 1 ? "Earth at Perihelion" : "Earth at Apehelion") + " " +
-            EventClock(d.EarthApsisJD, ampm));
+        lines.push_back(std::string(EarthApsisNames[std::size_t(d.EarthApsis - 1)]) + " " +
+                        EventTime(d.EarthApsisJD));
     return lines;
 }
 
@@ -94,7 +85,7 @@ DetailLines DoDetails(Astronomy& engine, const Calendar& cal, double jd, bool am
     const double transitAltitude =
         GetPicData(engine, jd + engine.Forecast.MoonEvents.TransitTime / 24.0).MoonElevation;
     MoonLines(out, engine.Forecast, transitAltitude, ampm);
-    const std::vector<std::string> events = EventLines(day, engine.Site.ZoneDays, ampm);
+    const std::vector<std::string> events = EventLines(day, ampm);
     for (int i = 0; i < EventLabelCount; ++i)
         out[FirstEventLabel + i] = i < int(events.size()) ? events[std::size_t(i)] : "";
     return out;

@@ -43,18 +43,26 @@ std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD
             line += "   " + clock(sun.RiseTime) + "   " + clock(sun.SetTime) + "     ";
         engine.ComputeDay(J);
         const MoonEventRecord& m = f.MoonEvents;
-        const bool noTransit = m.TransitFlag != EventFlag::InDay;
+        // A moon event of the day, or "****" (the list's placeholder) when the day has none.
+        const auto moon = [&](EventFlag flag, double h, const char* lead) {
+            if (flag != EventFlag::InDay)
+                return std::string("****");
+            return ampm ? ShortClock(clock(h)) : lead + clock(h);
+        };
+        const std::string rise = moon(m.RiseFlag, m.RiseTime, "   ");
+        const std::string set = moon(m.SetFlag, m.SetTime, "   ");
+        const std::string transit = moon(m.TransitFlag, m.TransitTime, "  ");
         if (ampm) {
-            PRNTrue(line, ShortClock(clock(m.RiseTime)));
-            PRNTrue(line, ShortClock(clock(m.SetTime)));
-            PRNTrue(line, noTransit ? "****" : ShortClock(clock(m.TransitTime)));
+            PRNTrue(line, rise);
+            PRNTrue(line, set);
+            PRNTrue(line, transit);
             PRNTrue(line, ShortClock(f.Major2Text));
             PRNTrue(line, ShortClock(f.Minor1Text));
             PRNTrue(line, ShortClock(f.Minor2Text));
         } else {
-            PRNFalse(line, "   " + clock(m.RiseTime));
-            PRNFalse(line, "   " + clock(m.SetTime));
-            PRNFalse(line, noTransit ? "****" : "  " + clock(m.TransitTime));
+            PRNFalse(line, rise);
+            PRNFalse(line, set);
+            PRNFalse(line, transit);
             PRNFalse(line, f.Major2Text + "  ");
             PRNFalse(line, f.Minor1Text + "  ");
             PRNFalse(line, f.Minor2Text);

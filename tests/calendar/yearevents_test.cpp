@@ -20,15 +20,12 @@ Calendar YearOf(Astronomy& engine, int year, std::int16_t south = 0)
     return cal;
 }
 
-// The writing rule of the year day table, for the instants of every kind.
+// The local day of an instant to the minute as shown (Julian day at 0h), by plain arithmetic.
+double ShownDay(double t) { return std::floor(std::round(t * 1440.0) / 1440.0 + 0.5) - 0.5; }
+// The table holds the events of the year's days and of the next year's first day.
 bool Writable(const Calendar& cal, double t)
 {
-    return std::floor(t) - cal.YearStartJD >= 0.0 &&
-           std::floor(t - cal.YearStartJD + 1.0) <= cal.YearSlots;
-}
-bool WithinYear(const Calendar& cal, double t)
-{
-    return Writable(cal, t) && t >= cal.YearStartJD && t <= cal.YearEndJD + 1.0;
+    return ShownDay(t) >= cal.YearStartJD && ShownDay(t) < cal.YearStartJD + cal.YearSlots;
 }
 
 struct Found {
@@ -41,11 +38,11 @@ Found TableOf(const Calendar& cal)
     for (int d = 0; d < int(cal.YearDays.size()); ++d) {
         const DayMarks& r = cal.YearDays[std::size_t(d)];
         if (r.Phase > 0)
-            f.Phases[r.Phase].insert(r.PhaseJD);
+            f.Phases[r.Phase].insert(ShownDay(r.PhaseJD));
         if (r.Perigee > 0)
-            f.Apsides[r.Perigee].insert(r.PerigeeJD);
+            f.Apsides[r.Perigee].insert(ShownDay(r.PerigeeJD));
         if (r.Declination > 0)
-            f.Declinations[r.Declination].insert(r.DeclinationJD);
+            f.Declinations[r.Declination].insert(ShownDay(r.DeclinationJD));
     }
     return f;
 }
@@ -59,25 +56,25 @@ Found Expected(Astronomy& engine, const Calendar& cal)
         engine.MoonPhases(k);
         for (std::size_t i = 0; i < 4; ++i)
             if (Writable(cal, engine.PhaseTimes[i]))
-                f.Phases[i + 1].insert(engine.PhaseTimes[i]);
+                f.Phases[i + 1].insert(ShownDay(engine.PhaseTimes[i]));
     }
     for (double k = FirstApsisCycle(from); k < FirstApsisCycle(to); ++k) {
         engine.PerigeeApogee(k);
         for (std::size_t i = 0; i < 2; ++i)
-            if (WithinYear(cal, engine.PerigeeTimes[i]))
-                f.Apsides[i + 1].insert(engine.PerigeeTimes[i]);
+            if (Writable(cal, engine.PerigeeTimes[i]))
+                f.Apsides[i + 1].insert(ShownDay(engine.PerigeeTimes[i]));
     }
     for (double k = FirstDeclinationCycle(from); k < FirstDeclinationCycle(to); ++k) {
         engine.MaxDeclinations(k);
         for (std::size_t i = 0; i < 2; ++i)
-            if (WithinYear(cal, engine.DeclinationTimes[i]))
-                f.Declinations[i + 1].insert(engine.DeclinationTimes[i]);
+            if (Writable(cal, engine.DeclinationTimes[i]))
+                f.Declinations[i + 1].insert(ShownDay(engine.DeclinationTimes[i]));
     }
     return f;
 }
 
 // Every year from 1900 to 2500 holds every phase, perigee, apogee and greatest declination of
-// the year, in Alexandria's zone with daylight saving.
+// the year on its local day, in Alexandria's zone with daylight saving.
 TEST(YearEvents, EveryEventOfEveryYearFrom1900To2500)
 {
     Astronomy engine;
@@ -110,7 +107,8 @@ TEST(YearEvents, CaptionsAndCodesOf2024)
     const DayMarks& equinox = cal.YearDays[std::size_t(DayOfYearOf(2024, 3, 20))];
     EXPECT_EQ(equinox.Season, 1);
     EXPECT_NE(equinox.Text.find(" Spring Eqinox "), std::string::npos);
-    EXPECT_NEAR(equinox.SeasonJD, SeasonJDE(2024, 1), 1e-9);
+    // USNO: 20 March 2024, 03:06 UT.
+    EXPECT_NEAR(equinox.SeasonJD, CivilToJd(2024, 3, 20) + (3.0 + 6.0 / 60.0) / 24.0, 0.5 / 1440.0);
     const DayMarks& solstice = cal.YearDays[std::size_t(DayOfYearOf(2024, 12, 21))];
     EXPECT_EQ(solstice.Season, 4);
     EXPECT_NE(solstice.Text.find(" Winter Solstice "), std::string::npos);
@@ -163,9 +161,8 @@ TEST(YearEvents, CaptionOrderOnASharedDay)
     EXPECT_GE(checked, 3);
 }
 
-// The day index rule at the year's edges: an instant in the first half of 1 January (integer
-// Julian day below the year's start) is not written; perigees and extremes after 0h of 1
-// January of the next year are not written, a phase up to the next day is.
+// Every event is marked on the local day of its instant as shown, the first hours of
+// 1 January and the last of 31 December included; nothing is marked before the year.
 TEST(YearEvents, EdgesOfTheYear)
 {
     Astronomy engine;
@@ -173,18 +170,31 @@ TEST(YearEvents, EdgesOfTheYear)
         const Calendar cal = YearOf(engine, year);
         for (int d = 0; d < int(cal.YearDays.size()); ++d) {
             const DayMarks& r = cal.YearDays[std::size_t(d)];
-            if (r.Phase > 0) {
-                EXPECT_GE(std::floor(r.PhaseJD), cal.YearStartJD);
-            }
-            if (r.Perigee > 0) {
-                EXPECT_LE(r.PerigeeJD, cal.YearEndJD + 1.0);
-            }
-            if (r.Declination > 0) {
-                EXPECT_LE(r.DeclinationJD, cal.YearEndJD + 1.0);
-            }
-            EXPECT_TRUE(d >= 1 || (r.Phase == 0 && r.Perigee == 0 && r.Declination == 0));
+            const double day = cal.YearStartJD + d - 1;
+            for (const auto& [code, t] : {std::pair{r.Phase, r.PhaseJD},
+                                          {r.Perigee, r.PerigeeJD},
+                                          {r.Declination, r.DeclinationJD},
+                                          {r.Season, r.SeasonJD}})
+                if (code > 0) {
+                    EXPECT_EQ(ShownDay(t), day) << year << " day " << d;
+                }
         }
     }
+}
+
+// Sydney (zone -10), 2029: the full moon of 1 January at 02:48 local time (31 December 2028,
+// 16:48 UT, PyEphem) is that day's, and rates 1-3 January Best, Best, V.Good.
+TEST(YearEvents, FullMoonInTheFirstHoursOfTheYear)
+{
+    Astronomy engine;
+    engine.Site.SetPlace(-151.21, -33.87, -10);
+    const Calendar cal = YearOf(engine, 2029, -1);
+    const DayMarks& first = cal.YearDays[1];
+    EXPECT_EQ(first.Phase, 3);
+    EXPECT_NEAR(first.PhaseJD, CivilToJd(2029, 1, 1) + (2.0 + 48.0 / 60.0) / 24.0, 1.0 / 1440.0);
+    EXPECT_EQ(first.Rating, 4);
+    EXPECT_EQ(cal.YearDays[2].Rating, 4);
+    EXPECT_EQ(cal.YearDays[3].Rating, 3);
 }
 
 TEST(YearEvents, SouthernHemisphereRatesTheSouthernExtreme)

@@ -23,8 +23,8 @@ TEST(MonthlyList, LeapFebruaryInTheTwelveHourLayout)
     ASSERT_EQ(lines.size(), 29u);
     EXPECT_EQ(lines[4].substr(0, 2), "05");
     EXPECT_EQ(lines[28].substr(0, 2), "29");
-    // Sunrise about 7 AM and sunset about 5:45 PM, shortened.
-    EXPECT_EQ(lines[0].substr(0, 22), "01  07:02 A 05:44 P 12");
+    // Sunrise about 7 AM and sunset about 5:45 PM, shortened; no moonrise that day.
+    EXPECT_EQ(lines[0].substr(0, 26), "01  07:02 A 05:44 P  XX:XX");
     EXPECT_EQ(lines[0].find(" PM"), std::string::npos);
 }
 
@@ -47,6 +47,22 @@ TEST(MonthlyList, MissingTimesReadXX)
     EXPECT_EQ(line, " XX:XX   ");
     PRNFalse(line, "06:05");
     EXPECT_EQ(line, " XX:XX   06:05 ");
+}
+
+// Seattle with daylight saving, November 2026: the Moon rises at 23:19 PST on 1 November
+// (PyEphem), which is 00:19 of 2 November on the clock; 1 November has no moonrise and shows
+// the placeholder, 2 November shows 12:19 A (moonrise is the list's third column).
+TEST(MonthlyList, DayWithoutMoonriseShowsThePlaceholder)
+{
+    Astronomy engine;
+    engine.Site.SetPlace(122.33, 47.61, 8);
+    engine.Site.DstOffsetDays = -1.0 / 24.0;
+    for (const bool ampm : {true, false}) {
+        const auto lines = MonthlyListLines(engine, CivilToJd(2026, 11, 1), 30, ampm);
+        const std::size_t rise = ampm ? 20 : 23; // after the day and the Sun's columns
+        EXPECT_EQ(lines[0].substr(rise, 6), " XX:XX") << lines[0];
+        EXPECT_EQ(lines[1].substr(rise, 8), ampm ? "12:19 A " : "   00:19") << lines[1];
+    }
 }
 
 // A day without a transit of its own shows "XX:XX" in the first major column, in both layouts.

@@ -1,6 +1,5 @@
 #include "cli/common/forecastrun.h"
 
-#include "astro/lunarevents.h"
 #include "astro/timebase.h"
 
 #include <algorithm>
@@ -54,47 +53,38 @@ DayEvent Period(double hours) { return hours == -1.0 ? DayEvent{} : DayEvent::At
 
 double Degrees(double radians) { return radians / DegToRad; }
 
-const char* const PhaseTypes[] = {"new_moon", "first_quarter", "full_moon", "last_quarter"};
-const char* const ApsisTypes[] = {"perigee", "apogee"};
-const char* const DeclinationTypes[] = {"max_north_declination", "max_south_declination"};
-const char* const SeasonTypes[] = {"march_equinox", "june_solstice", "september_equinox",
-                                   "december_solstice"};
-
-// Collects the events whose local date lies in one year, from their dynamical instants.
-class YearEventList {
-public:
-    YearEventList(int year, double utcOffsetDays)
-        : Year(year), Offset(utcOffsetDays), Start(CivilToJd(year, 1, 1) + utcOffsetDays),
-          End(CivilToJd(year + 1, 1, 1) + utcOffsetDays)
-    {
-    }
-
-    // Walks whole cycles from before the year until a cycle starts after it.
-    template <typename Visit> void WalkCycles(double firstK, Visit visit)
-    {
-        for (double k = firstK; visit(k) < End + 2.0; k += 1.0) {
-        }
-    }
-    double First() const { return Start - 2.0; }
-
-    // Adds the event at dynamical instant jde when its local date, to the minute as printed,
-    // lies in the year.
-    void Add(const char* type, double jde, const std::string& caption)
-    {
-        const double ut = jde - DeltaTSeconds(jde) / 86400.0;
-        const double local = std::round((ut - Offset) * 1440.0) / 1440.0;
-        const CivilDate c = JdToCivil(std::floor(local + 0.5 + 0.5 / 1440.0) - 0.5);
-        if (c.Year != Year)
-            return;
-        Events.push_back({type, ut, local, c.Year, c.Month, c.Day, caption});
-    }
-
-    std::vector<EventRow> Events;
-
-private:
-    int Year;
-    double Offset, Start, End;
+// The command line's name and caption of each kind of event, by its day-table code - 1.
+struct EventNames {
+    std::array<const char*, 4> Types;
+    std::array<const char*, 4> Captions;
 };
+const EventNames& NamesOf(YearEvent::Kind kind)
+{
+    static const EventNames Phases = {{"new_moon", "first_quarter", "full_moon", "last_quarter"},
+                                      {PhaseNames[1], PhaseNames[2], PhaseNames[3], PhaseNames[4]}};
+    static const EventNames Apsides = {{"perigee", "apogee"},
+                                       {PerigeeCaptions[0], PerigeeCaptions[1]}};
+    static const EventNames Declinations = {{"max_north_declination", "max_south_declination"},
+                                            {DeclinationCaptions[0], DeclinationCaptions[1]}};
+    static const EventNames Seasons = {
+        {"march_equinox", "june_solstice", "september_equinox", "december_solstice"},
+        {SeasonNames[1], SeasonNames[2], SeasonNames[3], SeasonNames[4]}};
+    static const EventNames EarthApsides = {{"perihelion", "aphelion"},
+                                            {EarthApsisNames[0], EarthApsisNames[1]}};
+    switch (kind) {
+    case YearEvent::Kind::Phase:
+        return Phases;
+    case YearEvent::Kind::Apsis:
+        return Apsides;
+    case YearEvent::Kind::Declination:
+        return Declinations;
+    case YearEvent::Kind::Season:
+        return Seasons;
+    case YearEvent::Kind::EarthApsis:
+        break;
+    }
+    return EarthApsides;
+}
 
 } // namespace
 
@@ -182,25 +172,15 @@ DayRow ForecastRun::Day(int year, int month, int day)
 
 std::vector<EventRow> ForecastRun::Events(int year)
 {
-    YearEventList list(year, Engine.Site.ZoneDays + Engine.Site.DstOffsetDays);
-    list.WalkCycles(FirstPhaseCycle(list.First()), [&](double k) {
-        for (std::size_t i = 0; i < 4; ++i)
-            list.Add(PhaseTypes[i], PhaseJDE(k + 0.25 * double(i)), PhaseNames[i + 1]);
-        return PhaseJDE(k);
-    });
-    list.WalkCycles(FirstApsisCycle(list.First()), [&](double k) {
-        for (std::size_t i = 0; i < 2; ++i)
-            list.Add(ApsisTypes[i], PerigeeApogeeJDE(k + 0.5 * double(i)), PerigeeCaptions[i]);
-        return PerigeeApogeeJDE(k);
-    });
-    list.WalkCycles(FirstDeclinationCycle(list.First()), [&](double k) {
-        for (std::size_t i = 0; i < 2; ++i)
-            list.Add(DeclinationTypes[i], DeclinationJDE(k, i == 0), DeclinationCaptions[i]);
-        return DeclinationJDE(k, true);
-    });
-    for (int s = 1; s <= 4; ++s)
-        list.Add(SeasonTypes[s - 1], SeasonJDE(year, s), SeasonNames[std::size_t(s)]);
-    std::stable_sort(list.Events.begin(), list.Events.end(),
-                     [](const EventRow& a, const EventRow& b) { return a.JD < b.JD; });
-    return std::move(list.Events);
+    const double utcOffset = Engine.Site.ZoneDays + Engine.Site.DstOffsetDays;
+    std::vector<EventRow> rows;
+    for (const YearEvent& e :
+         YearEventsBetween(Engine, CivilToJd(year, 1, 1), CivilToJd(year + 1, 1, 1))) {
+        const EventNames& names = NamesOf(e.Of);
+        const CivilDate c = JdToCivil(EventDayJD(e.LocalJD));
+        const auto i = std::size_t(e.Code - 1);
+        rows.push_back({names.Types[i], e.LocalJD + utcOffset, EventMinute(e.LocalJD), c.Year,
+                        c.Month, c.Day, names.Captions[i]});
+    }
+    return rows;
 }

@@ -349,16 +349,13 @@ std::string DaysAsIcs(const std::vector<DayRow>& rows, const IcsPlace& place,
 }
 
 namespace {
-// "YYYY-MM-DD HH:MM" of a local Julian day.
+// "YYYY-MM-DD HH:MM" of an event's local instant: the day and the minute every view shows.
 std::string LocalText(double jd)
 {
-    const double shifted = jd + 0.5 + 0.5 / 1440.0; // to the nearest minute
-    const int minutes = int((shifted - std::floor(shifted)) * 1440.0);
-    const CivilDate c = JdToCivil(std::floor(shifted) - 0.5);
-    char buf[32];
-    std::snprintf(buf, sizeof buf, "%04d-%02d-%02d %02d:%02d", c.Year, c.Month, c.Day, minutes / 60,
-                  minutes % 60);
-    return buf;
+    const CivilDate c = JdToCivil(EventDayJD(jd));
+    char date[16];
+    std::snprintf(date, sizeof date, "%04d-%02d-%02d ", c.Year, c.Month, c.Day);
+    return date + EventClock(jd, 3, false);
 }
 
 } // namespace

@@ -1,12 +1,15 @@
 #include "astro/timebase.h"
 #include "cli/common/forecastrun.h"
 #include "cli/common/formats.h"
+#include "viewrules/daydetails.h"
+#include "viewrules/daygraphdata.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <tuple>
 
 namespace {
 
@@ -247,7 +250,9 @@ TEST(ForecastRun, YearsTogetherMissNoEvent)
                                                  {"march_equinox", 365.24},
                                                  {"june_solstice", 365.24},
                                                  {"september_equinox", 365.24},
-                                                 {"december_solstice", 365.24}};
+                                                 {"december_solstice", 365.24},
+                                                 {"perihelion", 365.26},
+                                                 {"aphelion", 365.26}};
     for (int y = 1900; y <= 2500; ++y)
         for (const EventRow& e : run.Events(y)) {
             ASSERT_EQ(e.Year, y) << e.Type;
@@ -258,5 +263,106 @@ TEST(ForecastRun, YearsTogetherMissNoEvent)
             }
             last[e.Type] = e.JD;
         }
+}
+} // namespace
+
+namespace {
+// The local date (Julian day at 0h) an events-list row's universal instant falls on at a UTC
+// offset, to the minute as printed.
+double LocalDateOf(const EventRow& e, double utcOffsetDays)
+{
+    const double minute = std::round((e.JD - utcOffsetDays) * 1440.0) / 1440.0;
+    return std::floor(minute + 0.5) - 0.5;
+}
+
+// Every event of the events list is marked on its own local date in the command line's day
+// fields, and no day carries a mark the list lacks; new and full moons rate Best and a
+// perigee's neighbours are marked. Zones from -12 to +12, with and without daylight saving,
+// years across 1900-2500; 1 January and 31 December included.
+TEST(ForecastRun, DayMarksFallOnTheEventsListsDays)
+{
+    const int zones[] = {-12, -10, -5, 0, 3, 6, 8, 11};
+    const int years[] = {1900, 1957, 2029, 2100, 2317, 2500};
+    int edgeEvents = 0;
+    for (std::size_t z = 0; z < std::size(zones); ++z) {
+        const double dst = z % 2 ? -1.0 / 24.0 : 0.0;
+        ForecastRun run(Place(15.0 * zones[z], z % 3 ? 40.0 : -35.0, zones[z], dst));
+        const double offset = zones[z] / 24.0 + dst;
+        const int year = years[z % std::size(years)];
+        std::map<double, std::map<std::string, int>> marks; // date -> kind -> code
+        for (const EventRow& e : run.Events(year)) {
+            const double date = LocalDateOf(e, offset);
+            const CivilDate c = JdToCivil(date);
+            ASSERT_EQ(std::tie(c.Year, c.Month, c.Day), std::tie(e.Year, e.Month, e.Day)) << e.Type;
+            const std::string& t = e.Type;
+            const bool phase = t.find("moon") != std::string::npos || t.find("quarter") != t.npos;
+            const int code = t == "apogee" || t == "max_south_declination"     ? 2
+                             : t == "first_quarter" || t == "june_solstice"    ? 2
+                             : t == "full_moon" || t == "september_equinox"    ? 3
+                             : t == "last_quarter" || t == "december_solstice" ? 4
+                                                                               : 1;
+            const std::string kind = phase                             ? "phase"
+                                     : t.find("gee") != t.npos         ? "apsis"
+                                     : t.find("declination") != t.npos ? "declination"
+                                     : t.find("helion") != t.npos      ? "earth"
+                                                                       : "season";
+            marks[date][kind] = code;
+            edgeEvents += (e.Month == 1 && e.Day == 1) || (e.Month == 12 && e.Day == 31);
+        }
+        for (double date = CivilToJd(year, 1, 1); date < CivilToJd(year + 1, 1, 1); date += 1.0) {
+            const CivilDate c = JdToCivil(date);
+            const DayRow r = run.Day(c.Year, c.Month, c.Day);
+            auto& want = marks[date];
+            const auto code = [&](const char* kind) { return want.count(kind) ? want[kind] : 0; };
+            ASSERT_EQ(r.Phase, code("phase")) << year << "-" << c.Month << "-" << c.Day;
+            ASSERT_EQ(std::max<int>(r.Perigee, 0), code("apsis")) << c.Month << "-" << c.Day;
+            ASSERT_EQ(r.Declination, code("declination")) << c.Month << "-" << c.Day;
+            ASSERT_EQ(r.Season, code("season")) << c.Month << "-" << c.Day;
+            if (r.Phase == 1 || r.Phase == 3) {
+                EXPECT_EQ(r.Rating, 4) << c.Month << "-" << c.Day;
+            }
+            if (r.Perigee == 1 && date > CivilToJd(year, 1, 1)) {
+                EXPECT_EQ(run.Day(c.Year, c.Month, c.Day - 1).Perigee, -1);
+            }
+        }
+    }
+    EXPECT_GE(edgeEvents, 5); // the year's first and last days are really tried
+}
+
+// One instant, one text: Seattle (zone 8), 25 November 2026, the perigee reads the same in the
+// detail window, the day graph and the events list, within three minutes of the
+// Moon's real extreme (Swiss Ephemeris: 21:03 TT, 13:01 PST with the engine's Delta-T). The 2024
+// March equinox in Alexandria with daylight saving is 22:06 on 19 March (USNO: 20 March 03:06 UT)
+// in the detail window as in the list.
+TEST(ForecastRun, EventTimesReadTheSameEverywhere)
+{
+    ForecastRun seattle(Place(122.33, 47.61, 8));
+    seattle.Day(2026, 11, 25);
+    const double day = CivilToJd(2026, 11, 25);
+    const DetailLines details = DoDetails(seattle.Engine, seattle.Cal, day, true);
+    const DayMarks& marks = seattle.Cal.YearDays[std::size_t(DayOfYearOf(2026, 11, 25))];
+    ASSERT_EQ(marks.Perigee, 1);
+    const std::string graph =
+        DrawTimes(seattle.Engine.Forecast, marks, SunAltitudesOfDay(seattle.Engine, day))
+            .EventTexts.at(0);
+    const std::string list = EventsAsText(2026, seattle.Events(2026), "Seattle");
+    const std::string clock = EventClock(marks.PerigeeJD, 0, true);
+    // The engine's distance puts it two minutes later (13:03).
+    EXPECT_NEAR(marks.PerigeeJD, day + 13.0 / 24.0 + 1.0 / 1440.0, 3.0 / 1440.0);
+    EXPECT_EQ(details.at(FirstEventLabel), "Moon at Perigee " + clock);
+    EXPECT_EQ(graph, "Perigee " + clock);
+    EXPECT_NE(
+        list.find("2026-11-25 " + EventClock(marks.PerigeeJD, 3, false) + "  Moon at Perigee"),
+        std::string::npos)
+        << list;
+
+    ForecastRun alexandria(Alexandria(-1.0 / 24.0));
+    alexandria.Day(2024, 3, 19);
+    const DetailLines equinox =
+        DoDetails(alexandria.Engine, alexandria.Cal, CivilToJd(2024, 3, 19), true);
+    bool shown = false;
+    for (int i = 0; i < EventLabelCount; ++i)
+        shown = shown || equinox.at(FirstEventLabel + i) == "Spring Equinox  10:06 PM";
+    EXPECT_TRUE(shown);
 }
 } // namespace
