@@ -66,14 +66,25 @@ void Calendar::SetYearTables(Astronomy& engine, std::int16_t southernHemisphere)
     SetHolidays(*this);
 }
 
+bool Calendar::StepMonth(int step)
+{
+    const int month = CurMonth + step;
+    if (month >= 1 && month <= 12) {
+        CurMonth = static_cast<std::int16_t>(month);
+        return false;
+    }
+    CurMonth = month < 1 ? 12 : 1;
+    const int year = CurYear + step;
+    CurYear = static_cast<std::int16_t>(year < FirstYear  ? LastYear
+                                        : year > LastYear ? FirstYear
+                                                          : year);
+    return true;
+}
+
 void Calendar::ComputePrevMonthDays(Astronomy& engine, std::int16_t southernHemisphere)
 {
     const std::int16_t month = CurMonth, year = CurYear;
-    if (--CurMonth == 0) {
-        CurMonth = 12;
-        if (--CurYear < 1900)
-            CurYear = 2500;
-    }
+    StepMonth(-1);
     SetYearTables(engine, southernHemisphere);
     PrevMonthDays = MonthDays;
     CurMonth = month;

@@ -9,6 +9,10 @@
 
 class Astronomy;
 
+// The years the program covers; stepping a month past either end wraps to the other.
+constexpr int FirstYear = 1900, LastYear = 2500;
+constexpr bool ValidYear(int year) { return year >= FirstYear && year <= LastYear; }
+
 // One day of the year day table.
 struct DayMarks {
     std::string Text;             // holiday and event captions, the latest in front
@@ -67,6 +71,8 @@ public:
     double DstStartJD = 0.0, DstEndJD = 0.0;
 
     void LeapYear();
+    // Moves CurMonth one month on (+1) or back (-1); true when that changes CurYear.
+    bool StepMonth(int step);
     static std::int16_t DaysInMonth(int month); // February 28
     // Recomputes the tables for CurMonth/CurYear, then the year's events (with the engine at
     // its observer), the ratings for the hemisphere (-1 south) and the holidays.

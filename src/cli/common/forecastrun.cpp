@@ -79,9 +79,9 @@ public:
     // lies in the year.
     void Add(const char* type, double jde, const std::string& caption)
     {
-        const double ut = jde - DeltaTSeconds(jde) / 86400.0;
-        const double local = std::round((ut - Offset) * 1440.0) / 1440.0;
-        const CivilDate c = JdToCivil(std::floor(local + 0.5 + 0.5 / 1440.0) - 0.5);
+        const double ut = jde - DeltaTSeconds(jde) / SecondsPerDay;
+        const double local = std::round((ut - Offset) * MinutesPerDay) / MinutesPerDay;
+        const CivilDate c = JdToCivil(std::floor(local + 0.5 + 0.5 / MinutesPerDay) - 0.5);
         if (c.Year != Year)
             return;
         Events.push_back({type, ut, local, c.Year, c.Month, c.Day, caption});
@@ -104,7 +104,7 @@ ForecastRun::ForecastRun(const ForecastPlace& place)
     site.TimeFormats = place.DstOffsetDays != 0.0 ? 0 : 1;
     site.AMPM = place.AmPm;
     site.TwilightsInClockDay = true;
-    site.HourInstant = place.HourMinutes / 1440.0 + site.ZoneDays;
+    site.HourInstant = MinutesToDays(place.HourMinutes) + site.ZoneDays;
     SouthernHemisphere = place.Latitude < 0 ? -1 : 0;
     Cal.CurYear = 0;
 }

@@ -1,6 +1,7 @@
 #include "cli/common/formats.h"
 
 #include "astro/timebase.h"
+#include "text/timeunits.h"
 
 #include <algorithm>
 #include <array>
@@ -170,9 +171,10 @@ std::string Clock24(const DayEvent& e)
 {
     if (!e.Hours)
         return "*****";
-    const int minutes = static_cast<int>(std::floor(*e.Hours * 60.0));
+    const int minutes = static_cast<int>(std::floor(*e.Hours * MinutesPerHour));
     char buf[8];
-    std::snprintf(buf, sizeof buf, "%02d:%02d", minutes / 60 % 24, minutes % 60);
+    std::snprintf(buf, sizeof buf, "%02d:%02d", minutes / MinutesPerHour % 24,
+                  minutes % MinutesPerHour);
     return buf;
 }
 
@@ -249,7 +251,8 @@ std::string UtcStamp(const DayRow& r, double localHours)
 {
     using namespace std::chrono;
     const sys_days day0{year{r.Year} / month{unsigned(r.Month)} / unsigned(r.Day)};
-    const sys_seconds t = day0 + seconds{std::llround((localHours + r.UtcOffsetHours) * 3600.0)};
+    const sys_seconds t =
+        day0 + seconds{std::llround((localHours + r.UtcOffsetHours) * SecondsPerHour)};
     const sys_days day = floor<days>(t);
     const year_month_day ymd{day};
     const hh_mm_ss hms{t - day};
@@ -311,8 +314,8 @@ std::string TimedEvent(const DayRow& r, const std::string& what, double centre,
     const bool major = what.starts_with("major");
     const double halfMinutes = major ? 60.0 : 35.0;
     return IcsLine("BEGIN:VEVENT") + IcsLine(Uid(r, what, place.Id)) + IcsLine("DTSTAMP:" + stamp) +
-           IcsLine("DTSTART:" + UtcStamp(r, centre - halfMinutes / 60.0)) +
-           IcsLine("DTEND:" + UtcStamp(r, centre + halfMinutes / 60.0)) +
+           IcsLine("DTSTART:" + UtcStamp(r, centre - MinutesToHours(halfMinutes))) +
+           IcsLine("DTEND:" + UtcStamp(r, centre + MinutesToHours(halfMinutes))) +
            IcsLine("SUMMARY:" + IcsText((major ? "Major period" : "Minor period") +
                                         std::string(" (") + place.Name + ")")) +
            IcsLine("TRANSP:TRANSPARENT") + IcsLine("END:VEVENT");
@@ -352,12 +355,12 @@ namespace {
 // "YYYY-MM-DD HH:MM" of a local Julian day.
 std::string LocalText(double jd)
 {
-    const double shifted = jd + 0.5 + 0.5 / 1440.0; // to the nearest minute
-    const int minutes = int((shifted - std::floor(shifted)) * 1440.0);
+    const double shifted = jd + 0.5 + 0.5 / MinutesPerDay; // to the nearest minute
+    const int minutes = int((shifted - std::floor(shifted)) * MinutesPerDay);
     const CivilDate c = JdToCivil(std::floor(shifted) - 0.5);
     char buf[32];
-    std::snprintf(buf, sizeof buf, "%04d-%02d-%02d %02d:%02d", c.Year, c.Month, c.Day, minutes / 60,
-                  minutes % 60);
+    std::snprintf(buf, sizeof buf, "%04d-%02d-%02d %02d:%02d", c.Year, c.Month, c.Day,
+                  minutes / MinutesPerHour, minutes % MinutesPerHour);
     return buf;
 }
 
