@@ -2,6 +2,7 @@
 
 #include "astro/timebase.h"
 #include "calendar/calendar.h"
+#include "db/qtext.h"
 #include "pages/moonpicture.h"
 #include "pages/stockpictures.h"
 #include "pages/twips.h"
@@ -44,8 +45,6 @@ namespace {
 constexpr int FormHeightTwips = 6390;
 constexpr int FormWidthTwips = 10200;
 constexpr int CellWidth = 57, CellHeight = 48, CellGap = 1, GridLeft = 6, GridTop = 50;
-
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 // The hour bar's moment as the clock shows it.
 QString HourBarText(int minutes, bool ampm)
@@ -316,7 +315,7 @@ void FrmCalendar::BuildStatusBar()
 
 void FrmCalendar::Form_Load()
 {
-    const int top = Twips(QString::fromStdString(App.Config.FormTop).toDouble());
+    const int top = Twips(Q(App.Config.FormTop).toDouble());
     resize(Twips(FormWidthTwips), Twips(FormHeightTwips));
     move(Twips(App.Config.FormLeft), top);
     ComputingSuppressed = true;
