@@ -576,29 +576,13 @@ DbResult Rebuild(Database& damaged, const QString& target, RepairReport& report)
     Database out;
     if (DbResult opened = out.Open(target); !opened)
         return opened;
-    QSqlDatabase to = out.Connection();
-    if (!to.transaction())
-        return DbResult::Failure(ErrorText(to.lastError()));
-    if (DbResult result = RebuildAll(damaged, out, report); !result) {
-        to.rollback();
-        return result;
-    }
-    if (!to.commit())
-        return DbResult::Failure(ErrorText(to.lastError()));
+    if (DbResult rebuilt = out.InTransaction([&] { return RebuildAll(damaged, out, report); });
+        !rebuilt)
+        return rebuilt;
     return CheckIntegrity(out);
 }
 
 } // namespace
-
-DbResult RepairDB(const QString& path, const QString& connect)
-{
-    return RepairYearFile(path, connect).Result;
-}
-
-DbResult RepairDB(const QString& path, const QString& connect, FileOps& ops)
-{
-    return RepairYearFile(path, connect, ops).Result;
-}
 
 RepairReport RepairYearFile(const QString& path, const QString& connect)
 {

@@ -192,35 +192,30 @@ DbResult ApplyImport(const QString& yearFile, const ImportPlan& plan, ImportChoi
     Database db;
     if (DbResult opened = db.Open(yearFile); !opened)
         return opened;
-    QSqlDatabase link = db.Connection();
-    if (!link.transaction())
-        return DbResult::Failure(ErrorText(link.lastError()));
-    for (const ImportRow& row : plan.Rows) {
-        if (row.Occupied && choice == ImportChoice::Skip)
-            continue;
-        QStringList sets;
-        for (const auto& field : row.Fields)
-            sets << QuotedName(field.first) + QStringLiteral(" = ?");
-        QSqlQuery q(link);
-        q.prepare(QStringLiteral("UPDATE table1 SET ") + sets.join(", ") +
-                  QStringLiteral(" WHERE JulianDate = ?"));
-        for (const auto& field : row.Fields)
-            q.addBindValue(field.second);
-        q.addBindValue(row.Date);
-        if (!q.exec()) {
-            const QString why = ErrorText(q.lastError());
-            link.rollback();
-            written = 0;
-            return DbResult::Failure(
-                QStringLiteral("Line %1: %2. Nothing was imported.").arg(row.Line).arg(why));
+    const DbResult applied = db.InTransaction([&] {
+        for (const ImportRow& row : plan.Rows) {
+            if (row.Occupied && choice == ImportChoice::Skip)
+                continue;
+            QStringList sets;
+            for (const auto& field : row.Fields)
+                sets << QuotedName(field.first) + QStringLiteral(" = ?");
+            QSqlQuery q(db.Connection());
+            q.prepare(QStringLiteral("UPDATE table1 SET ") + sets.join(", ") +
+                      QStringLiteral(" WHERE JulianDate = ?"));
+            for (const auto& field : row.Fields)
+                q.addBindValue(field.second);
+            q.addBindValue(row.Date);
+            if (!q.exec())
+                return DbResult::Failure(QStringLiteral("Line %1: %2. Nothing was imported.")
+                                             .arg(row.Line)
+                                             .arg(ErrorText(q.lastError())));
+            written += q.numRowsAffected();
         }
-        written += q.numRowsAffected();
-    }
-    if (!link.commit()) {
-        written = 0;
-        return DbResult::Failure(ErrorText(link.lastError()));
-    }
-    return DbResult::Success();
+        return DbResult::Success();
+    });
+    if (!applied)
+        written = 0; // rolled back
+    return applied;
 }
 
 QStringList IssueLines(const ImportPlan& plan)
