@@ -68,14 +68,6 @@ Decimal ToDecimal(double magnitude, int decimals)
 
 } // namespace
 
-double VbRound(double value, int decimals)
-{
-    const Decimal d = ToDecimal(std::fabs(value), decimals);
-    const std::string text = (d.IntDigits.empty() ? "0" : d.IntDigits) + "." + d.FracDigits + "0";
-    const double v = std::strtod(text.c_str(), nullptr);
-    return value < 0 ? -v : v;
-}
-
 std::string VbFormat(double value, std::string_view pattern)
 {
     const auto point = pattern.find('.');
