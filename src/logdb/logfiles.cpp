@@ -297,7 +297,7 @@ namespace {
 QString YearFileOfLeftover(const QString& name)
 {
     for (const char* prefix : {"New", "Rep"}) {
-        const QString rest = name.mid(3);
+        QString rest = name.mid(3);
         if (name.startsWith(QLatin1String(prefix)) && IsYearFileName(rest))
             return rest;
     }
