@@ -91,15 +91,16 @@ void Calendar::ComputePrevMonthDays(Astronomy& engine, std::int16_t southernHemi
     CurYear = year;
 }
 
-std::array<DayCell, 37> Calendar::DrawMonth(Astronomy& engine, std::int16_t southernHemisphere,
-                                            int todayYear, int todayMonth, int todayDay)
+std::array<DayCell, MonthGridCells> Calendar::DrawMonth(Astronomy& engine,
+                                                        std::int16_t southernHemisphere,
+                                                        int todayYear, int todayMonth, int todayDay)
 {
     SetYearTables(engine, southernHemisphere);
     const int offset = FirstWeekday, last = MonthDays + offset;
     int previous = PrevMonthDays - offset + 1, next = 1;
     const int base = MonthStartDoy[std::size_t(CurMonth)] - offset;
-    std::array<DayCell, 37> cells{};
-    for (int i = 0; i < 37; ++i) {
+    std::array<DayCell, MonthGridCells> cells{};
+    for (int i = 0; i < MonthGridCells; ++i) {
         DayCell& c = cells[std::size_t(i)];
         if (i < offset || i >= last) {
             c.Of = i < offset ? DayCell::Kind::PreviousMonth : DayCell::Kind::NextMonth;

@@ -28,6 +28,9 @@ struct DayMarks {
     std::int16_t Rating = 0;     // 0..4, 4 best
 };
 
+// The cells of the month grid: a 31-day month that starts on a Saturday fills 37.
+constexpr int MonthGridCells = 37;
+
 // What one cell of the month grid shows.
 struct DayCell {
     enum class Kind { PreviousMonth, ThisMonth, NextMonth };
@@ -81,8 +84,9 @@ public:
     void ComputePrevMonthDays(Astronomy& engine, std::int16_t southernHemisphere);
     // The 37 cells of the shown month; frames today when the shown month is the clock's,
     // else day 1 (TodayCell, SelCell).
-    std::array<DayCell, 37> DrawMonth(Astronomy& engine, std::int16_t southernHemisphere,
-                                      int todayYear, int todayMonth, int todayDay);
+    std::array<DayCell, MonthGridCells> DrawMonth(Astronomy& engine,
+                                                  std::int16_t southernHemisphere, int todayYear,
+                                                  int todayMonth, int todayDay);
 };
 
 bool IsLeapYear(int year);

@@ -192,7 +192,7 @@ DbResult ApplyImport(const QString& yearFile, const ImportPlan& plan, ImportChoi
     Database db;
     if (DbResult opened = db.Open(yearFile); !opened)
         return opened;
-    const DbResult applied = db.InTransaction([&] {
+    DbResult applied = db.InTransaction([&] {
         for (const ImportRow& row : plan.Rows) {
             if (row.Occupied && choice == ImportChoice::Skip)
                 continue;

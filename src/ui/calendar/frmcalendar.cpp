@@ -146,7 +146,7 @@ void FrmCalendar::BuildControls()
     Label[1]->setText(
         QStringLiteral("    Sun            Mon           Tue            Wed          Thu "
                        "            Fri             Sat"));
-    for (int i = 0; i < 37; ++i) {
+    for (int i = 0; i < MonthGridCells; ++i) {
         auto* cell = new DayCellWidget(i, central);
         cell->setGeometry(GridLeft + (i % 7) * (CellWidth + CellGap),
                           GridTop + (i / 7) * (CellHeight + CellGap), CellWidth, CellHeight);
