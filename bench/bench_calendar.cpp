@@ -11,12 +11,12 @@ void BM_SetYearTables(benchmark::State& state)
 {
     Astronomy engine;
     Calendar cal;
-    int year = 1900;
+    int year = FirstYear;
     for (auto _ : state) {
         cal.CurYear = std::int16_t(year);
         cal.SetYearTables(engine, 0);
         benchmark::DoNotOptimize(cal.YearDays.data());
-        year = year == 2500 ? 1900 : year + 1;
+        year = year == LastYear ? FirstYear : year + 1;
     }
 }
 

@@ -2,6 +2,8 @@
 // J2000.0, sidereal time (Meeus ch. 12), Delta-T, range reduction and the clock texts.
 #pragma once
 
+#include "text/timeunits.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
@@ -12,7 +14,6 @@ constexpr double SerialEpochJD = 2415018.5;
 constexpr double Pi = 3.14159265358979323846;
 constexpr double TwoPi = 2.0 * Pi;
 constexpr double DegToRad = Pi / 180.0;
-constexpr double MinutesPerDay = 1440.0;
 
 // Delta-T in tenths of a second for the years 1620, 1622, ..., 2000.
 extern const std::array<std::int16_t, 191> DeltaTTable;

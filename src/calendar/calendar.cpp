@@ -66,29 +66,41 @@ void Calendar::SetYearTables(Astronomy& engine, std::int16_t southernHemisphere)
     SetHolidays(*this);
 }
 
+bool Calendar::StepMonth(int step)
+{
+    const int month = CurMonth + step;
+    if (month >= 1 && month <= 12) {
+        CurMonth = static_cast<std::int16_t>(month);
+        return false;
+    }
+    CurMonth = month < 1 ? 12 : 1;
+    const int year = CurYear + step;
+    CurYear = static_cast<std::int16_t>(year < FirstYear  ? LastYear
+                                        : year > LastYear ? FirstYear
+                                                          : year);
+    return true;
+}
+
 void Calendar::ComputePrevMonthDays(Astronomy& engine, std::int16_t southernHemisphere)
 {
     const std::int16_t month = CurMonth, year = CurYear;
-    if (--CurMonth == 0) {
-        CurMonth = 12;
-        if (--CurYear < 1900)
-            CurYear = 2500;
-    }
+    StepMonth(-1);
     SetYearTables(engine, southernHemisphere);
     PrevMonthDays = MonthDays;
     CurMonth = month;
     CurYear = year;
 }
 
-std::array<DayCell, 37> Calendar::DrawMonth(Astronomy& engine, std::int16_t southernHemisphere,
-                                            int todayYear, int todayMonth, int todayDay)
+std::array<DayCell, MonthGridCells> Calendar::DrawMonth(Astronomy& engine,
+                                                        std::int16_t southernHemisphere,
+                                                        int todayYear, int todayMonth, int todayDay)
 {
     SetYearTables(engine, southernHemisphere);
     const int offset = FirstWeekday, last = MonthDays + offset;
     int previous = PrevMonthDays - offset + 1, next = 1;
     const int base = MonthStartDoy[std::size_t(CurMonth)] - offset;
-    std::array<DayCell, 37> cells{};
-    for (int i = 0; i < 37; ++i) {
+    std::array<DayCell, MonthGridCells> cells{};
+    for (int i = 0; i < MonthGridCells; ++i) {
         DayCell& c = cells[std::size_t(i)];
         if (i < offset || i >= last) {
             c.Of = i < offset ? DayCell::Kind::PreviousMonth : DayCell::Kind::NextMonth;

@@ -9,6 +9,10 @@
 
 class Astronomy;
 
+// The years the program covers; stepping a month past either end wraps to the other.
+constexpr int FirstYear = 1900, LastYear = 2500;
+constexpr bool ValidYear(int year) { return year >= FirstYear && year <= LastYear; }
+
 // One day of the year day table.
 struct DayMarks {
     std::string Text;             // holiday and event captions, the latest in front
@@ -24,6 +28,9 @@ struct DayMarks {
     double EarthApsisJD = 0.0;
     std::int16_t Rating = 0; // 0..4, 4 best
 };
+
+// The cells of the month grid: a 31-day month that starts on a Saturday fills 37.
+constexpr int MonthGridCells = 37;
 
 // What one cell of the month grid shows.
 struct DayCell {
@@ -70,6 +77,8 @@ public:
     double DstStartJD = 0.0, DstEndJD = 0.0;
 
     void LeapYear();
+    // Moves CurMonth one month on (+1) or back (-1); true when that changes CurYear.
+    bool StepMonth(int step);
     static std::int16_t DaysInMonth(int month); // February 28
     // Recomputes the tables for CurMonth/CurYear, then the year's events (with the engine at
     // its observer), the ratings for the hemisphere (-1 south) and the holidays.
@@ -78,8 +87,9 @@ public:
     void ComputePrevMonthDays(Astronomy& engine, std::int16_t southernHemisphere);
     // The 37 cells of the shown month; frames today when the shown month is the clock's,
     // else day 1 (TodayCell, SelCell).
-    std::array<DayCell, 37> DrawMonth(Astronomy& engine, std::int16_t southernHemisphere,
-                                      int todayYear, int todayMonth, int todayDay);
+    std::array<DayCell, MonthGridCells> DrawMonth(Astronomy& engine,
+                                                  std::int16_t southernHemisphere, int todayYear,
+                                                  int todayMonth, int todayDay);
 };
 
 bool IsLeapYear(int year);

@@ -409,28 +409,21 @@ bool ExecBound(QSqlQuery& q, const QString& sql,
 
 DbResult Database::InsertRecords(const QString& table, const std::vector<FieldValues>& records)
 {
-    QSqlDatabase db = Connection();
-    if (!db.transaction())
-        return DbResult::Failure(ErrorText(db.lastError()));
-    QSqlQuery q(db);
-    std::vector<std::pair<ColumnInfo, QVariant>> prepared;
-    const std::vector<ColumnInfo> columns = Columns(table); // read once for all the records
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        DbResult result = Prepare(columns, table, records[i], prepared);
-        if (result && !ExecBound(q, InsertSql(table, prepared), prepared))
-            result = DbResult::Failure(ErrorText(q.lastError()));
-        if (!result) {
-            q = QSqlQuery();
-            db.rollback();
-            return DbResult::Failure(QStringLiteral("Record %1 not saved, no record added: %2")
-                                         .arg(i + 1)
-                                         .arg(result.Message));
+    return InTransaction([&] {
+        QSqlQuery q(Connection());
+        std::vector<std::pair<ColumnInfo, QVariant>> prepared;
+        const std::vector<ColumnInfo> columns = Columns(table); // read once for all the records
+        for (std::size_t i = 0; i < records.size(); ++i) {
+            DbResult result = Prepare(columns, table, records[i], prepared);
+            if (result && !ExecBound(q, InsertSql(table, prepared), prepared))
+                result = DbResult::Failure(ErrorText(q.lastError()));
+            if (!result)
+                return DbResult::Failure(QStringLiteral("Record %1 not saved, no record added: %2")
+                                             .arg(i + 1)
+                                             .arg(result.Message));
         }
-    }
-    q = QSqlQuery();
-    if (!db.commit())
-        return DbResult::Failure(ErrorText(db.lastError()));
-    return DbResult::Success();
+        return DbResult::Success();
+    });
 }
 
 DbResult Database::InsertRecord(const QString& table, const FieldValues& fields, QVariant& newKey)

@@ -109,12 +109,12 @@ public:
 
     // The connection, for the layer's own file operations.
     QSqlDatabase Connection() const;
+    // Runs the steps in one transaction, rolled back when a step fails.
+    DbResult InTransaction(const std::function<DbResult()>& steps);
 
 private:
     DbResult CheckPassword(const QString& connect);
     DbResult RunInTransaction(const std::vector<QString>& statements);
-    // Runs the steps in one transaction, rolled back when a step fails.
-    DbResult InTransaction(const std::function<DbResult()>& steps);
     // One UPDATE of the record with the key; nothing to do when there are no fields.
     DbResult UpdateIn(const QString& table, const QString& keyColumn, const QVariant& key,
                       const FieldValues& fields);

@@ -135,6 +135,15 @@ DbResult DataControl::CheckCanMove() const
     return DbResult::Success();
 }
 
+DbResult DataControl::CheckCanChange() const
+{
+    if (DbResult can = CheckCanMove(); !can)
+        return can;
+    if (!Updatable())
+        return DbResult::Failure(QStringLiteral("Database or object is read-only."));
+    return DbResult::Success();
+}
+
 DbResult DataControl::MoveTo(int index)
 {
     if (DbResult can = CheckCanMove(); !can)
@@ -246,10 +255,8 @@ DbResult DataControl::FindFirst(const QString& condition, const QVariantList& pa
 
 DbResult DataControl::Edit()
 {
-    if (DbResult can = CheckCanMove(); !can)
+    if (DbResult can = CheckCanChange(); !can)
         return can;
-    if (!Updatable())
-        return DbResult::Failure(QStringLiteral("Database or object is read-only."));
     if (!HasCurrent())
         return DbResult::Failure(NoCurrentRecord);
     buffer_ = rows_[std::size_t(position_)];
@@ -260,10 +267,8 @@ DbResult DataControl::Edit()
 
 DbResult DataControl::AddNew()
 {
-    if (DbResult can = CheckCanMove(); !can)
+    if (DbResult can = CheckCanChange(); !can)
         return can;
-    if (!Updatable())
-        return DbResult::Failure(QStringLiteral("Database or object is read-only."));
     buffer_.assign(fields_.size(), QVariant());
     changed_.assign(fields_.size(), false);
     editState_ = EditState::Adding;
@@ -353,10 +358,8 @@ DbResult DataControl::Update()
 
 DbResult DataControl::Delete()
 {
-    if (DbResult can = CheckCanMove(); !can)
+    if (DbResult can = CheckCanChange(); !can)
         return can;
-    if (!Updatable())
-        return DbResult::Failure(QStringLiteral("Database or object is read-only."));
     if (!HasCurrent())
         return DbResult::Failure(NoCurrentRecord);
     DbResult deleted = db_.DeleteRecord(sourceTable_, fields_[std::size_t(keyIndex_)],
@@ -366,13 +369,6 @@ DbResult DataControl::Delete()
     rows_.erase(rows_.begin() + position_);
     SetPosition(std::min(position_, std::max(RecordCount() - 1, 0)));
     return DbResult::Success();
-}
-
-QVariant DataControl::Bookmark() const
-{
-    if (!HasCurrent() || keyIndex_ < 0)
-        return {};
-    return rows_[std::size_t(position_)][std::size_t(keyIndex_)];
 }
 
 DbResult DataControl::SetBookmark(const QVariant& bookmark)
@@ -407,10 +403,8 @@ void DataControl::ShowBound()
 
 DbResult DataControl::AddRecords(const std::vector<FieldValues>& records)
 {
-    if (DbResult can = CheckCanMove(); !can)
+    if (DbResult can = CheckCanChange(); !can)
         return can;
-    if (!Updatable())
-        return DbResult::Failure(QStringLiteral("Database or object is read-only."));
     if (DbResult added = db_.InsertRecords(sourceTable_, records); !added)
         return added;
     return Refresh();
@@ -418,10 +412,8 @@ DbResult DataControl::AddRecords(const std::vector<FieldValues>& records)
 
 DbResult DataControl::UpdateRecords(const std::vector<RecordChange>& changes)
 {
-    if (DbResult can = CheckCanMove(); !can)
+    if (DbResult can = CheckCanChange(); !can)
         return can;
-    if (!Updatable())
-        return DbResult::Failure(QStringLiteral("Database or object is read-only."));
     if (DbResult updated =
             db_.UpdateRecords(sourceTable_, fields_[std::size_t(keyIndex_)], changes);
         !updated)

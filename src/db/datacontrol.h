@@ -57,8 +57,6 @@ public:
     DbResult Refresh();
     // Drops the result and closes the file.
     void Close();
-    // The open file, for statements of the window's own.
-    Database& Db() { return db_; }
 
     DbResult MoveFirst();
     DbResult MoveLast();
@@ -89,8 +87,7 @@ public:
     DbResult Delete();
     EditState EditMode() const { return editState_; }
 
-    // Bookmarks are key values: the current record's, and the last one saved.
-    QVariant Bookmark() const;
+    // Bookmarks are key values: a record's key, and the last one saved.
     DbResult SetBookmark(const QVariant& bookmark);
     QVariant LastModified() const { return lastModified_; }
     bool Updatable() const { return keyIndex_ >= 0; }
@@ -132,6 +129,7 @@ private:
     void ShowBound();
     bool HasCurrent() const;
     DbResult CheckCanMove() const;
+    DbResult CheckCanChange() const; // CheckCanMove, and a key to write by
     DbResult CollectBoundEntries();
     FieldValues ChangedFields() const;
     DbResult ReadBack(const QString& keyColumn, const QVariant& key, std::vector<QVariant>& row);

@@ -1,5 +1,6 @@
 #include "db/storedforms.h"
 
+#include "text/timeunits.h"
 #include "text/vbformat.h"
 
 #include <cctype>
@@ -212,11 +213,12 @@ std::optional<double> StoredSerial(std::string_view stored)
     if (dt->DatePart) {
         const Date& d = *dt->DatePart;
         const sys_days day{year{d.Year} / month{unsigned(d.Month)} / unsigned(d.Day)};
-        serial = double((day - sys_days{year{1899} / December / 30}).count());
+        serial = double((day - SerialDayZero).count());
     }
     if (dt->TimePart) {
         const Time& t = *dt->TimePart;
-        serial += (t.Hour * 3600 + t.Minute * 60 + t.Second) / 86400.0;
+        serial += (t.Hour * SecondsPerHour + t.Minute * SecondsPerMinute + t.Second) /
+                  double(SecondsPerDay);
     }
     return serial;
 }

@@ -1,6 +1,7 @@
 #include "logdb/catchstats.h"
 
 #include "db/storedforms.h"
+#include "text/timeunits.h"
 
 #include <algorithm>
 #include <cctype>
@@ -11,14 +12,13 @@
 namespace {
 
 constexpr double SynodicMonthDays = 29.530589;
-constexpr long SecondsPerDay = 86400;
 
 bool Blank(const std::string& text)
 {
     return std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isspace(c); });
 }
 
-long SecondsOfHour(double hours) { return std::lround(hours * 3600.0); }
+long SecondsOfHour(double hours) { return std::lround(hours * SecondsPerHour); }
 
 // "7:00 AM" -> seconds after midnight.
 std::optional<long> SecondsOfClockText(const std::string& text)
@@ -102,7 +102,7 @@ std::optional<double> PeakDistanceMinutes(const CatchDay& day)
         const long apart = std::labs(*peak - SecondsOfHour(hours)) % SecondsPerDay;
         nearest = std::min({nearest, apart, SecondsPerDay - apart});
     }
-    return static_cast<double>(nearest) / 60.0;
+    return static_cast<double>(nearest) / SecondsPerMinute;
 }
 
 double CatchGroup::PerDay() const

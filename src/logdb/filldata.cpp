@@ -3,6 +3,7 @@
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
 #include "db/datacontrol.h"
+#include "text/timeunits.h"
 #include "text/vbformat.h"
 
 namespace {
@@ -93,7 +94,7 @@ DbResult FillYear(Astronomy& engine, const Calendar& cal, std::int32_t daylightB
     std::vector<FieldValues> records;
     records.reserve(std::size_t(L));
     for (int d = 1; d <= L; ++d) {
-        engine.Site.DstOffsetDays = S <= d && d <= E - 1 ? daylightBias / 1440.0 : 0.0;
+        engine.Site.DstOffsetDays = S <= d && d <= E - 1 ? MinutesToDays(daylightBias) : 0.0;
         if (progress)
             progress(d, L);
         records.push_back(DayRecord(engine, cal, d));

@@ -363,7 +363,7 @@ namespace {
 QString YearFileOfLeftover(const QString& name)
 {
     for (const char* prefix : {"New", "Rep"}) {
-        const QString rest = name.mid(3);
+        QString rest = name.mid(3);
         if (name.startsWith(QLatin1String(prefix)) && IsYearFileName(rest))
             return rest;
     }
@@ -668,29 +668,14 @@ DbResult Rebuild(const QString& path, Database& damaged, const QString& target,
     Database out;
     if (DbResult opened = out.Open(target); !opened)
         return opened;
-    QSqlDatabase to = out.Connection();
-    if (!to.transaction())
-        return DbResult::Failure(ErrorText(to.lastError()));
-    if (DbResult result = RebuildAll(path, damaged, out, report); !result) {
-        to.rollback();
-        return result;
-    }
-    if (!to.commit())
-        return DbResult::Failure(ErrorText(to.lastError()));
+    if (DbResult rebuilt =
+            out.InTransaction([&] { return RebuildAll(path, damaged, out, report); });
+        !rebuilt)
+        return rebuilt;
     return CheckIntegrity(out);
 }
 
 } // namespace
-
-DbResult RepairDB(const QString& path, const QString& connect)
-{
-    return RepairYearFile(path, connect).Result;
-}
-
-DbResult RepairDB(const QString& path, const QString& connect, FileOps& ops)
-{
-    return RepairYearFile(path, connect, ops).Result;
-}
 
 RepairReport RepairYearFile(const QString& path, const QString& connect)
 {

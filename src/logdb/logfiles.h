@@ -96,11 +96,6 @@ std::optional<RestorableYear> DeletedYear(const QString& folder, int year);
 DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept);
 DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept, FileOps& ops);
 
-// Checks the file and, when it is damaged, rebuilds it with every record that can still be
-// read; the damaged file is kept as "<first four characters>.BAD".
-DbResult RepairDB(const QString& path, const QString& connect = {});
-DbResult RepairDB(const QString& path, const QString& connect, FileOps& ops);
-
 // What a repair did, in words for the angler.
 struct RepairReport {
     DbResult Result;
@@ -114,7 +109,8 @@ struct RepairReport {
     QString Summary() const;
 };
 
-// RepairDB with the counts of what was kept.
+// Checks the file and, when it is damaged, rebuilds it with every record that can still be
+// read; the damaged file is kept as "<first four characters>.BAD". Says what was kept.
 RepairReport RepairYearFile(const QString& path, const QString& connect = {});
 RepairReport RepairYearFile(const QString& path, const QString& connect, FileOps& ops);
 

@@ -235,25 +235,20 @@ DbResult ApplyImport(const QString& yearFile, const ImportPlan& plan, ImportChoi
     if (DbResult opened = db.Open(yearFile); !opened)
         return opened;
     QSqlDatabase link = db.Connection();
-    if (!link.transaction())
-        return DbResult::Failure(ErrorText(link.lastError()));
-    for (const ImportRow& row : plan.Rows) {
-        if (choice == ImportChoice::Skip && (row.Occupied || HoldsEntryNow(link, row.Date))) {
-            count.GainedEntry += row.Occupied ? 0 : 1;
-            continue;
+    DbResult applied = db.InTransaction([&] {
+        for (const ImportRow& row : plan.Rows) {
+            if (choice == ImportChoice::Skip && (row.Occupied || HoldsEntryNow(link, row.Date))) {
+                count.GainedEntry += row.Occupied ? 0 : 1;
+                continue;
+            }
+            if (DbResult wrote = WriteRow(link, row, count.Written); !wrote)
+                return wrote;
         }
-        if (DbResult wrote = WriteRow(link, row, count.Written); !wrote) {
-            link.rollback();
-            count = {};
-            return wrote;
-        }
-    }
-    if (!link.commit()) {
-        count = {};
-        return DbResult::Failure(ErrorText(link.lastError()) +
-                                 QStringLiteral(" Nothing was imported."));
-    }
-    return DbResult::Success();
+        return DbResult::Success();
+    });
+    if (!applied)
+        count = {}; // rolled back
+    return applied;
 }
 
 QString GainedEntryNote(const ImportCount& count)

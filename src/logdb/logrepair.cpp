@@ -1,5 +1,6 @@
 #include "logdb/logrepair.h"
 
+#include "calendar/calendar.h"
 #include "db/database.h"
 #include "logdb/pagesalvage.h"
 
@@ -43,6 +44,7 @@ constexpr std::array<ColumnRange, 20> Ranges = {{
     {"TakenWith", "length(TakenWith) <= 255"},
     {"PeakTime", "length(PeakTime) <= 50"},
 }};
+static_assert(FirstYear == 1900 && LastYear == 2500, "the JulianDate range names the years");
 
 QVariant ToVariant(const SalvagedValue& value)
 {

@@ -2,6 +2,8 @@
 // program when the main window opens them.
 #pragma once
 
+#include "model/settings.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -20,8 +22,8 @@ struct LogContext {
     LogState& State;
     const Astronomy& Engine; // at the current location; the fill works on a copy
     std::int16_t SouthernHemisphere = 0;
-    std::int32_t DaylightBias = -60; // minutes
-    std::uint32_t MoonColor = 16777215;
+    std::int32_t DaylightBias = DefaultDaylightBias; // minutes
+    std::uint32_t MoonColor = DefaultMoonColor;
     std::int16_t CurYear = 2000; // the year shown in the main window
     QString Folder;              // the program's folder
 };

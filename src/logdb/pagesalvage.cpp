@@ -60,7 +60,9 @@ SalvagedValue DecodeValue(std::int64_t type, const std::uint8_t* p, std::size_t 
         return std::int64_t(type - 8);
     if (type == 0)
         return std::monostate{};
-    std::uint64_t bits = 0;
+    // A big-endian integer, sign-extended: a negative one starts from all ones, which its
+    // bytes then push out (all of them for the 8 bytes of a double).
+    std::uint64_t bits = (p[0] & 0x80) != 0 ? ~std::uint64_t{0} : 0;
     for (std::size_t i = 0; i < size; ++i)
         bits = (bits << 8) | p[i];
     if (type == 7) {
@@ -68,8 +70,7 @@ SalvagedValue DecodeValue(std::int64_t type, const std::uint8_t* p, std::size_t 
         std::memcpy(&d, &bits, sizeof d);
         return d;
     }
-    const int shift = int(64 - 8 * size); // sign-extend the big-endian integer
-    return std::int64_t(bits << shift) >> shift;
+    return std::int64_t(bits);
 }
 
 struct Reader {

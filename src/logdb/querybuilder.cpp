@@ -158,7 +158,7 @@ std::string ConditionText(const QueryForm& form, int i, std::string& error, bool
 {
     step = true;
     if (i == 2) {
-        const std::string text = DaysOfWeekCondition(form, error);
+        std::string text = DaysOfWeekCondition(form, error);
         step = !text.empty();
         return text;
     }

@@ -1,5 +1,7 @@
 #include "model/cityrows.h"
 
+#include "text/timeunits.h"
+
 #include <algorithm>
 #include <cctype>
 #include <cmath>
@@ -96,7 +98,7 @@ std::optional<CityRow> CityRowFrom(const SourceCity& city)
     // The location's zone list runs from 12 hours west to 12 east (Samoa's and Tonga's 13
     // hours east do not fit).
     const auto offset = city.StandardOffsetSeconds;
-    if (!offset || *offset % 3600 != 0 || std::abs(*offset / 3600) > 12)
+    if (!offset || *offset % SecondsPerHour != 0 || std::abs(*offset / SecondsPerHour) > 12)
         return std::nullopt;
     CityRow row;
     const std::string code = city.CountryCode == "US" ? UsPostalCode(city.Region) : "";
@@ -106,7 +108,7 @@ std::optional<CityRow> CityRowFrom(const SourceCity& city)
     row.LongChar = city.Longitude < 0 ? "W" : "E";
     row.LatInDegrees = Hundredths(city.Latitude);
     row.LatChar = city.Latitude < 0 ? "S" : "N";
-    row.Timezone = std::int16_t(-*city.StandardOffsetSeconds / 3600);
+    row.Timezone = std::int16_t(-*city.StandardOffsetSeconds / SecondsPerHour);
     return row;
 }
 

@@ -1,5 +1,6 @@
 #include "model/currentlocation.h"
 
+#include "text/timeunits.h"
 #include "text/vbformat.h"
 
 #include <cmath>
@@ -22,7 +23,7 @@ void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site)
 
     std::string mode;
     if (s.TimeFormats == 1 || s.TimeFormats == 0) {
-        site.DstOffsetDays = s.TimeFormats == 0 ? s.DaylightBias / 1440.0 : 0.0;
+        site.DstOffsetDays = s.TimeFormats == 0 ? MinutesToDays(s.DaylightBias) : 0.0;
         mode = s.TimeFormats == 0 ? "DST" : "STD";
         s.AMPM = "True";
     }

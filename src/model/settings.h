@@ -3,14 +3,20 @@
 #pragma once
 
 #include "model/location.h"
+#include "text/timeunits.h"
 
 #include <cstdint>
 #include <string>
 
+constexpr std::int32_t DefaultMoonColor = 0xFFFFFF; // white, as 0x00BBGGRR
+// The daylight bias where the computer's zone has no daylight saving: the "Daylight Savings"
+// choice still means one hour.
+constexpr std::int32_t DefaultDaylightBias = -MinutesPerHour;
+
 struct Settings {
     std::string AMPM = "True";
     std::string DefLoc = "1";
-    std::int32_t MoonColor = 16777215;
+    std::int32_t MoonColor = DefaultMoonColor;
     std::string HemiSphere = "North";
     std::int16_t Graphic = 0;
     bool MouseClick = true;
@@ -21,7 +27,7 @@ struct Settings {
     LocationTable Locations;
 
     std::int16_t CurLoc = 1;
-    std::int32_t DaylightBias = -60; // minutes, from the computer's time zone
+    std::int32_t DaylightBias = DefaultDaylightBias; // minutes, from the computer's time zone
     bool MonthFirstDates = true;
     char DateSeparator = '/';
     double SelectedJD = 0.0; // Julian day at 0h of the selected day

@@ -2,6 +2,7 @@
 
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
+#include "db/qtext.h"
 #include "pages/pages.h"
 #include "pages/stockpictures.h"
 
@@ -19,8 +20,6 @@ const QString PageFont = QStringLiteral("Arial");
 // Offsets inside a box, in twips.
 constexpr double Inset = 50, PictureSize = 330, FishWidth = 680, FishHeight = 280;
 constexpr double FishTop = 330, MajorsTop = 600, MinorsTop = 800;
-
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 // Each weekday's name centred over its column, whatever the font.
 void DrawHeader(QPainter& p)

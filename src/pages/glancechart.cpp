@@ -1,6 +1,7 @@
 #include "pages/glancechart.h"
 
 #include "calendar/calendar.h"
+#include "db/qtext.h"
 #include "pages/pages.h"
 #include "pages/stockpictures.h"
 
@@ -29,7 +30,6 @@ GlanceStem Labelled(double x, double axis, double height, const char* label, dou
     return s;
 }
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 } // namespace
 
 GlanceChart GlanceChartOf(const Calendar& cal, std::int16_t southernHemisphere, double width,
@@ -101,7 +101,7 @@ PageDrawing GlanceChartDrawing(GlanceChart chart)
         PlaceTwips(p, area, QSizeF(chart.Width, PictureBelowTop + chart.Height), PrintScale);
         p.setFont(TwipsFont(QStringLiteral("Arial"), 10, false));
         p.drawText(QRectF(0, TitleLine, chart.Width, TitleLine), Qt::AlignLeft | Qt::AlignTop,
-                   QString::fromStdString(chart.Title));
+                   Q(chart.Title));
         p.translate(0, PictureBelowTop);
         DrawGlanceChart(p, chart);
         return false;

@@ -3,6 +3,8 @@
 // turned by the parallactic angle so that it shows the Moon as it stands in the sky.
 #pragma once
 
+#include "model/settings.h"
+
 #include <QImage>
 
 #include <array>
@@ -14,11 +16,11 @@ extern const std::array<double, 51> TerminatorAspect;
 
 // What the picture shows.
 struct MoonLook {
-    std::int16_t IllumPercent = 0;       // 0..100
-    std::int16_t Waxing = 0;             // 1 waxing, 0 waning
-    std::int16_t SouthernHemisphere = 0; // -1 south of the equator: the lit side swaps
-    std::uint32_t MoonColor = 16777215;  // the lit part, 0x00BBGGRR
-    std::uint32_t BackColor = 0xC0C0C0;  // the picture box behind the disc
+    std::int16_t IllumPercent = 0;              // 0..100
+    std::int16_t Waxing = 0;                    // 1 waxing, 0 waning
+    std::int16_t SouthernHemisphere = 0;        // -1 south of the equator: the lit side swaps
+    std::uint32_t MoonColor = DefaultMoonColor; // the lit part, 0x00BBGGRR
+    std::uint32_t BackColor = 0xC0C0C0;         // the picture box behind the disc
 };
 
 // The main window's turned view; the log browser has none.

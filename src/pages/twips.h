@@ -3,8 +3,6 @@
 #pragma once
 
 #include <QColor>
-#include <QPoint>
-#include <QRect>
 
 #include <cmath>
 #include <cstdint>
@@ -13,11 +11,6 @@ constexpr int TwipsPerPixel = 15;
 
 inline int Twips(double twips) { return static_cast<int>(std::lround(twips / TwipsPerPixel)); }
 constexpr int PixelsToTwips(int pixels) { return pixels * TwipsPerPixel; }
-inline QPoint TwipsPoint(double x, double y) { return {Twips(x), Twips(y)}; }
-inline QRect TwipsRect(double left, double top, double width, double height)
-{
-    return {Twips(left), Twips(top), Twips(width), Twips(height)};
-}
 
 // 0x00BBGGRR -> QColor (white 16777215, light grey 0xC0C0C0).
 inline QColor VbColor(std::uint32_t bgr)

@@ -107,7 +107,8 @@ void LoadSettings(Settings& s, const SettingsStore& store)
 {
     s.AMPM = Read(store, "AMPM", "True");
     s.DefLoc = Read(store, "DefLoc", "1");
-    s.MoonColor = ToInt<std::int32_t>("MoonColor", Read(store, "MoonColor", "16777215"));
+    s.MoonColor = ToInt<std::int32_t>(
+        "MoonColor", Read(store, "MoonColor", std::to_string(DefaultMoonColor).c_str()));
     s.HemiSphere = Read(store, "HemiSphere", "North");
     s.Graphic = ToInt<std::int16_t>("Graphic", Read(store, "Graphic", "0"));
     s.MouseClick = ToBool("MouseClick", Read(store, "MouseClick", "True"));
@@ -165,7 +166,7 @@ void WriteFirstStartValues(SettingsStore& store)
                                                      : d.Name);
     }
     store.Write("HemiSphere", "North");
-    store.Write("MoonColor", "16777215");
+    store.Write("MoonColor", QString::number(DefaultMoonColor));
     store.Write("DefLoc", "1");
     store.Write("AMPM", "True");
     store.Write("Graphic", "0");

@@ -1,5 +1,7 @@
 #include "platform/systemlocale.h"
 
+#include "model/settings.h"
+
 #include <algorithm>
 
 #include <QDate>
@@ -11,13 +13,13 @@ int SystemDaylightBias()
 {
     const QTimeZone zone = QTimeZone::systemTimeZone();
     if (!zone.hasDaylightTime())
-        return -60;
+        return DefaultDaylightBias;
     const QDateTime now = QDateTime::currentDateTimeUtc();
     // The daylight offset of the coming summer, whichever half of the year we are in.
     int dst = zone.daylightTimeOffset(now);
     for (int month = 1; dst == 0 && month <= 12; ++month)
         dst = zone.daylightTimeOffset(QDateTime(QDate(now.date().year(), month, 15), {}, Qt::UTC));
-    return dst == 0 ? -60 : -dst / 60;
+    return dst == 0 ? DefaultDaylightBias : -dst / SecondsPerMinute;
 }
 
 DateOrder DateOrderFromShortDate(const QString& text)

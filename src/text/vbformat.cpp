@@ -1,5 +1,7 @@
 #include "text/vbformat.h"
 
+#include "text/timeunits.h"
+
 #include <array>
 #include <chrono>
 #include <cmath>
@@ -66,14 +68,6 @@ Decimal ToDecimal(double magnitude, int decimals)
 
 } // namespace
 
-double VbRound(double value, int decimals)
-{
-    const Decimal d = ToDecimal(std::fabs(value), decimals);
-    const std::string text = (d.IntDigits.empty() ? "0" : d.IntDigits) + "." + d.FracDigits + "0";
-    const double v = std::strtod(text.c_str(), nullptr);
-    return value < 0 ? -v : v;
-}
-
 std::string VbFormat(double value, std::string_view pattern)
 {
     const auto point = pattern.find('.');
@@ -119,10 +113,11 @@ DateParts Split(double serial)
 {
     using namespace std::chrono;
     // Whole seconds, rounded half away from zero, carrying into the day.
-    const auto total = static_cast<long long>(std::floor(serial * 86400.0 + 0.5));
-    const long long dayCount = total >= 0 ? total / 86400 : -((-total + 86399) / 86400);
-    const long long secs = total - dayCount * 86400;
-    const sys_days day = sys_days{year{1899} / December / 30} + days{dayCount};
+    const auto total = static_cast<long long>(std::floor(serial * SecondsPerDay + 0.5));
+    const long long dayCount =
+        total >= 0 ? total / SecondsPerDay : -((-total + SecondsPerDay - 1) / SecondsPerDay);
+    const long long secs = total - dayCount * SecondsPerDay;
+    const sys_days day = SerialDayZero + days{dayCount};
     const year_month_day ymd{day};
     const sys_days jan1{ymd.year() / January / 1};
     DateParts p{};
@@ -131,9 +126,9 @@ DateParts Split(double serial)
     p.Day = int(unsigned(ymd.day()));
     p.DayOfYear = int((day - jan1).count()) + 1;
     p.Weekday = int(weekday{day}.c_encoding()) + 1;
-    p.Hour = int(secs / 3600);
-    p.Minute = int(secs / 60 % 60);
-    p.Second = int(secs % 60);
+    p.Hour = int(secs / SecondsPerHour);
+    p.Minute = int(secs / SecondsPerMinute % MinutesPerHour);
+    p.Second = int(secs % SecondsPerMinute);
     return p;
 }
 

@@ -13,6 +13,3 @@ std::string VbFormat(double value, std::string_view pattern);
 // day): "mm/dd/yyyy", "hh:mm AMPM", "h:nn AM/PM", "dd/mm/yyyy hh:nn:ss",
 // "ddd, mmmm,dd,yyyy", "y" (day of year), "w" (weekday, Sunday 1), "m" (month).
 std::string VbFormatDate(double serial, std::string_view pattern);
-
-// Rounds half away from zero to the given decimals on the 15-significant-digit form.
-double VbRound(double value, int decimals);

@@ -199,7 +199,7 @@ TEST(Repair, RebuildsADamagedFileKeepingTheReadableRecords)
 {
     constexpr int Rows = 300;
     const QString path = MakeYearFile("repair", Rows);
-    EXPECT_TRUE(RepairDB(path)); // a sound file is left as it is
+    EXPECT_TRUE(RepairYearFile(path).Result); // a sound file is left as it is
     EXPECT_FALSE(QFileInfo::exists(QDir(QFileInfo(path).absolutePath()).filePath("2024.BAD")));
     {
         Database db;
@@ -217,7 +217,7 @@ TEST(Repair, RebuildsADamagedFileKeepingTheReadableRecords)
         ASSERT_FALSE(CheckIntegrity(db));
     }
 
-    const DbResult repaired = RepairDB(path);
+    const DbResult repaired = RepairYearFile(path).Result;
     ASSERT_TRUE(repaired) << repaired.Message.toStdString();
     Database db;
     ASSERT_TRUE(db.Open(path));

@@ -2,6 +2,7 @@
 
 #include "astro/timebase.h"
 #include "calendar/calendar.h"
+#include "text/timeunits.h"
 
 #include <algorithm>
 #include <array>
@@ -61,6 +62,7 @@ Examples:
   quillmere-forecast month --year 2024 --month 2 --dst
   quillmere-forecast calendar --year 2024 --month 2 --pdf february.pdf
 )";
+static_assert(FirstYear == 1900 && LastYear == 2500, "the usage text names the years");
 
 namespace {
 
@@ -72,8 +74,6 @@ std::optional<int> ToInt(const std::string& text)
         return std::nullopt;
     return v;
 }
-
-bool ValidYear(int y) { return y >= 1900 && y <= 2500; }
 
 // Well-formed UTF-8 (shortest forms, no surrogates) without control characters: a name must
 // stand in a text table, a JSON string and an iCalendar value alike.
@@ -130,7 +130,7 @@ std::optional<int> ParseHour(const std::string& text)
     const auto h = ToInt(text.substr(0, 2)), m = ToInt(text.substr(3, 2));
     if (!h || !m || *h > 23 || *m > 59 || *h < 0 || *m < 0)
         return std::nullopt;
-    return *h * 60 + *m;
+    return *h * MinutesPerHour + *m;
 }
 
 std::optional<OutputFormat> ParseFormat(const std::string& text)
@@ -236,8 +236,9 @@ std::optional<UsageError> ReadCommand(const Options& o, ForecastRequest& r, int 
                 return UsageError{"--days takes a whole number from 1 to 36525"};
             r.Days = *n;
         }
-        if (CivilToJd(r.Year, r.Month, r.Day) + r.Days - 1 > CivilToJd(2500, 12, 31))
-            return UsageError{"the days run past 2500-12-31, the last day the program covers"};
+        if (CivilToJd(r.Year, r.Month, r.Day) + r.Days - 1 > CivilToJd(LastYear, 12, 31))
+            return UsageError{"the days run past " + std::to_string(LastYear) +
+                              "-12-31, the last day the program covers"};
         break;
     }
     case Command::Events:
@@ -325,7 +326,8 @@ ParsedArguments ParseArguments(const std::vector<std::string>& args, int todayYe
     if (auto e = ReadCommand(o, r, todayYear, todayMonth))
         return *e;
     if (!ValidYear(r.Year))
-        return UsageError{"year " + std::to_string(r.Year) + " is outside 1900..2500"};
+        return UsageError{"year " + std::to_string(r.Year) + " is outside " +
+                          std::to_string(FirstYear) + ".." + std::to_string(LastYear)};
     if (auto e = ReadLocation(o, r))
         return *e;
     r.Dst = o.count("--dst") > 0;

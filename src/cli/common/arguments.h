@@ -2,6 +2,8 @@
 // number or by coordinates, daylight saving, the chosen hour and the output format.
 #pragma once
 
+#include "text/timeunits.h"
+
 #include <optional>
 #include <string>
 #include <variant>
@@ -24,7 +26,7 @@ struct ForecastRequest {
     std::optional<int> StoredLocation;               // --location N
     std::optional<CoordinateLocation> AtCoordinates; // --lon/--lat/--zone
     bool Dst = false;
-    int HourMinutes = 720; // --hour, minutes since midnight
+    int HourMinutes = NoonMinutes; // --hour, minutes since midnight
     OutputFormat Format = OutputFormat::Text;
     std::string Pdf; // --pdf FILE: the printed page instead of text
 };

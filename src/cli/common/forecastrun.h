@@ -5,6 +5,7 @@
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
 #include "cli/common/dayrow.h"
+#include "text/timeunits.h"
 
 #include <string>
 #include <vector>
@@ -15,7 +16,7 @@ struct ForecastPlace {
     int TimeZone = 0;       // hours west of Greenwich
     double DstOffsetDays = 0.0;
     bool AmPm = true;
-    int HourMinutes = 720; // the chosen moment of the day
+    int HourMinutes = NoonMinutes; // the chosen moment of the day
 };
 
 class ForecastRun {

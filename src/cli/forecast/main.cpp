@@ -10,6 +10,7 @@
 #include "platform/settingsio.h"
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
+#include "text/timeunits.h"
 #include "text/version.h"
 #include "viewrules/monthlylist.h"
 
@@ -54,7 +55,7 @@ NamedPlace PlaceOf(const ForecastRequest& r)
         p.Place.AmPm = s.AmPm();
         p.Name = loc.Name;
     }
-    p.Place.DstOffsetDays = r.Dst ? SystemDaylightBias() / 1440.0 : 0.0;
+    p.Place.DstOffsetDays = r.Dst ? MinutesToDays(SystemDaylightBias()) : 0.0;
     p.Place.HourMinutes = r.HourMinutes;
     return p;
 }

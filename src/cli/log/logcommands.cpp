@@ -19,6 +19,7 @@
 #include "platform/settingsio.h"
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
+#include "text/timeunits.h"
 #include "text/version.h"
 
 #include <QDir>
@@ -118,6 +119,7 @@ Examples:
   quillmere-log report --year 2024 --either-major "5:00 PM-9:00 PM" --taken 1 --pdf catch.pdf
   quillmere-log import --year 2024 catches.csv --skip
 )";
+static_assert(FirstYear == 1900 && LastYear == 2500, "the usage text names the years");
 
 namespace {
 
@@ -184,7 +186,7 @@ std::variant<ForecastPlace, UsageError> PlaceOf(const LogRequest& r)
         p.Latitude = loc.Latitude;
         p.TimeZone = loc.TimeZone;
     }
-    p.DstOffsetDays = f.Dst ? SystemDaylightBias() / 1440.0 : 0.0;
+    p.DstOffsetDays = f.Dst ? MinutesToDays(SystemDaylightBias()) : 0.0;
     return p;
 }
 
@@ -517,8 +519,9 @@ std::optional<std::string> CheckRequest(const LogCommand& command, LogRequest& r
         const std::string& text = year->second;
         const bool digits = text.size() == 4 && std::all_of(text.begin(), text.end(), ::isdigit);
         r.Year = digits ? std::stoi(text) : 0;
-        if (r.Year < 1900 || r.Year > 2500)
-            return "--year takes a year from 1900 to 2500, not '" + text + "'";
+        if (!ValidYear(r.Year))
+            return "--year takes a year from " + std::to_string(FirstYear) + " to " +
+                   std::to_string(LastYear) + ", not '" + text + "'";
     }
     if (std::find(own.begin(), own.end(), "FILE") != own.end() && !r.Options.count("FILE"))
         return std::string(command.Name) + " needs the FILE.csv to read";

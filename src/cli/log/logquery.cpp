@@ -70,6 +70,7 @@ const std::vector<std::string>& QueryOptionNames()
 {
     static const std::vector<std::string> names = [] {
         std::vector<std::string> n;
+        n.reserve(ValueOptions.size() + FlagOptions.size() + 1);
         for (const RangeOption& o : ValueOptions)
             n.emplace_back(o.Name);
         for (const RangeOption& o : FlagOptions)

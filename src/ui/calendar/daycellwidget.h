@@ -26,7 +26,6 @@ public:
     // The red frame of the selected cell.
     void SetFramed(bool framed);
     bool Framed() const { return IsFramed; }
-    int Index() const { return CellIndex; }
 
     // Where each part of the content is painted, in the cell's pixels.
     struct Placement {

@@ -1,12 +1,15 @@
 #include "ui/calendar/frmcalendar.h"
 
 #include "astro/timebase.h"
+#include "calendar/calendar.h"
+#include "db/qtext.h"
 #include "pages/moonpicture.h"
 #include "pages/stockpictures.h"
 #include "pages/twips.h"
 #include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/settingsio.h"
+#include "text/timeunits.h"
 #include "ui/calendar/daycellwidget.h"
 #include "ui/calendar/frmabout.h"
 #include "ui/calendar/frmprint.h"
@@ -43,7 +46,11 @@ constexpr int FormHeightTwips = 6390;
 constexpr int FormWidthTwips = 10200;
 constexpr int CellWidth = 57, CellHeight = 48, CellGap = 1, GridLeft = 6, GridTop = 50;
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
+// The hour bar's moment as the clock shows it.
+QString HourBarText(int minutes, bool ampm)
+{
+    return Q(FormatClock(0, MinutesToHours(minutes), ampm));
+}
 
 QColor Colour(std::uint32_t bbggrr) { return VbColor(std::int32_t(bbggrr)); }
 
@@ -139,7 +146,7 @@ void FrmCalendar::BuildControls()
     Label[1]->setText(
         QStringLiteral("    Sun            Mon           Tue            Wed          Thu "
                        "            Fri             Sat"));
-    for (int i = 0; i < 37; ++i) {
+    for (int i = 0; i < MonthGridCells; ++i) {
         auto* cell = new DayCellWidget(i, central);
         cell->setGeometry(GridLeft + (i % 7) * (CellWidth + CellGap),
                           GridTop + (i / 7) * (CellHeight + CellGap), CellWidth, CellHeight);
@@ -148,7 +155,7 @@ void FrmCalendar::BuildControls()
     const int gridRight = GridLeft + 7 * (CellWidth + CellGap);
     VsbYear = new QScrollBar(Qt::Vertical, central);
     VsbYear->setGeometry(gridRight + 2, GridTop, 16, 6 * (CellHeight + CellGap) - CellGap);
-    VsbYear->setRange(1900, 2500);
+    VsbYear->setRange(FirstYear, LastYear);
     VsbYear->setTracking(false); // dragging scrolls; the change comes on release
     VsbYear->setToolTip(QStringLiteral(" Change the Year "));
     MakeLabel(3, central, {GridLeft, GridTop + 6 * (CellHeight + CellGap) + 2, 330, 18});
@@ -207,8 +214,8 @@ void FrmCalendar::BuildDetailsPanel(QWidget* central)
 
     VsbHour = new QScrollBar(Qt::Vertical, central);
     VsbHour->setGeometry(right + 92, 68, 18, 166);
-    VsbHour->setRange(0, 1439);
-    VsbHour->setPageStep(60);
+    VsbHour->setRange(0, MinutesPerDay - 1);
+    VsbHour->setPageStep(MinutesPerHour);
     VsbHour->setTracking(false);
     VsbHour->setToolTip(QStringLiteral(" Move the moment of the day "));
     MakeLabel(15, central, {right, 236, 118, 18})->setAlignment(Qt::AlignCenter);
@@ -308,7 +315,7 @@ void FrmCalendar::BuildStatusBar()
 
 void FrmCalendar::Form_Load()
 {
-    const int top = Twips(QString::fromStdString(App.Config.FormTop).toDouble());
+    const int top = Twips(Q(App.Config.FormTop).toDouble());
     resize(Twips(FormWidthTwips), Twips(FormHeightTwips));
     move(Twips(App.Config.FormLeft), top);
     ComputingSuppressed = true;
@@ -322,7 +329,7 @@ void FrmCalendar::Form_Load()
     cal.CurYear = std::int16_t(today.year());
     VsbYear->setValue(cal.CurYear);
     RefreshMonth();
-    VsbHour->setValue(720);
+    VsbHour->setValue(NoonMinutes);
 }
 
 void FrmCalendar::Form_Activate()
@@ -330,7 +337,7 @@ void FrmCalendar::Form_Activate()
     Calendar& cal = App.Cal;
     App.Config.SelectedJD = CellJD(cal.TodayCell);
     ApplyCurrentLocation();
-    VsbHour->setValue(720);
+    VsbHour->setValue(NoonMinutes);
     ComputingSuppressed = false;
     ComputeSelectedDay();
 }
@@ -453,30 +460,21 @@ void FrmCalendar::SetHemispherePictures()
 void FrmCalendar::IncMonth_Click()
 {
     const BusyPointer busy;
-    Calendar& cal = App.Cal;
-    if (++cal.CurMonth == 13) {
+    if (App.Cal.StepMonth(1))
         SkipRefresh = 1;
-        cal.CurMonth = 1;
-        if (++cal.CurYear == 2501)
-            cal.CurYear = 1900;
-    }
-    VsbYear->setValue(cal.CurYear);
-    VsbHour->setValue(720);
+    VsbYear->setValue(App.Cal.CurYear);
+    VsbHour->setValue(NoonMinutes);
     RefreshMonth();
 }
 
 void FrmCalendar::DecMonth_Click()
 {
     const BusyPointer busy;
-    Calendar& cal = App.Cal;
-    if (--cal.CurMonth == 0) {
+    if (App.Cal.StepMonth(-1)) {
         SkipRefresh = 1;
-        cal.CurMonth = 12;
-        if (--cal.CurYear < 1900)
-            cal.CurYear = 2500;
-        VsbYear->setValue(cal.CurYear);
+        VsbYear->setValue(App.Cal.CurYear);
     }
-    VsbHour->setValue(720);
+    VsbHour->setValue(NoonMinutes);
     RefreshMonth();
 }
 
@@ -487,7 +485,7 @@ void FrmCalendar::CmdNOW_Click()
     App.Cal.CurMonth = std::int16_t(today.month());
     App.Cal.CurYear = std::int16_t(today.year());
     VsbYear->setValue(App.Cal.CurYear);
-    VsbHour->setValue(720);
+    VsbHour->setValue(NoonMinutes);
     RefreshMonth();
 }
 
@@ -495,7 +493,7 @@ void FrmCalendar::VsbYear_Change()
 {
     const BusyPointer busy;
     App.Cal.CurYear = std::int16_t(VsbYear->value());
-    VsbHour->setValue(720);
+    VsbHour->setValue(NoonMinutes);
     RefreshMonth();
 }
 
@@ -504,8 +502,8 @@ void FrmCalendar::VsbYear_Scroll() { App.Cal.CurYear = std::int16_t(VsbYear->sli
 void FrmCalendar::VsbHour_Change()
 {
     const int minutes = VsbHour->value();
-    Label[15]->setText(Q(FormatClock(0, minutes / 60.0, App.Config.AmPm())));
-    App.Astro.Site.HourInstant = minutes / 1440.0 + App.Astro.Site.ZoneDays;
+    Label[15]->setText(HourBarText(minutes, App.Config.AmPm()));
+    App.Astro.Site.HourInstant = MinutesToDays(minutes) + App.Astro.Site.ZoneDays;
     App.Config.SelectedJD = CellJD(App.Cal.TodayCell);
     if (!ComputingSuppressed)
         ComputeSelectedDay();
@@ -519,7 +517,8 @@ void FrmCalendar::Timer1_Timer()
     if (cal.CurYear != today.year() || cal.CurMonth != today.month() || SelDay != today.day())
         return;
     const QTime t = now.time();
-    VsbHour->setValue(int(t.hour() * 60 + t.minute() + t.second() / 60.0));
+    VsbHour->setValue(
+        int(t.hour() * MinutesPerHour + t.minute() + t.second() / double(SecondsPerMinute)));
 }
 
 void FrmCalendar::SelectCell(int index)
@@ -541,7 +540,7 @@ void FrmCalendar::txtpic_Click(int index)
         Detail->hide();
     if (!App.Config.MouseClick)
         return;
-    VsbHour->setValue(720);
+    VsbHour->setValue(NoonMinutes);
     ComputeSelectedDay();
 }
 
@@ -567,8 +566,8 @@ void FrmCalendar::txtpic_MouseMove(int index)
     LastComputedDay = day;
     if (App.Config.MouseClick)
         return;
-    VsbHour->setValue(720);     // its change event recomputes the framed day ...
-    App.Config.SelectedJD = jd; // ... but the panel shows the day under the pointer
+    VsbHour->setValue(NoonMinutes); // its change event recomputes the framed day ...
+    App.Config.SelectedJD = jd;     // ... but the panel shows the day under the pointer
     ComputeSelectedDay();
 }
 
@@ -643,7 +642,7 @@ void FrmCalendar::ApplyCurrentLocation()
         DST[0]->setChecked(s.TimeFormats == 0);
         DST[1]->setChecked(s.TimeFormats == 1);
     }
-    Label[15]->setText(Q(FormatClock(0, VsbHour->value() / 60.0, s.AmPm())));
+    Label[15]->setText(HourBarText(VsbHour->value(), s.AmPm()));
     VsbHour->update();
     StatusPanels[0]->setText(Q(Here.CurLocName));
     const int def = s.DefaultLocation();
@@ -668,7 +667,7 @@ void FrmCalendar::DST_Click(int index)
     App.Config.TimeFormats = static_cast<std::int16_t>(index);
     ApplyCurrentLocation();
     RefreshMonth();
-    VsbHour->setValue(720);
+    VsbHour->setValue(NoonMinutes);
     VsbHour->update();
 }
 
@@ -746,12 +745,12 @@ void FrmCalendar::RunDataBase_Click()
 
 void FrmCalendar::VsbHour_Scroll()
 {
-    Label[15]->setText(Q(FormatClock(0, VsbHour->sliderPosition() / 60.0, App.Config.AmPm())));
+    Label[15]->setText(HourBarText(VsbHour->sliderPosition(), App.Config.AmPm()));
 }
 
 void FrmCalendar::Label15_Click()
 {
-    VsbHour->setValue(720);
+    VsbHour->setValue(NoonMinutes);
     VsbHour->update();
 }
 

@@ -3,6 +3,7 @@
 // It owns the navigation state; the numbers come from the calendar module and the engine.
 #pragma once
 
+#include "calendar/calendar.h"
 #include "model/currentlocation.h"
 #include "viewrules/daypanel.h"
 
@@ -81,7 +82,7 @@ public:
     QPushButton* IncMonth = nullptr;
     QPushButton* DecMonth = nullptr;
     QPushButton* CmdNOW = nullptr;
-    std::array<DayCellWidget*, 37> txtpic{};
+    std::array<DayCellWidget*, MonthGridCells> txtpic{};
     QScrollBar* VsbYear = nullptr;
     QScrollBar* VsbHour = nullptr;
     std::array<QLabel*, 33> Label{}; // the indices the window uses; others stay null

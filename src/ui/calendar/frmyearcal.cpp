@@ -1,5 +1,6 @@
 #include "ui/calendar/frmyearcal.h"
 
+#include "calendar/calendar.h"
 #include "pages/twips.h"
 
 #include <QEvent>
@@ -82,7 +83,7 @@ void FrmYearCal::BuildControls()
     const int right = Margin + 4 * MonthWidth;
     vsbyearcal = new QScrollBar(Qt::Vertical, this);
     vsbyearcal->setGeometry(right, Margin, 18, 3 * MonthHeight - 8);
-    vsbyearcal->setRange(1900, 2500);
+    vsbyearcal->setRange(FirstYear, LastYear);
     vsbyearcal->setTracking(false); // dragging scrolls; the change comes on release
     cmdexit = new QPushButton(QStringLiteral("Done-Exit"), this);
     cmdexit->setGeometry(right - 100, Margin + 3 * MonthHeight, 100, 28);

@@ -1,6 +1,7 @@
 #include "ui/locations/frmlocation.h"
 
 #include "db/citydb.h"
+#include "db/qtext.h"
 #include "model/locationrules.h"
 #include "ui/common/messageservice.h"
 #include "ui/locations/editdb.h"
@@ -18,8 +19,6 @@
 #include <cmath>
 
 namespace {
-
-QString Q(const std::string& text) { return QString::fromStdString(text); }
 
 QScrollBar* DegreeBar(QWidget* parent, int maximum, const QRect& geometry)
 {

@@ -7,6 +7,7 @@
 #include "logdb/logfiles.h"
 #include "platform/clock.h"
 #include "ui/common/busypointer.h"
+#include "ui/common/button.h"
 #include "ui/common/messageservice.h"
 #include "ui/log/frmbackups.h"
 #include "ui/log/frmtable1.h"
@@ -21,20 +22,6 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
-
-namespace {
-
-QPushButton* Button(const QString& caption, const QString& name, const QString& tip,
-                    QWidget* parent)
-{
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    button->setToolTip(tip);
-    button->setAutoDefault(false);
-    return button;
-}
-
-} // namespace
 
 FrmSelectDB::FrmSelectDB(const LogContext& context, QWidget* parent) : QDialog(parent), Ctx(context)
 {

@@ -7,6 +7,7 @@
 #include "db/storedforms.h"
 #include "logdb/querybuilder.h"
 #include "logdb/queryrun.h"
+#include "ui/common/button.h"
 #include "ui/common/messageservice.h"
 #include "ui/log/frmreport.h"
 #include "ui/log/frmtable2.h"
@@ -48,15 +49,6 @@ private:
 void OnClick(QWidget* widget, std::function<void()> clicked)
 {
     widget->installEventFilter(new ClickFilter(widget, std::move(clicked)));
-}
-
-QPushButton* Button(const QString& text, const QString& tip, const QString& name, QWidget* parent)
-{
-    auto* button = new QPushButton(text, parent);
-    button->setObjectName(name);
-    button->setToolTip(tip);
-    button->setAutoDefault(false);
-    return button;
 }
 
 } // namespace
@@ -104,19 +96,16 @@ QWidget* frmTable1::BuildQueryPanel()
     grid->addWidget(new QLabel(QStringLiteral("Sort By"), panel), rows, 0, Qt::AlignRight);
     grid->addWidget(SortByCombo, rows, 1, 1, 3);
 
-    cmdSelect = Button(QStringLiteral("Select Data Where"),
-                       QStringLiteral(" Select Data From Conditions of CheckBoxes "),
-                       QStringLiteral("cmdSelect"), panel);
-    Command1 =
-        Button(QStringLiteral("All Records"), QStringLiteral(" Display ALL Records in Database "),
-               QStringLiteral("Command1"), panel);
-    Command2 = Button(QStringLiteral("Clear Text"), QStringLiteral(" Clear TextBoxes "),
-                      QStringLiteral("Command2"), panel);
-    Command3 = Button(QStringLiteral("Clear Checks"), QStringLiteral(" UnCheck ALL CheckBoxes "),
-                      QStringLiteral("Command3"), panel);
-    Command4 =
-        Button(QStringLiteral("Report"), QStringLiteral(" Display Report for Current Records "),
-               QStringLiteral("Command4"), panel);
+    cmdSelect = Button(QStringLiteral("Select Data Where"), QStringLiteral("cmdSelect"),
+                       QStringLiteral(" Select Data From Conditions of CheckBoxes "), panel);
+    Command1 = Button(QStringLiteral("All Records"), QStringLiteral("Command1"),
+                      QStringLiteral(" Display ALL Records in Database "), panel);
+    Command2 = Button(QStringLiteral("Clear Text"), QStringLiteral("Command2"),
+                      QStringLiteral(" Clear TextBoxes "), panel);
+    Command3 = Button(QStringLiteral("Clear Checks"), QStringLiteral("Command3"),
+                      QStringLiteral(" UnCheck ALL CheckBoxes "), panel);
+    Command4 = Button(QStringLiteral("Report"), QStringLiteral("Command4"),
+                      QStringLiteral(" Display Report for Current Records "), panel);
     grid->addWidget(cmdSelect, rows + 1, 0);
     grid->addWidget(Command1, rows + 1, 1, 1, 2);
     grid->addWidget(Command4, rows + 1, 3);

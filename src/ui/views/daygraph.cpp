@@ -1,6 +1,7 @@
 #include "ui/views/daygraph.h"
 
 #include "astro/astronomy.h"
+#include "db/qtext.h"
 #include "pages/twips.h"
 #include "text/vbformat.h"
 
@@ -15,8 +16,6 @@ namespace {
 constexpr std::uint32_t Night = 0x400000, SunYellow = 65535, MoonWhite = 0xFFFFFF;
 constexpr std::uint32_t StripBack = 0x603010, TickRed = 0x0000FF;
 constexpr int Left = 16, LineWidth = 728, StripWidth = 520;
-
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 QString DegreesText(double degrees) { return Q(VbFormat(degrees, "##0.0")) + QChar(0x00B0); }
 

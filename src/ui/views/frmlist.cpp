@@ -2,8 +2,10 @@
 
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
+#include "db/qtext.h"
 #include "pages/listpage.h"
 #include "ui/common/busypointer.h"
+#include "ui/common/button.h"
 #include "ui/common/printer.h"
 #include "viewrules/monthlylist.h"
 
@@ -17,17 +19,6 @@
 #include <QScreen>
 #include <QShowEvent>
 #include <QVBoxLayout>
-
-namespace {
-QString Q(const std::string& s) { return QString::fromStdString(s); }
-
-QPushButton* Button(const QString& caption, const QString& tip, QWidget* parent)
-{
-    auto* b = new QPushButton(caption, parent);
-    b->setToolTip(tip);
-    return b;
-}
-} // namespace
 
 FrmList::FrmList(Astronomy& engine, const Calendar& cal, std::string locationName, bool ampm,
                  MessageService& messages, QWidget* mainWindow)
@@ -48,10 +39,12 @@ FrmList::FrmList(Astronomy& engine, const Calendar& cal, std::string locationNam
     Text1->setReadOnly(true);
     Text1->setFont(times);
     Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
-    Command1 = Button(QStringLiteral("Close"), QStringLiteral(" Close List Screen "), this);
-    Command2 =
-        Button(QStringLiteral("ClipBoard"), QStringLiteral(" Copy text to clipboard "), this);
-    Command3 = Button(QStringLiteral("Print"), QStringLiteral(" Print a Calendar "), this);
+    Command1 = Button(QStringLiteral("Close"), QStringLiteral("Command1"),
+                      QStringLiteral(" Close List Screen "), this);
+    Command2 = Button(QStringLiteral("ClipBoard"), QStringLiteral("Command2"),
+                      QStringLiteral(" Copy text to clipboard "), this);
+    Command3 = Button(QStringLiteral("Print"), QStringLiteral("Command3"),
+                      QStringLiteral(" Print a Calendar "), this);
     auto* month = new QHBoxLayout;
     month->addWidget(Label[0]);
     month->addWidget(Label[1]);
