@@ -1,6 +1,7 @@
 #include "logdb/logimport.h"
 
 #include "db/storedforms.h"
+#include "logdb/catchvalues.h"
 #include "logdb/csvread.h"
 #include "logdb/logfiles.h"
 #include "logdb/yearlock.h"
@@ -45,41 +46,6 @@ Header ReadHeader(const CsvRecord& first, const std::vector<ColumnInfo>& known,
                 {first.Line, QStringLiteral("unknown column \"%1\" is ignored").arg(name)});
     }
     return header;
-}
-
-// "7:00 AM": a time of day in the form of the browser's peak time list.
-std::optional<QString> PeakTimeText(const QString& text)
-{
-    const std::optional<std::string> stored = StoredTime(text.toStdString());
-    if (!stored)
-        return std::nullopt;
-    const int hour = std::stoi(stored->substr(0, 2));
-    return QStringLiteral("%1:%2 %3")
-        .arg((hour + 11) % 12 + 1)
-        .arg(QString::fromStdString(stored->substr(3, 2)))
-        .arg(hour < 12 ? QStringLiteral("AM") : QStringLiteral("PM"));
-}
-
-// The cell in stored form, or the reason it cannot be stored.
-std::optional<QVariant> CatchValue(const QString& column, const QString& cell, QString& why)
-{
-    if (cell.trimmed().isEmpty())
-        return QVariant();
-    if (column == QStringLiteral("TotalTaken")) {
-        bool ok = false;
-        const int taken = cell.trimmed().toInt(&ok);
-        if (ok && taken >= 0)
-            return QVariant(taken);
-        why = QStringLiteral("TotalTaken \"%1\" is not a whole number of fish").arg(cell);
-        return std::nullopt;
-    }
-    if (column == QStringLiteral("PeakTime")) {
-        if (const std::optional<QString> text = PeakTimeText(cell.trimmed()))
-            return QVariant(*text);
-        why = QStringLiteral("PeakTime \"%1\" is not a time of day").arg(cell);
-        return std::nullopt;
-    }
-    return QVariant(cell);
 }
 
 bool HasValue(const QVariant& v) { return !v.isNull() && !v.toString().trimmed().isEmpty(); }
@@ -139,7 +105,7 @@ std::optional<ImportRow> CheckRow(const CsvRecord& record, RowCheck& check,
         const auto value =
             CatchValue(column, QString::fromStdString(record.Fields[size_t(index)]), why);
         if (!value) {
-            issues.push_back({record.Line, why});
+            issues.push_back({record.Line, column + QLatin1Char(' ') + why});
             bad = true;
             continue;
         }

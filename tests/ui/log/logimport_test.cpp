@@ -75,7 +75,7 @@ TEST(LogImport, ReportsEveryBadRowByLineBeforeWritingAnything)
         IssueLines(plan),
         QStringList({"Line 1: unknown column \"Bait Color\" is ignored",
                      "Line 4: \"13/45/2024\" is not a date", "Line 5: 12/31/2023 is not in 2024",
-                     "Line 6: TotalTaken \"two\" is not a whole number of fish",
+                     "Line 6: TotalTaken \"two\" is not a whole number from 0 to 100",
                      "Line 7: PeakTime \"25:00\" is not a time of day",
                      "Line 10: 3 fields where the header has 7",
                      "Line 11: 01/11/2024 already holds an entry",
