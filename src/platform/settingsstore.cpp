@@ -1,5 +1,6 @@
 #include "platform/settingsstore.h"
 
+#include <QFile>
 #include <QSettings>
 
 namespace {
@@ -54,6 +55,21 @@ void SettingsStore::DeleteAll()
         return;
     }
     Open(FileName).clear();
+}
+
+QString SettingsStore::KeepCopy(QString& kept) const
+{
+    kept.clear();
+    const QString path = FilePath();
+    if (InMemory || !QFile::exists(path))
+        return {};
+    const QString copy = path + QStringLiteral(".bak");
+    QFile::remove(copy);
+    QFile file(path);
+    if (!file.copy(copy))
+        return QStringLiteral("cannot copy %1 to %2: %3").arg(path, copy, file.errorString());
+    kept = copy;
+    return {};
 }
 
 bool SettingsStore::Flush()

@@ -20,6 +20,9 @@ public:
     bool Contains(const QString& key) const;
     // Deletes every key of the application.
     void DeleteAll();
+    // Copies the file to "<file>.bak" in place of an older copy; `kept` is the copy's path,
+    // empty when there is no file to keep. The reason when the copy cannot be made.
+    QString KeepCopy(QString& kept) const;
     // Writes pending changes to disk; false when the file cannot be written.
     bool Flush();
     QString FilePath() const;
