@@ -22,6 +22,8 @@ SettingsStore SettingsStore::ReadOnly(QString file)
 
 QString SettingsStore::Read(const QString& key, const QString& defaultText) const
 {
+    if (InMemory && Removed.contains(key))
+        return defaultText;
     if (InMemory && (MemoryCleared || Memory.contains(key)))
         return Memory.value(key, defaultText);
     const QVariant v = Open(FileName).value(Section + key, defaultText);
@@ -34,17 +36,30 @@ QString SettingsStore::Read(const QString& key, const QString& defaultText) cons
 
 void SettingsStore::Write(const QString& key, const QString& text)
 {
-    if (InMemory)
+    if (InMemory) {
+        Removed.remove(key);
         Memory.insert(key, text);
-    else
+    } else
         Open(FileName).setValue(Section + key, text);
 }
 
 bool SettingsStore::Contains(const QString& key) const
 {
+    if (InMemory && Removed.contains(key))
+        return false;
     if (InMemory && (MemoryCleared || Memory.contains(key)))
         return Memory.contains(key);
     return Open(FileName).contains(Section + key);
+}
+
+void SettingsStore::Remove(const QString& key)
+{
+    if (!InMemory) {
+        Open(FileName).remove(Section + key);
+        return;
+    }
+    Memory.remove(key);
+    Removed.insert(key);
 }
 
 void SettingsStore::DeleteAll()

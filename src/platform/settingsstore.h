@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 
 class SettingsStore {
@@ -18,6 +19,9 @@ public:
     QString Read(const QString& key, const QString& defaultText) const;
     void Write(const QString& key, const QString& text);
     bool Contains(const QString& key) const;
+    // Deletes one key, so that reading it gives the default (in memory only, for a read-only
+    // store).
+    void Remove(const QString& key);
     // Deletes every key of the application.
     void DeleteAll();
     // Copies the file to "<file>.bak" in place of an older copy; `kept` is the copy's path,
@@ -32,4 +36,5 @@ private:
     bool InMemory = false;
     bool MemoryCleared = false; // DeleteAll in memory: the file's values no longer count
     QHash<QString, QString> Memory;
+    QSet<QString> Removed; // keys removed in memory: they read as missing
 };

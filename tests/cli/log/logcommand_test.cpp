@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -22,13 +23,26 @@ struct LogRun {
     QString Err;
 };
 
-LogRun RunLog(const QString& home, const QStringList& args)
+// How a run differs from a plain one: more of the environment, and a command that starts the
+// program (one that limits a resource, or runs it as another user).
+struct Launch {
+    std::vector<std::pair<QString, QString>> Env;
+    QStringList Through;
+};
+
+LogRun RunLog(const QString& home, const QStringList& args, const Launch& launch = {})
 {
     QProcess log;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("QUILLMERE_HOME", home);
+    for (const auto& [name, value] : launch.Env)
+        env.insert(name, value);
     log.setProcessEnvironment(env);
-    log.start(QStringLiteral(QUILLMERE_LOG), args);
+    if (launch.Through.isEmpty())
+        log.start(QStringLiteral(QUILLMERE_LOG), args);
+    else
+        log.start(launch.Through.front(),
+                  launch.Through.mid(1) + QStringList{QStringLiteral(QUILLMERE_LOG)} + args);
     EXPECT_TRUE(log.waitForFinished(120000));
     return {log.exitStatus() == QProcess::NormalExit ? log.exitCode() : -1,
             QString::fromUtf8(log.readAllStandardOutput()),
@@ -147,6 +161,40 @@ TEST(LogCommand, BadInputExitsWithTwoAndFailuresWithOne)
     EXPECT_EQ(help.Status, 0);
     EXPECT_TRUE(help.Out.startsWith("quillmere-log: ")) << help.Out.toStdString();
     EXPECT_TRUE(help.Out.contains("export --year YYYY [--format csv|json]"));
+}
+
+// A stored setting that cannot be read is named in one line and its default is used: the year
+// comes out as at the default place of location 1.
+TEST(LogCommand, ABadStoredSettingIsNamedAndItsDefaultUsed)
+{
+    const QString reference = testenv::FreshDir("log-setting-reference");
+    ASSERT_EQ(RunLog(reference, {"create", "--year", "2024", "--lon", "92.42W", "--lat", "31.25N",
+                                 "--zone", "6"})
+                  .Status,
+              0);
+    const auto expected = logtest::PlainRows(YearPath(reference), "SELECT * FROM table1");
+    const QString stored = "[Settings]\nDefLoc=1\nUsr1Name=Alexandria, LA\nUsr1Long=92.42\n"
+                           "Usr1Lat=31.25\nUsr1TZ= 6\n";
+    const std::pair<QString, QString> bad[] = {
+        {"Usr1Lat", "nan"}, {"Usr1Long", "east"}, {"Usr1TZ", "99"}};
+    for (const auto& [key, value] : bad) {
+        const QString config = testenv::FreshDir("log-setting-config");
+        QString text = stored;
+        text.replace(QRegularExpression("^" + key + "=.*$", QRegularExpression::MultilineOption),
+                     key + "=" + value);
+        QDir().mkpath(config + "/Quillmere");
+        testenv::WriteFile(config + "/Quillmere/Quillmere.ini", text.toUtf8());
+        const QString home = testenv::FreshDir("log-setting");
+        const LogRun run =
+            RunLog(home, {"create", "--year", "2024"}, {{{"XDG_CONFIG_HOME", config}}, {}});
+        EXPECT_EQ(run.Status, 0) << key.toStdString();
+        EXPECT_EQ(run.Err.count('\n'), 1) << run.Err.toStdString();
+        EXPECT_TRUE(run.Err.startsWith(
+            QString("quillmere-log: the stored setting %1 holds \"%2\"").arg(key, value)))
+            << run.Err.toStdString();
+        EXPECT_TRUE(logtest::PlainRows(YearPath(home), "SELECT * FROM table1") == expected)
+            << key.toStdString();
+    }
 }
 
 TEST(LogCommand, RestoresAYearLeftAsItsBackup)
