@@ -6,6 +6,7 @@
 #include "logdb/logfiles.h"
 #include "logdb/yearlock.h"
 
+#include <QFile>
 #include <QSqlQuery>
 #include <algorithm>
 
@@ -81,6 +82,12 @@ std::optional<ImportRow> CheckRow(const CsvRecord& record, RowCheck& check,
         issues.push_back({record.Line, text});
         return std::nullopt;
     };
+    const auto notText = [](const std::string& field) {
+        return !QByteArrayView(field.data(), qsizetype(field.size())).isValidUtf8();
+    };
+    if (std::any_of(record.Fields.begin(), record.Fields.end(), notText))
+        return problem(
+            QStringLiteral("the line is not UTF-8 text and is left out; save the file as UTF-8"));
     if (record.Fields.size() != check.Head.Width)
         return problem(QStringLiteral("%1 fields where the header has %2")
                            .arg(record.Fields.size())
@@ -126,6 +133,24 @@ int ImportPlan::OccupiedRows() const
 {
     return int(
         std::count_if(Rows.begin(), Rows.end(), [](const ImportRow& r) { return r.Occupied; }));
+}
+
+DbResult ReadImportFile(const QString& path, QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return DbResult::Failure(
+            QStringLiteral("%1 cannot be read: %2").arg(path, file.errorString()));
+    bytes = file.read(MostImportBytes + 1);
+    if (bytes.size() > MostImportBytes)
+        return DbResult::Failure(
+            QStringLiteral("%1 holds more than %2 MB, far more than a year of catch entries")
+                .arg(path)
+                .arg(MostImportBytes / (1024 * 1024)));
+    if (file.error() != QFileDevice::NoError)
+        return DbResult::Failure(
+            QStringLiteral("%1 cannot be read: %2").arg(path, file.errorString()));
+    return DbResult::Success();
 }
 
 DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, ImportPlan& plan)

@@ -437,12 +437,11 @@ int Import(const LogRequest& r, const Streams& io)
         return 1;
     const QString path = io.YearPath(r.Year);
     const QString source = QString::fromStdString(r.Options.at("FILE"));
-    QFile csv(source);
-    if (!csv.open(QIODevice::ReadOnly))
-        return io.Fail("cannot read " + Std(source) + ": " + Std(csv.errorString()) +
-                       "; nothing was imported");
+    QByteArray csv;
+    if (const DbResult read = ReadImportFile(source, csv); !read)
+        return io.Fail(Std(read.Message) + "; nothing was imported");
     ImportPlan plan;
-    if (const DbResult planned = PlanImport(path, r.Year, csv.readAll(), plan); !planned)
+    if (const DbResult planned = PlanImport(path, r.Year, csv, plan); !planned)
         return io.Fail("cannot import " + Std(source) + ": " + Std(planned.Message) +
                        "; nothing was imported");
     for (const QString& line : IssueLines(plan))

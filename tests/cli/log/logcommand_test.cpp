@@ -326,6 +326,10 @@ TEST(LogCommand, ExportThenImportIntoAFreshYearGivesTheSameEntries)
     EXPECT_TRUE(refused.Err.startsWith("quillmere-log: nothing was imported: choose --skip"));
     EXPECT_EQ(RunLog(into, {"import", "--year", "2024", csv, "--skip"}).Status, 0);
     EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(YearPath(from)));
+    // A file without an end is refused once it outgrows any year of entries.
+    const LogRun endless = RunLog(into, {"import", "--year", "2024", "/dev/zero"});
+    ExpectOneLineRefusal(endless, 1, "import /dev/zero");
+    EXPECT_TRUE(endless.Err.contains("holds more than 16 MB")) << endless.Err.toStdString();
     for (const QStringList& args :
          {QStringList{"import", "--year", "2024"},
           QStringList{"import", "--year", "2024", csv, "--skip", "--overwrite"}})
