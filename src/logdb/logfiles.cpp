@@ -162,6 +162,22 @@ DbResult Fail(FileOps& ops, const QString& leftover, const DbResult& failure)
     return failure;
 }
 
+// The file's permissions for its owner, group and others. The "User" ones say what this
+// process may do (everything, for the superuser), and setting them would set the owner's.
+QFileDevice::Permissions ModeOf(const QString& path)
+{
+    return QFileInfo(path).permissions() &
+           ~(QFileDevice::ReadUser | QFileDevice::WriteUser | QFileDevice::ExeUser);
+}
+
+// The file a link leads to, or the path itself when it is no link.
+QString ResolvedFile(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString target = info.isSymLink() ? info.canonicalFilePath() : QString();
+    return target.isEmpty() ? path : target;
+}
+
 // The name a year file is made under until it is whole.
 QString CreatingName(const QString& path) { return path + QStringLiteral(".creating"); }
 
@@ -310,10 +326,13 @@ DbResult CompactDB(const QString& path, const QString& connect)
 
 DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
 {
-    const QString compacted = Sibling(path, QStringLiteral("New") + QFileInfo(path).fileName());
     const YearFileLock lock(path);
     if (!lock.Held())
         return DbResult::Failure(lock.Message());
+    // A year file that is a link to a file elsewhere is compacted there, so that the link
+    // stays; the compacted copy takes the file's permissions.
+    const QString file = ResolvedFile(path);
+    const QString compacted = Sibling(file, QStringLiteral("New") + QFileInfo(path).fileName());
     // A file that is not a whole log must not become the kept copy's successor.
     if (DbResult whole = CheckFile(path, connect); !whole)
         return DbResult::Failure(whole.Message +
@@ -340,7 +359,12 @@ DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
             DbResult::Failure(QStringLiteral("Cannot write '%1' to the disk.").arg(compacted)));
     if (DbResult checked = CheckFile(compacted, connect); !checked)
         return Fail(ops, compacted, checked);
-    if (DbResult replaced = SwapIn(path, compacted, Companion(path, ".BAK"), ops); !replaced)
+    if (!QFile::setPermissions(compacted, ModeOf(file)))
+        return Fail(
+            ops, compacted,
+            DbResult::Failure(
+                QStringLiteral("Cannot give '%1' the permissions of '%2'.").arg(compacted, file)));
+    if (DbResult replaced = SwapIn(file, compacted, Companion(path, ".BAK"), ops); !replaced)
         return Fail(ops, compacted, replaced);
     return DbResult::Success();
 }

@@ -67,7 +67,9 @@ CreateYearResult CreateYearFile(const QString& folder, int year, const YearFill&
 // Compacts the file: "New" + name is written beside it, synced and checked; the file is
 // copied to "<first four characters>.BAK" in place of the previous one; then the new copy
 // takes the file's name in one rename. The year file keeps its name throughout, so a crash
-// at any moment leaves it whole under that name.
+// at any moment leaves it whole under that name. The compacted file keeps the file's
+// permissions; when the year file is a link, the compacted copy is made and renamed beside
+// the file it leads to, so the link stays.
 DbResult CompactDB(const QString& path, const QString& connect = {});
 DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops);
 
