@@ -30,6 +30,18 @@ public:
     virtual bool Copy(const QString& from, const QString& to);
     // Puts the file's contents and its entry in the folder on the disk.
     virtual bool Sync(const QString& path);
+
+    // Why the last step that failed did ("No space left on device", "Permission denied"), in
+    // the system's words; empty when that is not known.
+    QString Cause() const { return cause_; }
+
+protected:
+    // Keeps the system's words for the last error when `done` is false; gives `done` back.
+    bool Noted(bool done);
+    bool Failed(const QString& cause);
+
+private:
+    QString cause_;
 };
 
 // Writes a year's records into the file at the given path.

@@ -348,15 +348,28 @@ std::optional<Selection> Selected(const LogRequest& r, const Streams& io, int& s
         return std::nullopt;
     }
     // The query leaves its result in the file's work tables: a write like any other.
-    const YearFileLock lock(io.YearPath(r.Year));
+    const QString path = io.YearPath(r.Year);
+    const YearFileLock lock(path);
     if (!lock.Held()) {
         io.Fail(Std(lock.Message()));
         return std::nullopt;
     }
-    Selection selection = RunQuery(io.YearPath(r.Year), request, io.Err);
+    if (QFile file(path); !file.open(QIODevice::ReadWrite)) {
+        io.Fail("cannot query " + Std(path) + ": " + Std(file.errorString()) +
+                "; the query keeps its result in the file, so it must be writable");
+        return std::nullopt;
+    }
+    Selection selection = SelectDataWhere(path, request.Form, request.SortIndex);
     if (!selection.Error.isEmpty()) {
         status = 2;
         io.Err << "quillmere-log: " << Std(selection.Error) << "\n";
+        return std::nullopt;
+    }
+    // The options were checked, so a step the engine refused means the file could not take
+    // the result: no days are shown rather than an earlier query's.
+    if (!selection.Refused.isEmpty()) {
+        io.Fail("cannot query " + Std(path) + ": " + Std(selection.Refused.front()) +
+                "; no days are shown");
         return std::nullopt;
     }
     return selection;

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ostream>
 
 namespace {
 
@@ -109,15 +108,6 @@ std::optional<std::string> ReadQueryOptions(const std::map<std::string, std::str
                    ? std::string("a condition is missing its value (a range is FROM-TO)")
                    : plan.Error;
     return std::nullopt;
-}
-
-Selection RunQuery(const QString& path, const QueryRequest& request, std::ostream& err)
-{
-    Selection selection = SelectDataWhere(path, request.Form, request.SortIndex);
-    for (const QString& refused : selection.Refused)
-        err << "quillmere-log: a step of the selection was passed over: " << refused.toStdString()
-            << "\n";
-    return selection;
 }
 
 std::string QueryText(const QString& reportText, const Selection& selection)

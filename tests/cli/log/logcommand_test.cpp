@@ -8,12 +8,15 @@
 #include "support/testenv.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 namespace {
 
@@ -334,4 +337,94 @@ TEST(LogCommand, ExportThenImportIntoAFreshYearGivesTheSameEntries)
          {QStringList{"import", "--year", "2024"},
           QStringList{"import", "--year", "2024", csv, "--skip", "--overwrite"}})
         ExpectOneLineRefusal(RunLog(into, args), 2, args.join(' ').toStdString());
+}
+
+namespace {
+
+// Starts the program as a user whom permissions bind: the test's own user, or when that is
+// the superuser, "nobody" through setpriv, with the folder handed over to it.
+Launch AsOrdinaryUser(const QString& folder)
+{
+    if (::geteuid() != 0)
+        return {};
+    constexpr uid_t Nobody = 65534;
+    const auto handOver = [](const QString& path) {
+        EXPECT_EQ(::chown(QFile::encodeName(path).constData(), Nobody, Nobody), 0)
+            << path.toStdString();
+    };
+    handOver(folder);
+    for (QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+         it.hasNext();)
+        handOver(it.next());
+    // A way through the test's private root to the folder.
+    QFile::setPermissions(testenv::Root(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                               QFileDevice::ExeOwner | QFileDevice::ExeGroup |
+                                               QFileDevice::ExeOther);
+    return {{}, {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"}};
+}
+
+constexpr auto FolderReadOnly =
+    QFileDevice::ReadOwner | QFileDevice::ExeOwner | QFileDevice::ReadGroup | QFileDevice::ExeGroup;
+
+} // namespace
+
+// A failure of the disk or of a permission is said in one line that names the cause in the
+// system's words.
+TEST(LogCommand, FailuresNameTheirCause)
+{
+    // A limit on the size of files the program writes stands for a full disk.
+    const Launch smallFiles{{}, {"sh", "-c", "ulimit -f 8; trap '' XFSZ; exec \"$0\" \"$@\""}};
+    const struct {
+        const char* Name;
+        QStringList Args;
+        QFileDevice::Permissions Folder, Year; // what the folder and the year file allow
+        bool Limited;                          // under the file size limit, else as nobody
+        const char* Said;
+    } cases[] = {
+        {"create on a full disk",
+         {"create", "--year", "2023", "--location", "1"},
+         {},
+         {},
+         true,
+         "2023.mdb.creating': File too large"},
+        {"compact in a folder that takes no file",
+         {"compact", "--year", "2024"},
+         FolderReadOnly,
+         {},
+         false,
+         "New2024.mdb': Permission denied"},
+        {"import where no backup can be made",
+         {"import", "--year", "2024", "CATCHES"},
+         FolderReadOnly,
+         {},
+         false,
+         "backups': Permission denied"},
+        {"query on a read-only year file",
+         {"query", "--year", "2024", "--best"},
+         {},
+         QFileDevice::ReadOwner | QFileDevice::ReadGroup,
+         false,
+         "2024.mdb: Permission denied; the query keeps its result in the file"},
+    };
+    for (const auto& c : cases) {
+        const QString home = CreatedYear("log-cause");
+        const QString csv = QDir(home).filePath("catches.csv");
+        testenv::WriteFile(csv, "JulianDate,TotalTaken\n01/02/2024,3\n");
+        const QByteArray year = testenv::FileBytes(YearPath(home));
+        const Launch launch = c.Limited ? smallFiles : AsOrdinaryUser(home);
+        if (c.Year) {
+            ASSERT_TRUE(QFile::setPermissions(YearPath(home), c.Year));
+        }
+        if (c.Folder) {
+            ASSERT_TRUE(QFile::setPermissions(home, c.Folder));
+        }
+        const LogRun run =
+            RunLog(home, QStringList(c.Args).replaceInStrings("CATCHES", csv), launch);
+        QFile::setPermissions(home, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                        QFileDevice::ExeOwner); // to be cleaned up again
+        ExpectOneLineRefusal(run, 1, c.Name);
+        EXPECT_TRUE(run.Err.contains(c.Said)) << c.Name << ": " << run.Err.toStdString();
+        EXPECT_EQ(testenv::FileBytes(YearPath(home)), year) << c.Name;
+    }
 }
