@@ -90,6 +90,10 @@ std::optional<std::string> ReadQueryOptions(const std::map<std::string, std::str
 {
     for (const RangeOption& o : ValueOptions) {
         if (const auto given = options.find(o.Name); given != options.end()) {
+            // A condition with one value box takes no range, which would lose its second end.
+            if (QueryConditions()[std::size_t(o.Condition)].Boxes.size() == 1 &&
+                given->second.find('-') != std::string::npos)
+                return std::string(o.Name) + " takes one number, not '" + given->second + "'";
             request.Form.Checked[std::size_t(o.Condition)] = true;
             PutRange(request.Form, o.Condition, given->second);
         }
