@@ -84,13 +84,13 @@ DbResult SwapIn(const QString& path, const QString& fresh, const QString& keep, 
     if (ops.Exists(keeping) && !ops.Remove(keeping))
         return StepFailed(QStringLiteral("Cannot delete '%1'").arg(keeping), ops);
     if (!ops.Copy(path, keeping) || !ops.Sync(keeping)) {
-        const DbResult failed =
+        DbResult failed =
             StepFailed(QStringLiteral("Cannot copy '%1' to '%2'").arg(path, keeping), ops);
         ops.Remove(keeping);
         return failed;
     }
     if (!ops.Replace(keeping, keep)) {
-        const DbResult failed =
+        DbResult failed =
             StepFailed(QStringLiteral("Cannot rename '%1' to '%2'").arg(keeping, keep), ops);
         ops.Remove(keeping);
         return failed;
