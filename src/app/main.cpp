@@ -1,4 +1,5 @@
-// Quillmere: a fishing calendar. Any command-line argument resets the stored settings.
+// Quillmere: a fishing calendar. It takes --reset, --help and --version; anything else is
+// refused with a usage line, and touches nothing.
 #include "app/startup.h"
 #include "platform/singleinstance.h"
 #include "ui/calendar/frmcalendar.h"
@@ -7,16 +8,29 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <iostream>
+
 int main(int argc, char** argv)
 {
-    QApplication qapp(argc, argv);
+    using Kind = StartRequest::Kind;
+    // --help and --version are answered before a window system is needed.
+    QStringList given;
+    for (int i = 1; i < argc; ++i)
+        given << QString::fromLocal8Bit(argv[i]);
+    const StartRequest early = ReadStartArguments(given);
+    if (early.What == Kind::Help || early.What == Kind::Version)
+        return AnswerStartRequest(early, std::cout, std::cerr);
+    QApplication qapp(argc, argv); // takes Qt's own options out of the list
+    const StartRequest request = ReadStartArguments(qapp.arguments().mid(1));
+    if (request.What != Kind::Run && request.What != Kind::Reset)
+        return AnswerStartRequest(request, std::cout, std::cerr);
     QApplication::setApplicationName(QStringLiteral("Quillmere"));
     // The desktop matches the windows to the installed launcher and its icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.quillmere.Quillmere"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("io.github.quillmere.Quillmere")));
     AppState app;
     SingleInstance instance;
-    switch (StartUp(app, qapp.arguments().mid(1), instance)) {
+    switch (StartUp(app, request.What == Kind::Reset, instance)) {
     case StartOutcome::AlreadyRunning:
         return 0;
     case StartOutcome::BadSetting:

@@ -7,11 +7,27 @@
 #include "platform/settingsio.h"
 #include "platform/singleinstance.h"
 #include "platform/systemlocale.h"
+#include "text/version.h"
 #include "ui/common/appstate.h"
 
 #include <cstdio>
 
 namespace {
+
+const char* const UsageLine = "Usage: quillmere [--reset | --help | --version]";
+
+const char* const HelpText =
+    R"(Quillmere: a month calendar of solunar fishing forecasts, with a fishing log.
+
+  --reset    start with the default settings; the stored ones are kept as
+             Quillmere.ini.bak beside them
+  --help     this text
+  --version  the program's version
+
+Qt's own options (-style, -platform, ...) work as Qt describes them. The fishing log on the
+command line is quillmere-log, the forecasts quillmere-forecast.
+)";
+
 // The first start is recorded beside the settings, in a file a reset does not wipe, so that
 // after a reset the defaults apply unchanged.
 bool FirstStart()
@@ -24,29 +40,71 @@ bool FirstStart()
     return true;
 }
 
-// Any argument at all resets the settings; a one-line note on stderr makes sure that no
-// argument (--version, --help) wipes them without a word.
+// The settings are reset only after the stored ones are kept as a copy; a line on stderr
+// says what was done.
 void ResetSettings(SettingsStore& store)
 {
+    QString kept;
+    if (const QString failed = store.KeepCopy(kept); !failed.isEmpty()) {
+        std::fprintf(stderr, "Stored settings not reset: %s\n", qUtf8Printable(failed));
+        return;
+    }
     store.DeleteAll();
-    if (store.Flush())
-        std::fputs("Stored settings reset to their defaults.\n", stderr);
-    else
+    if (!store.Flush())
         std::fprintf(stderr, "Stored settings could not be reset: %s is not writable.\n",
                      qUtf8Printable(store.FilePath()));
+    else if (kept.isEmpty())
+        std::fputs("Stored settings reset to their defaults.\n", stderr);
+    else
+        std::fprintf(stderr,
+                     "Stored settings reset to their defaults; the old ones are kept in %s.\n",
+                     qUtf8Printable(kept));
 }
 
 QString BadSettingText(const SettingError& e)
 {
     return QStringLiteral("The stored setting \"%1\" holds \"%2\", which is not %3.\n\n"
-                          "Start Quillmere once with any argument (for example: quillmere "
-                          "--reset) to restore the default settings.")
+                          "Start Quillmere once with --reset (quillmere --reset) to restore the "
+                          "default settings; the present ones are kept as Quillmere.ini.bak.")
         .arg(QString::fromStdString(e.Key), QString::fromStdString(e.Text),
              QString::fromStdString(e.Expected));
 }
 } // namespace
 
-StartOutcome StartUp(AppState& app, const QStringList& arguments, SingleInstance& instance)
+StartRequest ReadStartArguments(const QStringList& arguments)
+{
+    using Kind = StartRequest::Kind;
+    if (arguments.isEmpty())
+        return {};
+    const QString& first = arguments.front();
+    if (arguments.size() > 1)
+        return {Kind::Unknown, arguments.join(QLatin1Char(' '))};
+    if (first == QStringLiteral("--reset"))
+        return {Kind::Reset, first};
+    if (first == QStringLiteral("--help") || first == QStringLiteral("-h"))
+        return {Kind::Help, first};
+    if (first == QStringLiteral("--version"))
+        return {Kind::Version, first};
+    return {Kind::Unknown, first};
+}
+
+int AnswerStartRequest(const StartRequest& request, std::ostream& out, std::ostream& err)
+{
+    switch (request.What) {
+    case StartRequest::Kind::Help:
+        out << UsageLine << "\n\n" << HelpText;
+        return 0;
+    case StartRequest::Kind::Version:
+        out << VersionLine("quillmere");
+        return 0;
+    default:
+        err << "quillmere: '" << request.Argument.toStdString() << "' is not an option; "
+            << UsageLine << "\n";
+        return 2;
+    }
+}
+
+StartOutcome StartUp(AppState& app, bool reset, SingleInstance& instance)
 {
     Settings& s = app.Config;
     s.DaylightBias = SystemDaylightBias();
@@ -55,7 +113,6 @@ StartOutcome StartUp(AppState& app, const QStringList& arguments, SingleInstance
                             QStringLiteral("Error Loading"));
         return StartOutcome::AlreadyRunning;
     }
-    const bool reset = !arguments.isEmpty();
     if (reset)
         ResetSettings(app.Store);
 

@@ -7,9 +7,15 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
+#include <cstring>
+
+#include <sys/stat.h>
+
 namespace {
 
 const QString TimeFormat = QStringLiteral("yyyy-MM-dd_HH-mm-ss");
+constexpr mode_t NewFolderMode = 0777; // narrowed by the user's umask
 
 QString YearOf(const QString& yearFile) { return QFileInfo(yearFile).fileName().left(4); }
 
@@ -56,9 +62,10 @@ DbResult Prune(const QString& yearFile)
 
 DbResult BackUpBytes(const QString& yearFile, const QByteArray& bytes, const QDateTime& now)
 {
-    if (!QDir().mkpath(BackupFolder(yearFile)))
-        return DbResult::Failure(
-            QStringLiteral("Cannot create the folder '%1'.").arg(BackupFolder(yearFile)));
+    const QString folder = BackupFolder(yearFile);
+    if (::mkdir(QFile::encodeName(folder).constData(), NewFolderMode) != 0 && errno != EEXIST)
+        return DbResult::Failure(QStringLiteral("Cannot create the folder '%1': %2.")
+                                     .arg(folder, QString::fromLocal8Bit(std::strerror(errno))));
     if (DbResult written = WriteWhole(FreeBackupPath(yearFile, now), bytes); !written)
         return written;
     return Prune(yearFile);

@@ -10,20 +10,27 @@ namespace {
 
 QVariant Text(const std::string& s) { return QVariant(QString::fromStdString(s)); }
 
+// The moment of each day at which the fill takes the Moon's illumination and waxing: local
+// noon, as a fraction of the day, whatever the main window's hour bar shows.
+constexpr double FillMomentOfDay = 0.5;
+
 // An hour of the day, or -1 when the day has no such event.
 QVariant HourOrNone(double hours, bool none) { return none ? QVariant(-1) : QVariant(hours); }
 
-// Keeps the observer's zone and daylight-saving values across the fill's per-day changes.
+// Keeps the observer's zone, daylight-saving values and moment of the day across the fill's
+// changes.
 class ObserverRestore {
 public:
     explicit ObserverRestore(Observer& site)
-        : site_(site), dstOffsetDays_(site.DstOffsetDays), zoneDays_(site.ZoneDays)
+        : site_(site), dstOffsetDays_(site.DstOffsetDays), zoneDays_(site.ZoneDays),
+          hourInstant_(site.HourInstant)
     {
     }
     ~ObserverRestore()
     {
         site_.DstOffsetDays = dstOffsetDays_;
         site_.ZoneDays = zoneDays_;
+        site_.HourInstant = hourInstant_;
     }
     ObserverRestore(const ObserverRestore&) = delete;
     ObserverRestore& operator=(const ObserverRestore&) = delete;
@@ -32,6 +39,7 @@ private:
     Observer& site_;
     double dstOffsetDays_;
     double zoneDays_;
+    double hourInstant_;
 };
 
 } // namespace
@@ -89,6 +97,7 @@ DbResult FillYear(Astronomy& engine, const Calendar& cal, std::int32_t daylightB
                   DataControl& data0, const FillProgress& progress)
 {
     const ObserverRestore restore(engine.Site);
+    engine.Site.HourInstant = FillMomentOfDay + engine.Site.ZoneDays; // as the hour bar holds it
     const int L = cal.YearSlots - 1;
     const int S = cal.DstStartDay, E = cal.DstEndDay;
     std::vector<FieldValues> records;

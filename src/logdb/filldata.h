@@ -23,9 +23,10 @@ Calendar YearCalendar(Astronomy& engine, int year, std::int16_t south);
 FieldValues DayRecord(Astronomy& engine, const Calendar& cal, int d);
 
 // Writes one table1 record per day of cal.CurYear through data0, which is open on
-// "select * from table1". Days from DstStartDay to DstEndDay - 1 are computed with the
-// offset daylightBias / 1440, the others without; the engine's DstOffsetDays and ZoneDays
-// are as before when it returns. All the records are saved in one transaction, or none.
+// "select * from table1". Every day is computed at local noon; days from DstStartDay to
+// DstEndDay - 1 with the offset daylightBias / 1440, the others without. The engine's
+// DstOffsetDays, ZoneDays and HourInstant are as before when it returns. All the records are
+// saved in one transaction, or none.
 DbResult FillYear(Astronomy& engine, const Calendar& cal, std::int32_t daylightBias,
                   DataControl& data0, const FillProgress& progress = {});
 

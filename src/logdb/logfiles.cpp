@@ -17,15 +17,24 @@
 #include <limits>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 namespace {
 
 // How far past the last readable rowid a repair looks for more records when nothing readable
 // tells where the table ends.
 constexpr qint64 BlindProbeSpan = 65536;
+
+// The size of the blocks a copy reads and writes, the mode it creates the copy with (before it
+// takes the source's) and the permission bits of a file's mode.
+constexpr std::size_t CopyBlock = 1 << 20;
+constexpr mode_t CopyMode = 0600;
+constexpr mode_t PermissionBits = 07777;
 
 QString Sibling(const QString& path, const QString& name)
 {
@@ -58,6 +67,14 @@ DbResult CreateEmptyFile(const QString& path)
     return DbResult::Success();
 }
 
+// "Cannot copy 'a' to 'b': No space left on device." with the cause when it is known.
+DbResult StepFailed(const QString& what, const FileOps& ops)
+{
+    const QString cause = ops.Cause();
+    return DbResult::Failure(cause.isEmpty() ? what + QLatin1Char('.')
+                                             : QStringLiteral("%1: %2.").arg(what, cause));
+}
+
 // Puts the complete, synced file `fresh` in the place of `path`, after the file there has been
 // copied to `keep`. `path` holds the previous file under its own name until the last step,
 // one atomic rename, gives it the new one.
@@ -65,17 +82,21 @@ DbResult SwapIn(const QString& path, const QString& fresh, const QString& keep, 
 {
     const QString keeping = keep + QStringLiteral(".new");
     if (ops.Exists(keeping) && !ops.Remove(keeping))
-        return DbResult::Failure(QStringLiteral("Cannot delete '%1'.").arg(keeping));
+        return StepFailed(QStringLiteral("Cannot delete '%1'").arg(keeping), ops);
     if (!ops.Copy(path, keeping) || !ops.Sync(keeping)) {
+        DbResult failed =
+            StepFailed(QStringLiteral("Cannot copy '%1' to '%2'").arg(path, keeping), ops);
         ops.Remove(keeping);
-        return DbResult::Failure(QStringLiteral("Cannot copy '%1' to '%2'.").arg(path, keeping));
+        return failed;
     }
     if (!ops.Replace(keeping, keep)) {
+        DbResult failed =
+            StepFailed(QStringLiteral("Cannot rename '%1' to '%2'").arg(keeping, keep), ops);
         ops.Remove(keeping);
-        return DbResult::Failure(QStringLiteral("Cannot rename '%1' to '%2'.").arg(keeping, keep));
+        return failed;
     }
     if (!ops.Replace(fresh, path))
-        return DbResult::Failure(QStringLiteral("Cannot rename '%1' to '%2'.").arg(fresh, path));
+        return StepFailed(QStringLiteral("Cannot rename '%1' to '%2'").arg(fresh, path), ops);
     return DbResult::Success();
 }
 
@@ -90,9 +111,9 @@ QStringList EngineCompanions(const QString& path)
 DbResult Publish(const QString& building, const QString& path, FileOps& ops)
 {
     if (!ops.Sync(building))
-        return DbResult::Failure(QStringLiteral("Cannot write '%1' to the disk.").arg(building));
+        return StepFailed(QStringLiteral("Cannot write '%1' to the disk").arg(building), ops);
     if (!ops.Rename(building, path))
-        return DbResult::Failure(QStringLiteral("Cannot rename '%1' to '%2'.").arg(building, path));
+        return StepFailed(QStringLiteral("Cannot rename '%1' to '%2'").arg(building, path), ops);
     return DbResult::Success();
 }
 
@@ -162,10 +183,49 @@ DbResult Fail(FileOps& ops, const QString& leftover, const DbResult& failure)
     return failure;
 }
 
+// The file's permissions for its owner, group and others. The "User" ones say what this
+// process may do (everything, for the superuser), and setting them would set the owner's.
+QFileDevice::Permissions ModeOf(const QString& path)
+{
+    return QFileInfo(path).permissions() &
+           ~(QFileDevice::ReadUser | QFileDevice::WriteUser | QFileDevice::ExeUser);
+}
+
+// The file a link leads to, or the path itself when it is no link.
+QString ResolvedFile(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString target = info.isSymLink() ? info.canonicalFilePath() : QString();
+    return target.isEmpty() ? path : target;
+}
+
 // The name a year file is made under until it is whole.
 QString CreatingName(const QString& path) { return path + QStringLiteral(".creating"); }
 
 bool SyncDescriptor(int fd) { return fd >= 0 && ::fsync(fd) == 0; }
+
+// Copies the whole of `in` to `out`, with the permissions of `in`; false with errno set by the
+// step that failed.
+bool CopyDescriptor(int in, int out)
+{
+    struct stat source {};
+    if (::fstat(in, &source) != 0 || ::fchmod(out, source.st_mode & PermissionBits) != 0)
+        return false;
+    std::vector<char> block(CopyBlock);
+    for (;;) {
+        const ssize_t got = ::read(in, block.data(), block.size());
+        if (got == 0)
+            return true;
+        if (got < 0 && errno != EINTR)
+            return false;
+        for (ssize_t done = 0; got > 0 && done < got;) {
+            const ssize_t put = ::write(out, block.data() + done, std::size_t(got - done));
+            if (put < 0 && errno != EINTR)
+                return false;
+            done += std::max<ssize_t>(put, 0);
+        }
+    }
+}
 
 bool SyncFolderOf(const QString& path)
 {
@@ -179,28 +239,63 @@ bool SyncFolderOf(const QString& path)
 
 } // namespace
 
+bool FileOps::Noted(bool done)
+{
+    if (done)
+        cause_.clear();
+    else
+        cause_ = QString::fromLocal8Bit(std::strerror(errno));
+    return done;
+}
+
+bool FileOps::Failed(const QString& cause)
+{
+    cause_ = cause;
+    return false;
+}
+
 bool FileOps::Exists(const QString& path) const { return QFileInfo::exists(path); }
-bool FileOps::Remove(const QString& path) { return QFile::remove(path); }
+bool FileOps::Remove(const QString& path)
+{
+    return Noted(::unlink(QFile::encodeName(path).constData()) == 0);
+}
+
 bool FileOps::Rename(const QString& from, const QString& to)
 {
-    return QFile::rename(from, to) && SyncFolderOf(to);
+    return Exists(to) ? Failed(QStringLiteral("a file of that name exists")) : Replace(from, to);
 }
 
 bool FileOps::Replace(const QString& from, const QString& to)
 {
-    return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0 &&
-           SyncFolderOf(to);
+    return Noted(::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) ==
+                 0) &&
+           Noted(SyncFolderOf(to));
 }
 
-bool FileOps::Copy(const QString& from, const QString& to) { return QFile::copy(from, to); }
+bool FileOps::Copy(const QString& from, const QString& to)
+{
+    const int in = ::open(QFile::encodeName(from).constData(), O_RDONLY | O_CLOEXEC);
+    if (in < 0)
+        return Noted(false);
+    const int out = ::open(QFile::encodeName(to).constData(),
+                           O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, CopyMode);
+    const bool copied = Noted(out >= 0 && CopyDescriptor(in, out));
+    ::close(in);
+    if (out >= 0) {
+        ::close(out);
+        if (!copied)
+            ::unlink(QFile::encodeName(to).constData());
+    }
+    return copied;
+}
 
 bool FileOps::Sync(const QString& path)
 {
     const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY);
-    const bool synced = SyncDescriptor(fd);
+    const bool synced = Noted(SyncDescriptor(fd));
     if (fd >= 0)
         ::close(fd);
-    return synced && SyncFolderOf(path);
+    return synced && Noted(SyncFolderOf(path));
 }
 
 QString YearFileName(int year) { return QString::number(year) + QStringLiteral(".mdb"); }
@@ -278,8 +373,8 @@ CreateYearResult CreateYearFile(const QString& folder, int year, const YearFill&
     DbResult made =
         ops.Copy(templatePath, building)
             ? DbResult::Success()
-            : DbResult::Failure(
-                  QStringLiteral("Cannot copy '%1' to '%2'.").arg(templatePath, building));
+            : StepFailed(QStringLiteral("Cannot copy '%1' to '%2'").arg(templatePath, building),
+                         ops);
     made = made && fill ? fill(building) : made;
     made = made ? Publish(building, out.Path, ops) : made;
     if (!made) {
@@ -310,10 +405,13 @@ DbResult CompactDB(const QString& path, const QString& connect)
 
 DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
 {
-    const QString compacted = Sibling(path, QStringLiteral("New") + QFileInfo(path).fileName());
     const YearFileLock lock(path);
     if (!lock.Held())
         return DbResult::Failure(lock.Message());
+    // A year file that is a link to a file elsewhere is compacted there, so that the link
+    // stays; the compacted copy takes the file's permissions.
+    const QString file = ResolvedFile(path);
+    const QString compacted = Sibling(file, QStringLiteral("New") + QFileInfo(path).fileName());
     // A file that is not a whole log must not become the kept copy's successor.
     if (DbResult whole = CheckFile(path, connect); !whole)
         return DbResult::Failure(whole.Message +
@@ -327,7 +425,10 @@ DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
         // The year file opened, so a copy left beside it by an interrupted compaction holds
         // nothing the file does not.
         if (ops.Exists(compacted) && !ops.Remove(compacted))
-            return DbResult::Failure(QStringLiteral("Cannot delete '%1'.").arg(compacted));
+            return StepFailed(QStringLiteral("Cannot delete '%1'").arg(compacted), ops);
+        // Made empty first, so that a folder that takes no new file is said in its words.
+        if (DbResult created = CreateEmptyFile(compacted); !created)
+            return created;
         QSqlQuery q(db.Connection());
         q.prepare(QStringLiteral("VACUUM INTO ?"));
         q.addBindValue(compacted);
@@ -337,10 +438,15 @@ DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
     if (!ops.Sync(compacted))
         return Fail(
             ops, compacted,
-            DbResult::Failure(QStringLiteral("Cannot write '%1' to the disk.").arg(compacted)));
+            StepFailed(QStringLiteral("Cannot write '%1' to the disk").arg(compacted), ops));
     if (DbResult checked = CheckFile(compacted, connect); !checked)
         return Fail(ops, compacted, checked);
-    if (DbResult replaced = SwapIn(path, compacted, Companion(path, ".BAK"), ops); !replaced)
+    if (!QFile::setPermissions(compacted, ModeOf(file)))
+        return Fail(
+            ops, compacted,
+            DbResult::Failure(
+                QStringLiteral("Cannot give '%1' the permissions of '%2'.").arg(compacted, file)));
+    if (DbResult replaced = SwapIn(file, compacted, Companion(path, ".BAK"), ops); !replaced)
         return Fail(ops, compacted, replaced);
     return DbResult::Success();
 }
@@ -449,9 +555,9 @@ DbResult RestoreYearFile(const QString& folder, const RestorableYear& kept, File
     const QString building = CreatingName(path);
     RemoveWithCompanions(building, ops);
     if (!ops.Copy(kept.Copy, building))
-        return Fail(ops, building,
-                    DbResult::Failure(
-                        QStringLiteral("Cannot copy '%1' to '%2'.").arg(kept.Copy, building)));
+        return Fail(
+            ops, building,
+            StepFailed(QStringLiteral("Cannot copy '%1' to '%2'").arg(kept.Copy, building), ops));
     if (DbResult published = Publish(building, path, ops); !published)
         return Fail(ops, building, published);
     if (!YearFileOfLeftover(QFileInfo(kept.Copy).fileName()).isEmpty())
@@ -714,7 +820,7 @@ RepairReport RepairYearFile(const QString& path, const QString& connect, FileOps
         }
         report.Damaged = true;
         if (ops.Exists(rebuilt) && !ops.Remove(rebuilt))
-            return failed(DbResult::Failure(QStringLiteral("Cannot delete '%1'.").arg(rebuilt)));
+            return failed(StepFailed(QStringLiteral("Cannot delete '%1'").arg(rebuilt), ops));
         if (DbResult made = Rebuild(path, damaged, rebuilt, report); !made)
             return failed(made);
         if (!opened && report.Kept == 0)
@@ -724,7 +830,7 @@ RepairReport RepairYearFile(const QString& path, const QString& connect, FileOps
     }
     if (!ops.Sync(rebuilt))
         return failed(
-            DbResult::Failure(QStringLiteral("Cannot write '%1' to the disk.").arg(rebuilt)));
+            StepFailed(QStringLiteral("Cannot write '%1' to the disk").arg(rebuilt), ops));
     if (DbResult replaced = SwapIn(path, rebuilt, Companion(path, ".BAD"), ops); !replaced)
         return failed(replaced);
     return report;

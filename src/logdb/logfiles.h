@@ -30,6 +30,18 @@ public:
     virtual bool Copy(const QString& from, const QString& to);
     // Puts the file's contents and its entry in the folder on the disk.
     virtual bool Sync(const QString& path);
+
+    // Why the last step that failed did ("No space left on device", "Permission denied"), in
+    // the system's words; empty when that is not known.
+    QString Cause() const { return cause_; }
+
+protected:
+    // Keeps the system's words for the last error when `done` is false; gives `done` back.
+    bool Noted(bool done);
+    bool Failed(const QString& cause);
+
+private:
+    QString cause_;
 };
 
 // Writes a year's records into the file at the given path.
@@ -67,7 +79,9 @@ CreateYearResult CreateYearFile(const QString& folder, int year, const YearFill&
 // Compacts the file: "New" + name is written beside it, synced and checked; the file is
 // copied to "<first four characters>.BAK" in place of the previous one; then the new copy
 // takes the file's name in one rename. The year file keeps its name throughout, so a crash
-// at any moment leaves it whole under that name.
+// at any moment leaves it whole under that name. The compacted file keeps the file's
+// permissions; when the year file is a link, the compacted copy is made and renamed beside
+// the file it leads to, so the link stays.
 DbResult CompactDB(const QString& path, const QString& connect = {});
 DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops);
 

@@ -1,10 +1,12 @@
 #include "logdb/logimport.h"
 
 #include "db/storedforms.h"
+#include "logdb/catchvalues.h"
 #include "logdb/csvread.h"
 #include "logdb/logfiles.h"
 #include "logdb/yearlock.h"
 
+#include <QFile>
 #include <QSqlQuery>
 #include <algorithm>
 
@@ -47,41 +49,6 @@ Header ReadHeader(const CsvRecord& first, const std::vector<ColumnInfo>& known,
     return header;
 }
 
-// "7:00 AM": a time of day in the form of the browser's peak time list.
-std::optional<QString> PeakTimeText(const QString& text)
-{
-    const std::optional<std::string> stored = StoredTime(text.toStdString());
-    if (!stored)
-        return std::nullopt;
-    const int hour = std::stoi(stored->substr(0, 2));
-    return QStringLiteral("%1:%2 %3")
-        .arg((hour + 11) % 12 + 1)
-        .arg(QString::fromStdString(stored->substr(3, 2)))
-        .arg(hour < 12 ? QStringLiteral("AM") : QStringLiteral("PM"));
-}
-
-// The cell in stored form, or the reason it cannot be stored.
-std::optional<QVariant> CatchValue(const QString& column, const QString& cell, QString& why)
-{
-    if (cell.trimmed().isEmpty())
-        return QVariant();
-    if (column == QStringLiteral("TotalTaken")) {
-        bool ok = false;
-        const int taken = cell.trimmed().toInt(&ok);
-        if (ok && taken >= 0)
-            return QVariant(taken);
-        why = QStringLiteral("TotalTaken \"%1\" is not a whole number of fish").arg(cell);
-        return std::nullopt;
-    }
-    if (column == QStringLiteral("PeakTime")) {
-        if (const std::optional<QString> text = PeakTimeText(cell.trimmed()))
-            return QVariant(*text);
-        why = QStringLiteral("PeakTime \"%1\" is not a time of day").arg(cell);
-        return std::nullopt;
-    }
-    return QVariant(cell);
-}
-
 bool HasValue(const QVariant& v) { return !v.isNull() && !v.toString().trimmed().isEmpty(); }
 
 // Date (stored form) -> whether the record holds an entry, for every record of the file.
@@ -115,6 +82,12 @@ std::optional<ImportRow> CheckRow(const CsvRecord& record, RowCheck& check,
         issues.push_back({record.Line, text});
         return std::nullopt;
     };
+    const auto notText = [](const std::string& field) {
+        return !QByteArrayView(field.data(), qsizetype(field.size())).isValidUtf8();
+    };
+    if (std::any_of(record.Fields.begin(), record.Fields.end(), notText))
+        return problem(
+            QStringLiteral("the line is not UTF-8 text and is left out; save the file as UTF-8"));
     if (record.Fields.size() != check.Head.Width)
         return problem(QStringLiteral("%1 fields where the header has %2")
                            .arg(record.Fields.size())
@@ -139,7 +112,7 @@ std::optional<ImportRow> CheckRow(const CsvRecord& record, RowCheck& check,
         const auto value =
             CatchValue(column, QString::fromStdString(record.Fields[size_t(index)]), why);
         if (!value) {
-            issues.push_back({record.Line, why});
+            issues.push_back({record.Line, column + QLatin1Char(' ') + why});
             bad = true;
             continue;
         }
@@ -160,6 +133,24 @@ int ImportPlan::OccupiedRows() const
 {
     return int(
         std::count_if(Rows.begin(), Rows.end(), [](const ImportRow& r) { return r.Occupied; }));
+}
+
+DbResult ReadImportFile(const QString& path, QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return DbResult::Failure(
+            QStringLiteral("%1 cannot be read: %2").arg(path, file.errorString()));
+    bytes = file.read(MostImportBytes + 1);
+    if (bytes.size() > MostImportBytes)
+        return DbResult::Failure(
+            QStringLiteral("%1 holds more than %2 MB, far more than a year of catch entries")
+                .arg(path)
+                .arg(MostImportBytes / (1024 * 1024)));
+    if (file.error() != QFileDevice::NoError)
+        return DbResult::Failure(
+            QStringLiteral("%1 cannot be read: %2").arg(path, file.errorString()));
+    return DbResult::Success();
 }
 
 DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, ImportPlan& plan)

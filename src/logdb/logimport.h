@@ -28,6 +28,14 @@ struct ImportPlan {
 
 enum class ImportChoice { Skip, Overwrite };
 
+// A year of catch entries is far smaller: a larger file, or one without an end such as a
+// device, is refused before it is read whole.
+inline constexpr qint64 MostImportBytes = 16 * 1024 * 1024;
+
+// The CSV file's bytes, or why they cannot be had: the file cannot be read, or it holds more
+// than MostImportBytes.
+DbResult ReadImportFile(const QString& path, QByteArray& bytes);
+
 // Reads the CSV text and checks it against the year file of the given year.
 DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, ImportPlan& plan);
 

@@ -32,7 +32,14 @@ struct TimeZoneEntry {
 // of zone z is at position 12 + z.
 const std::vector<TimeZoneEntry>& TimeZoneEntries();
 constexpr int TimeZoneListPosition(int zone) { return 12 + zone; }
-constexpr bool IsListedTimeZone(int zone) { return zone >= -12 && zone <= 12; }
+inline constexpr int MostLongitude = 180; // degrees either way of Greenwich
+inline constexpr int MostLatitude = 90;
+// A name longer than this does not fit the location menus (the longest city the city list
+// gives, with its state, has 64 characters).
+inline constexpr int MaxLocationNameLength = 80;
+inline constexpr int LowestZone = -12; // twelve hours east of Greenwich
+inline constexpr int HighestZone = 12; // twelve hours west
+constexpr bool IsListedTimeZone(int zone) { return zone >= LowestZone && zone <= HighestZone; }
 
 // The character after the first blank in upper case ("new york" -> "new York"); a text
 // without a blank is returned as it is.

@@ -1,5 +1,6 @@
 #include "platform/settingsstore.h"
 
+#include <QFile>
 #include <QSettings>
 
 namespace {
@@ -21,6 +22,8 @@ SettingsStore SettingsStore::ReadOnly(QString file)
 
 QString SettingsStore::Read(const QString& key, const QString& defaultText) const
 {
+    if (InMemory && Removed.contains(key))
+        return defaultText;
     if (InMemory && (MemoryCleared || Memory.contains(key)))
         return Memory.value(key, defaultText);
     const QVariant v = Open(FileName).value(Section + key, defaultText);
@@ -33,17 +36,30 @@ QString SettingsStore::Read(const QString& key, const QString& defaultText) cons
 
 void SettingsStore::Write(const QString& key, const QString& text)
 {
-    if (InMemory)
+    if (InMemory) {
+        Removed.remove(key);
         Memory.insert(key, text);
-    else
+    } else
         Open(FileName).setValue(Section + key, text);
 }
 
 bool SettingsStore::Contains(const QString& key) const
 {
+    if (InMemory && Removed.contains(key))
+        return false;
     if (InMemory && (MemoryCleared || Memory.contains(key)))
         return Memory.contains(key);
     return Open(FileName).contains(Section + key);
+}
+
+void SettingsStore::Remove(const QString& key)
+{
+    if (!InMemory) {
+        Open(FileName).remove(Section + key);
+        return;
+    }
+    Memory.remove(key);
+    Removed.insert(key);
 }
 
 void SettingsStore::DeleteAll()
@@ -54,6 +70,21 @@ void SettingsStore::DeleteAll()
         return;
     }
     Open(FileName).clear();
+}
+
+QString SettingsStore::KeepCopy(QString& kept) const
+{
+    kept.clear();
+    const QString path = FilePath();
+    if (InMemory || !QFile::exists(path))
+        return {};
+    const QString copy = path + QStringLiteral(".bak");
+    QFile::remove(copy);
+    QFile file(path);
+    if (!file.copy(copy))
+        return QStringLiteral("cannot copy %1 to %2: %3").arg(path, copy, file.errorString());
+    kept = copy;
+    return {};
 }
 
 bool SettingsStore::Flush()

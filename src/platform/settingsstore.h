@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 
 class SettingsStore {
@@ -18,8 +19,14 @@ public:
     QString Read(const QString& key, const QString& defaultText) const;
     void Write(const QString& key, const QString& text);
     bool Contains(const QString& key) const;
+    // Deletes one key, so that reading it gives the default (in memory only, for a read-only
+    // store).
+    void Remove(const QString& key);
     // Deletes every key of the application.
     void DeleteAll();
+    // Copies the file to "<file>.bak" in place of an older copy; `kept` is the copy's path,
+    // empty when there is no file to keep. The reason when the copy cannot be made.
+    QString KeepCopy(QString& kept) const;
     // Writes pending changes to disk; false when the file cannot be written.
     bool Flush();
     QString FilePath() const;
@@ -29,4 +36,5 @@ private:
     bool InMemory = false;
     bool MemoryCleared = false; // DeleteAll in memory: the file's values no longer count
     QHash<QString, QString> Memory;
+    QSet<QString> Removed; // keys removed in memory: they read as missing
 };

@@ -19,7 +19,7 @@ TEST(FrmCalendar, DataBaseMenuOpensDatabaseFunctionsModallyForTheShownYear)
     AppState app;
     app.Messages.Script([](const ShownMessage&) { return MsgResult::No; });
     SingleInstance instance(QStringLiteral("databasemenu-test"));
-    ASSERT_EQ(StartUp(app, {"x"}, instance), StartOutcome::Run);
+    ASSERT_EQ(StartUp(app, true, instance), StartOutcome::Run);
     FrmCalendar w(app);
     w.show();
     EXPECT_EQ(w.menuBar()->actions().first(), w.RunDataBase);

@@ -25,7 +25,7 @@ struct MainWindow {
     {
         qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
         App.Messages.Script([](const ShownMessage&) { return MsgResult::OK; });
-        Started = StartUp(App, {"x"}, Instance) == StartOutcome::Run;
+        Started = StartUp(App, true, Instance) == StartOutcome::Run;
         W = std::make_unique<FrmCalendar>(App);
         W->show();
     }

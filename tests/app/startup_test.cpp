@@ -1,15 +1,19 @@
 #include "app/startup.h"
 #include "platform/programfolder.h"
 #include "platform/singleinstance.h"
+#include "support/testenv.h"
 #include "ui/calendar/frmcalendar.h"
 #include "ui/common/appstate.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace {
 // A computer on which Quillmere has never run.
@@ -19,11 +23,11 @@ void NeverStarted()
     SettingsStore(QStringLiteral("Install")).DeleteAll();
 }
 
-StartOutcome Start(AppState& app, const QStringList& args = {})
+StartOutcome Start(AppState& app, bool reset = false)
 {
     app.Messages.Script({});
     SingleInstance instance(QStringLiteral("startup-test"));
-    return StartUp(app, args, instance);
+    return StartUp(app, reset, instance);
 }
 } // namespace
 
@@ -57,17 +61,23 @@ TEST(StartUp, RemovesWhatAnInterruptedCreateLeft)
     EXPECT_FALSE(QFile::exists(leftover));
 }
 
-TEST(StartUp, AnyArgumentResetsToTheDefaultsTable)
+TEST(StartUp, ResetKeepsTheOldSettingsBesideThemAndUsesTheDefaultsTable)
 {
     NeverStarted();
     AppState first;
     ASSERT_EQ(Start(first), StartOutcome::Run);
     SettingsStore().Write("DefLoc", "4");
     SettingsStore().Write("TimeFormats", "0");
+    ASSERT_TRUE(SettingsStore().Flush());
+    const QString path = SettingsStore().FilePath();
+    const QByteArray before = testenv::FileBytes(path);
     AppState reset;
     testing::internal::CaptureStderr();
-    ASSERT_EQ(Start(reset, {"--version"}), StartOutcome::Run);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Stored settings reset to their defaults.\n");
+    ASSERT_EQ(Start(reset, true), StartOutcome::Run);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "Stored settings reset to their defaults; the old ones are kept in " +
+                  (path + ".bak.\n").toStdString());
+    EXPECT_EQ(testenv::FileBytes(path + ".bak"), before);
     EXPECT_EQ(reset.Config.CurLoc, 1);
     EXPECT_EQ(reset.Config.TimeFormats, 1);
     EXPECT_EQ(reset.Config.FormLeft, 300);
@@ -99,14 +109,14 @@ TEST(StartUp, BadStoredValueEndsTheStartWithAMessageNamingTheKey)
     EXPECT_EQ(Start(app), StartOutcome::BadSetting);
     ASSERT_EQ(app.Messages.Shown().size(), 1u);
     EXPECT_TRUE(app.Messages.Shown()[0].Text.contains("\"MoonColor\""));
-    EXPECT_TRUE(app.Messages.Shown()[0].Text.contains("any argument"));
+    EXPECT_TRUE(app.Messages.Shown()[0].Text.contains("--reset"));
 }
 
 TEST(FrmCalendar, OpensAtTheStoredPlaceAndSavesOnClose)
 {
     NeverStarted();
     AppState app;
-    ASSERT_EQ(Start(app, {"x"}), StartOutcome::Run);
+    ASSERT_EQ(Start(app, true), StartOutcome::Run);
     app.Config.Locations[2].Longitude = 80.2;
     {
         FrmCalendar w(app);
@@ -129,7 +139,7 @@ TEST(FrmCalendar, ClosingMaximizedStoresTheTopLeftCorner)
 {
     NeverStarted();
     AppState app;
-    ASSERT_EQ(Start(app, {"x"}), StartOutcome::Run);
+    ASSERT_EQ(Start(app, true), StartOutcome::Run);
     {
         FrmCalendar w(app);
         w.showMaximized();
@@ -145,7 +155,7 @@ TEST(FrmCalendar, ClosingSaysWhenTheSettingsCannotBeSaved)
 {
     NeverStarted();
     AppState app;
-    ASSERT_EQ(Start(app, {"x"}), StartOutcome::Run);
+    ASSERT_EQ(Start(app, true), StartOutcome::Run);
     const QString path = app.Store.FilePath();
     QFile::remove(path);
     ASSERT_TRUE(QDir().mkpath(path)); // a folder where the file should be: not writable
@@ -164,4 +174,68 @@ TEST(FrmCalendar, ClosingSaysWhenTheSettingsCannotBeSaved)
         EXPECT_FALSE(w.isVisible());
     }
     QDir(path).removeRecursively();
+}
+
+// The built program started as a terminal or a file manager starts it, with settings of its
+// own: --help, --version and what it does not take leave the settings file byte for byte;
+// Qt's own options are Qt's; --reset keeps the old file as Quillmere.ini.bak and says so.
+TEST(Program, OnlyResetTouchesTheStoredSettings)
+{
+    const QString root = testenv::FreshDir("program-arguments");
+    const QString ini = root + "/config/Quillmere/Quillmere.ini";
+    QDir().mkpath(root + "/config/Quillmere");
+    QDir().mkpath(root + "/runtime");
+    QFile::setPermissions(root + "/runtime",
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    const QByteArray stored = "[Settings]\nUsr1Name=Caddo Lake\nUsr1Long=94.05\nDefLoc=1\n";
+    testenv::WriteFile(ini, stored);
+    const auto start = [&](QProcess& program, const QStringList& args) {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("XDG_CONFIG_HOME", root + "/config");
+        env.insert("XDG_RUNTIME_DIR", root + "/runtime");
+        env.insert("QUILLMERE_HOME", root + "/home");
+        env.insert("QT_QPA_PLATFORM", "offscreen");
+        program.setProcessEnvironment(env);
+        program.start(QUILLMERE_PROGRAM, args);
+    };
+    const struct {
+        QStringList Args;
+        int Status;
+        const char* Out; // how standard output begins
+        const char* Err; // how standard error begins
+    } cases[] = {
+        {{"--version"}, 0, "quillmere ", ""},
+        {{"--help"}, 0, "Usage: quillmere [--reset | --help | --version]", ""},
+        {{"-style", "fusion", "--version"}, 0, "quillmere ", ""},
+        {{"--versoin"}, 2, "", "quillmere: '--versoin' is not an option; Usage: quillmere"},
+        {{root + "/2024.mdb"}, 2, "", "quillmere: '"},
+        {{"--reset", "--help"}, 2, "", "quillmere: '--reset --help' is not an option"},
+    };
+    for (const auto& c : cases) {
+        const std::string where = c.Args.join(' ').toStdString();
+        QProcess program;
+        start(program, c.Args);
+        ASSERT_TRUE(program.waitForFinished(30000)) << where;
+        EXPECT_EQ(program.exitCode(), c.Status) << where;
+        const std::string out = program.readAllStandardOutput().toStdString();
+        const std::string err = program.readAllStandardError().toStdString();
+        EXPECT_EQ(out.rfind(c.Out, 0), 0u) << where << ": " << out;
+        EXPECT_EQ(err.rfind(c.Err, 0), 0u) << where << ": " << err;
+        EXPECT_EQ(std::count(err.begin(), err.end(), '\n'), *c.Err ? 1 : 0) << where;
+        EXPECT_EQ(testenv::FileBytes(ini), stored) << where;
+        EXPECT_FALSE(QFile::exists(ini + ".bak")) << where;
+    }
+
+    QProcess reset;
+    reset.setReadChannel(QProcess::StandardError);
+    start(reset, {"--reset"});
+    QByteArray said;
+    while (!said.contains('\n') && reset.waitForReadyRead(30000))
+        said += reset.readAllStandardError();
+    EXPECT_EQ(said, "Stored settings reset to their defaults; the old ones are kept in " +
+                        QFile::encodeName(ini) + ".bak.\n");
+    EXPECT_EQ(testenv::FileBytes(ini + ".bak"), stored);
+    EXPECT_FALSE(testenv::FileBytes(ini).contains("Caddo Lake"));
+    reset.kill();
+    reset.waitForFinished();
 }

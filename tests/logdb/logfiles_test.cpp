@@ -106,6 +106,47 @@ TEST(Compaction, TwiceLeavesTheCompactedFileAndOneBackup)
     EXPECT_EQ(CountRows(path, "table1"), 182);
 }
 
+// A year file kept elsewhere behind a link stays a link to the compacted file, and a file the
+// angler made read-only (or private) keeps its permissions.
+TEST(Compaction, KeepsALinkALinkAndTheFilesPermissions)
+{
+    using P = QFileDevice;
+    const struct {
+        const char* Name;
+        bool Linked;
+        QFileDevice::Permissions Mode;
+    } cases[] = {
+        {"linked", true, P::ReadOwner | P::WriteOwner | P::ReadGroup | P::ReadOther},
+        {"read-only", false, P::ReadOwner | P::ReadGroup | P::ReadOther},
+        {"private", false, P::ReadOwner | P::WriteOwner},
+        {"linked and read-only", true, P::ReadOwner | P::ReadGroup},
+    };
+    for (const auto& c : cases) {
+        const QString made = MakeYearFile("compact-keeps", 30);
+        const QString folder = FolderOf(made);
+        QString path = made;
+        QString file = made;
+        if (c.Linked) {
+            QDir().mkpath(folder + "/elsewhere");
+            file = folder + "/elsewhere/fishing-2024.sqlite";
+            ASSERT_TRUE(QFile::rename(made, file));
+            ASSERT_TRUE(QFile::link(file, path));
+        }
+        ASSERT_TRUE(QFile::setPermissions(file, c.Mode));
+        ASSERT_TRUE(CompactDB(path)) << c.Name;
+        const QFileInfo info(path);
+        EXPECT_EQ(info.isSymLink(), c.Linked) << c.Name;
+        EXPECT_EQ(info.canonicalFilePath(), QFileInfo(file).canonicalFilePath()) << c.Name;
+        // The owner's, group's and others' permissions; the User ones are this process's.
+        const auto mode =
+            QFileInfo(file).permissions() & ~(P::ReadUser | P::WriteUser | P::ExeUser);
+        EXPECT_EQ(mode, c.Mode) << c.Name;
+        EXPECT_EQ(CountRows(path, "table1"), 30) << c.Name;
+        EXPECT_TRUE(QFile::exists(folder + "/2024.BAK")) << c.Name;
+        EXPECT_FALSE(QFile::exists(QFileInfo(file).absolutePath() + "/New2024.mdb")) << c.Name;
+    }
+}
+
 TEST(Compaction, AFailureLeavesTheYearFileReadable)
 {
     const QString path = MakeYearFile("compact-fail");

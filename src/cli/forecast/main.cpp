@@ -199,7 +199,7 @@ int main(int argc, char** argv)
     } catch (const SettingError& e) {
         std::cerr << "quillmere-forecast: the stored setting " << e.Key << " holds \"" << e.Text
                   << "\", which is not " << e.Expected
-                  << "; start Quillmere with any argument to reset the settings\n";
+                  << "; start Quillmere with --reset to restore the default settings\n";
     } catch (const std::exception& e) {
         std::cerr << "quillmere-forecast: " << e.what() << "\n";
     }

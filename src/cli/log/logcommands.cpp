@@ -145,20 +145,30 @@ struct Streams {
 std::string Std(const QString& text) { return text.toStdString(); }
 
 // The stored settings; a store the program has never written gives the first-start values,
-// kept in memory: the command line never writes the settings.
-Settings StoredSettings()
+// kept in memory: the command line never writes the settings. A stored value that cannot be
+// read is named in one line on err, and its default is used.
+Settings StoredSettings(std::ostream& err)
 {
     SettingsStore store = SettingsStore::ReadOnly();
     if (!store.Contains(QStringLiteral("Usr1Name")))
         WriteFirstStartValues(store);
     Settings s;
-    LoadSettings(s, store);
-    return s;
+    for (;;) {
+        try {
+            LoadSettings(s, store);
+            return s;
+        } catch (const SettingError& e) {
+            err << "quillmere-log: the stored setting " << e.Key << " holds \"" << e.Text
+                << "\", which is not " << e.Expected
+                << "; its default is used (quillmere --reset restores the defaults)\n";
+            store.Remove(QString::fromStdString(e.Key)); // the defaults always load
+        }
+    }
 }
 
 // The forecast place of the location options, checked by the same rules as
 // quillmere-forecast's.
-std::variant<ForecastPlace, UsageError> PlaceOf(const LogRequest& r)
+std::variant<ForecastPlace, UsageError> PlaceOf(const LogRequest& r, std::ostream& err)
 {
     std::vector<std::string> args = {"events", "--year", std::to_string(r.Year)};
     for (const char* name : {"--location", "--lon", "--lat", "--zone", "--name", "--dst"}) {
@@ -172,7 +182,7 @@ std::variant<ForecastPlace, UsageError> PlaceOf(const LogRequest& r)
     if (const auto* e = std::get_if<UsageError>(&parsed))
         return *e;
     const ForecastRequest& f = std::get<ForecastRequest>(parsed);
-    const Settings s = StoredSettings();
+    const Settings s = StoredSettings(err);
     ForecastPlace p;
     p.AmPm = s.AmPm();
     if (f.AtCoordinates) {
@@ -203,7 +213,7 @@ int List(const LogRequest&, const Streams& io)
 
 int Create(const LogRequest& r, const Streams& io)
 {
-    const auto place = PlaceOf(r);
+    const auto place = PlaceOf(r, io.Err);
     if (const auto* e = std::get_if<UsageError>(&place)) {
         io.Err << "quillmere-log: " << e->Message << "\n";
         return 2;
@@ -316,7 +326,8 @@ int Export(const LogRequest& r, const Streams& io)
     if (!YearFileThere(r.Year, io))
         return 1;
     LogTable table;
-    if (const DbResult read = ExportLogTable(io.YearPath(r.Year), StoredSettings().AmPm(), table);
+    if (const DbResult read =
+            ExportLogTable(io.YearPath(r.Year), StoredSettings(io.Err).AmPm(), table);
         !read)
         return io.Fail("cannot read " + Std(io.YearPath(r.Year)) + ": " + Std(read.Message));
     const auto format = r.Options.find("--format");
@@ -339,15 +350,28 @@ std::optional<Selection> Selected(const LogRequest& r, const Streams& io, int& s
         return std::nullopt;
     }
     // The query leaves its result in the file's work tables: a write like any other.
-    const YearFileLock lock(io.YearPath(r.Year));
+    const QString path = io.YearPath(r.Year);
+    const YearFileLock lock(path);
     if (!lock.Held()) {
         io.Fail(Std(lock.Message()));
         return std::nullopt;
     }
-    Selection selection = RunQuery(io.YearPath(r.Year), request, io.Err);
+    if (QFile file(path); !file.open(QIODevice::ReadWrite)) {
+        io.Fail("cannot query " + Std(path) + ": " + Std(file.errorString()) +
+                "; the query keeps its result in the file, so it must be writable");
+        return std::nullopt;
+    }
+    Selection selection = SelectDataWhere(path, request.Form, request.SortIndex);
     if (!selection.Error.isEmpty()) {
         status = 2;
         io.Err << "quillmere-log: " << Std(selection.Error) << "\n";
+        return std::nullopt;
+    }
+    // The options were checked, so a step the engine refused means the file could not take
+    // the result: no days are shown rather than an earlier query's.
+    if (!selection.Refused.isEmpty()) {
+        io.Fail("cannot query " + Std(path) + ": " + Std(selection.Refused.front()) +
+                "; no days are shown");
         return std::nullopt;
     }
     return selection;
@@ -360,7 +384,7 @@ int Query(const LogRequest& r, const Streams& io)
     if (!selection)
         return status;
     const QString path = io.YearPath(r.Year);
-    const bool ampm = StoredSettings().AmPm();
+    const bool ampm = StoredSettings(io.Err).AmPm();
     const auto format = r.Options.find("--format");
     if (format == r.Options.end() || format->second == "text") {
         QString report;
@@ -398,7 +422,7 @@ int Report(const LogRequest& r, const Streams& io)
         return status;
     QString report;
     if (const DbResult read = ReadReportText(io.YearPath(r.Year), selection->RecordSource,
-                                             StoredSettings().AmPm(), report);
+                                             StoredSettings(io.Err).AmPm(), report);
         !read)
         return io.Fail("cannot read the selected days: " + Std(read.Message));
     const auto pdf = r.Options.find("--pdf");
@@ -428,12 +452,11 @@ int Import(const LogRequest& r, const Streams& io)
         return 1;
     const QString path = io.YearPath(r.Year);
     const QString source = QString::fromStdString(r.Options.at("FILE"));
-    QFile csv(source);
-    if (!csv.open(QIODevice::ReadOnly))
-        return io.Fail("cannot read " + Std(source) + ": " + Std(csv.errorString()) +
-                       "; nothing was imported");
+    QByteArray csv;
+    if (const DbResult read = ReadImportFile(source, csv); !read)
+        return io.Fail(Std(read.Message) + "; nothing was imported");
     ImportPlan plan;
-    if (const DbResult planned = PlanImport(path, r.Year, csv.readAll(), plan); !planned)
+    if (const DbResult planned = PlanImport(path, r.Year, csv, plan); !planned)
         return io.Fail("cannot import " + Std(source) + ": " + Std(planned.Message) +
                        "; nothing was imported");
     for (const QString& line : IssueLines(plan))

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ostream>
 
 namespace {
 
@@ -92,6 +91,10 @@ std::optional<std::string> ReadQueryOptions(const std::map<std::string, std::str
 {
     for (const RangeOption& o : ValueOptions) {
         if (const auto given = options.find(o.Name); given != options.end()) {
+            // A condition with one value box takes no range, which would lose its second end.
+            if (QueryConditions()[std::size_t(o.Condition)].Boxes.size() == 1 &&
+                given->second.find('-') != std::string::npos)
+                return std::string(o.Name) + " takes one number, not '" + given->second + "'";
             request.Form.Checked[std::size_t(o.Condition)] = true;
             PutRange(request.Form, o.Condition, given->second);
         }
@@ -110,15 +113,6 @@ std::optional<std::string> ReadQueryOptions(const std::map<std::string, std::str
                    ? std::string("a condition is missing its value (a range is FROM-TO)")
                    : plan.Error;
     return std::nullopt;
-}
-
-Selection RunQuery(const QString& path, const QueryRequest& request, std::ostream& err)
-{
-    Selection selection = SelectDataWhere(path, request.Form, request.SortIndex);
-    for (const QString& refused : selection.Refused)
-        err << "quillmere-log: a step of the selection was passed over: " << refused.toStdString()
-            << "\n";
-    return selection;
 }
 
 std::string QueryText(const QString& reportText, const Selection& selection)

@@ -8,8 +8,6 @@
 
 #include <QString>
 
-#include <iosfwd>
-
 #include <map>
 #include <optional>
 #include <string>
@@ -28,10 +26,6 @@ struct QueryRequest {
 // the form as given; the form's own checks refuse what a condition cannot hold.
 std::optional<std::string> ReadQueryOptions(const std::map<std::string, std::string>& options,
                                             QueryRequest& request);
-
-// Runs the selection on the year file. The form's refusal comes back in the result's Error;
-// steps the engine passed over are reported on err, and the result stands.
-Selection RunQuery(const QString& path, const QueryRequest& request, std::ostream& err);
 
 // The selected days as text: the order's caption, the report's heading and one report line
 // per day.

@@ -6,6 +6,7 @@
 #include "ui/common/databar.h"
 #include "ui/common/messageservice.h"
 
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QEvent>
 #include <QKeyEvent>
@@ -14,6 +15,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -28,6 +30,45 @@ constexpr const char* Tips[] = {" Close this form ",    " Edit this Record ",
                                 " Update this Record ", " Find this City "};
 
 const QString AllStates = QStringLiteral("select * from Table1 Order by State, City");
+const QString Title = QStringLiteral("Edit Database");
+
+// What the location editor can use of a record, box by box: degrees in range with their
+// hemisphere letters, and a whole-hour time zone.
+struct FieldRule {
+    std::size_t Box;
+    int Low = 0, High = 0;    // a number in this range, when Letters is empty
+    const char* Letters = ""; // else one of these two letters, in either case
+};
+constexpr std::size_t ZoneBox = 7;
+constexpr FieldRule Rules[] = {
+    {3, 0, MostLongitude},
+    {4, 0, 0, "WE"},
+    {5, 0, MostLatitude},
+    {6, 0, 0, "NS"},
+    {ZoneBox, LowestZone, HighestZone},
+};
+
+bool Follows(const FieldRule& rule, const QString& typed)
+{
+    const QString text = typed.trimmed();
+    if (*rule.Letters != '\0')
+        return text.size() == 1 && QString::fromLatin1(rule.Letters).contains(text.toUpper());
+    const auto number = NumberOf(text);
+    return number && *number >= rule.Low && *number <= rule.High &&
+           (rule.Box != ZoneBox || *number == std::trunc(*number));
+}
+
+// "W or E", "a number of degrees from 0 to 180".
+QString Wanted(const FieldRule& rule)
+{
+    if (*rule.Letters != '\0')
+        return QStringLiteral("%1 or %2")
+            .arg(QLatin1String(rule.Letters, 1), QLatin1String(rule.Letters + 1, 1));
+    return (rule.Box == ZoneBox ? QStringLiteral("a whole number of hours from %1 to %2")
+                                : QStringLiteral("a number of degrees from %1 to %2"))
+        .arg(rule.Low)
+        .arg(rule.High);
+}
 
 // A text box bound to a column: shows the stored value, gives back what the user typed.
 class BoundText : public BoundControl {
@@ -52,7 +93,7 @@ private:
 EditDB::EditDB(MessageService& messages, const QString& folder, QWidget* parent)
     : QDialog(parent), Messages(messages), Folder(folder)
 {
-    setWindowTitle(QStringLiteral("Edit Database"));
+    setWindowTitle(Title);
     BuildControls();
     ConnectHandlers();
     Form_Load();
@@ -105,7 +146,7 @@ void EditDB::ConnectHandlers()
 bool EditDB::Report(const DbResult& result)
 {
     if (!result)
-        Messages.MsgBox(result.Message, MsgButtons::OK, QStringLiteral("Edit Database"));
+        Messages.MsgBox(result.Message, MsgButtons::OK, Title);
     return result.Ok;
 }
 
@@ -124,8 +165,7 @@ void EditDB::Form_Load()
     ButtonsON();
     TextOff();
     if (const DbResult read = Data1.Refresh(); !read) {
-        Messages.MsgBox(CityDb::Unreadable(Folder, read.Message), MsgButtons::OK,
-                        QStringLiteral("Edit Database"));
+        Messages.MsgBox(CityDb::Unreadable(Folder, read.Message), MsgButtons::OK, Title);
         ButtonsOFF();
         CmdB[Load]->setEnabled(false);
         return;
@@ -184,7 +224,8 @@ void EditDB::CmdB_Click(int index)
 {
     switch (index) {
     case Close:
-        Data1.CancelUpdate();
+        if (!ConfirmLeaveEditing())
+            break;
         Report(Data1.Refresh());
         accept();
         break;
@@ -227,10 +268,26 @@ void EditDB::StartEdit(bool adding)
     Text[1]->setFocus();
 }
 
+QString EditDB::FieldProblem() const
+{
+    for (const FieldRule& rule : Rules) {
+        const QString typed = Text[rule.Box]->text();
+        if (!Follows(rule, typed))
+            return QStringLiteral("%1: \"%2\" is not %3.")
+                .arg(QString::fromLatin1(Labels[rule.Box]).trimmed(), typed, Wanted(rule));
+    }
+    return {};
+}
+
 void EditDB::UpdateRecord()
 {
     if (Text[1]->text().trimmed().isEmpty() || Text[2]->text().trimmed().isEmpty()) {
         Messages.MsgBox(QStringLiteral("Missing Data!"));
+        return;
+    }
+    // A record the location editor could not use is not stored; the edit stays open.
+    if (const QString problem = FieldProblem(); !problem.isEmpty()) {
+        Messages.MsgBox(problem, MsgButtons::OK, Title, MsgIcon::Exclamation);
         return;
     }
     if (!Report(Data1.Update()))
@@ -250,6 +307,35 @@ void EditDB::DeleteRecord()
     Report(Data1.Delete());
     ButtonsON();
     Requery();
+}
+
+bool EditDB::ConfirmLeaveEditing()
+{
+    if (Data1.EditMode() == DataControl::EditState::None)
+        return true;
+    const MsgResult answer =
+        Messages.MsgBox(QStringLiteral("Save changes to this city?"), MsgButtons::SaveDiscardCancel,
+                        Title, MsgIcon::Question);
+    if (answer == MsgResult::Save)
+        UpdateRecord();
+    else if (answer == MsgResult::Discard)
+        CancelEdit();
+    return Data1.EditMode() == DataControl::EditState::None;
+}
+
+void EditDB::closeEvent(QCloseEvent* event)
+{
+    if (!ConfirmLeaveEditing()) {
+        event->ignore();
+        return;
+    }
+    QDialog::closeEvent(event);
+}
+
+void EditDB::reject()
+{
+    if (ConfirmLeaveEditing())
+        QDialog::reject();
 }
 
 void EditDB::CancelEdit()

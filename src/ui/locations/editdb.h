@@ -47,8 +47,15 @@ public:
     QComboBox* Combo = nullptr;
     std::array<QPushButton*, 9> CmdB{};
 
+    // Every way out while a record is being edited or added comes here first: asks "Save
+    // changes to this city?" and saves or discards it. False when the edit stays open (Cancel,
+    // or an entry that cannot be saved).
+    bool ConfirmLeaveEditing();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void reject() override; // Escape
 
 private:
     void BuildControls();
@@ -59,6 +66,9 @@ private:
     void Requery();
     void StartEdit(bool adding);
     void UpdateRecord();
+    // The first box whose text the location editor could not use, as the message saying so;
+    // empty when every one is usable.
+    QString FieldProblem() const;
     void DeleteRecord();
     void CancelEdit();
     void FindCity();

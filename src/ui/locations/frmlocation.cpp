@@ -20,6 +20,11 @@
 
 namespace {
 
+constexpr int MostHundredths = 99;
+// The degree boxes Text(0) to Text(3), as the messages name them.
+constexpr const char* DegreeBoxNames[] = {"Longitude degrees", "Longitude hundredths",
+                                          "Latitude degrees", "Latitude hundredths"};
+
 QScrollBar* DegreeBar(QWidget* parent, int maximum, const QRect& geometry)
 {
     auto* bar = new QScrollBar(Qt::Vertical, parent);
@@ -67,20 +72,18 @@ void FrmLocation::BuildControls()
     setFixedSize(480, 340);
     Caption(this, QStringLiteral("Longitude"), {10, 8, 120, 18});
     Text[0] = Box(this, " Integer Degrees of Longitude ", {10, 30, 44, 24});
-    VsbDegLon = DegreeBar(this, 180, {56, 28, 16, 28});
+    VsbDegLon = DegreeBar(this, MostLongitude, {56, 28, 16, 28});
     Text[1] = Box(this, " Decimal degreesof longitude = Minutes/60 ", {78, 30, 34, 24});
-    VsbFracLon = DegreeBar(this, 99, {114, 28, 16, 28});
+    VsbFracLon = DegreeBar(this, MostHundredths, {114, 28, 16, 28});
     SSOption[0] = Option(this, "W", " Selects West Longitudes ", 142, 31);
     SSOption[1] = Option(this, "E", " Selects East Longitudes ", 186, 31);
     Caption(this, QStringLiteral("Latitude"), {10, 64, 120, 18});
     Text[2] = Box(this, " Integer Degrees of Latitude ", {10, 86, 44, 24});
-    VsbDegLat = DegreeBar(this, 90, {56, 84, 16, 28});
+    VsbDegLat = DegreeBar(this, MostLatitude, {56, 84, 16, 28});
     Text[3] = Box(this, " Decimal Degress of Latitude = Minutes/60 ", {78, 86, 34, 24});
-    VsbFracLat = DegreeBar(this, 99, {114, 84, 16, 28});
+    VsbFracLat = DegreeBar(this, MostHundredths, {114, 84, 16, 28});
     SSOption[2] = Option(this, "N", " Selects North Latitudes ", 142, 87);
     SSOption[3] = Option(this, "S", " Selects South Latitudes ", 186, 87);
-    for (int i = 0; i < 4; ++i)
-        Text[std::size_t(i)]->setReadOnly(true); // the scroll bars set them
     for (int pair = 0; pair < 2; ++pair) {
         auto* group = new QButtonGroup(this);
         group->addButton(SSOption[std::size_t(2 * pair)]);
@@ -130,6 +133,11 @@ void FrmLocation::ConnectHandlers()
     connect(CmdDefault, &QPushButton::clicked, this, &FrmLocation::CmdDefault_Click);
     connect(CmdEdit, &QPushButton::clicked, this, &FrmLocation::CmdEdit_Click);
     connect(CloseLocation, &QPushButton::clicked, this, &FrmLocation::CloseLocation_Click);
+    for (int i = 0; i < int(DegreeBars().size()); ++i)
+        connect(Text[std::size_t(i)], &QLineEdit::editingFinished, this, [this, i] {
+            if (Text[std::size_t(i)]->isModified())
+                Text_Typed(i);
+        });
 }
 
 Location& FrmLocation::Current() { return Ctx.Locations[std::size_t(Ctx.CurLoc)]; }
@@ -191,6 +199,73 @@ void FrmLocation::VsbDegLon_Change() { Text[0]->setText(Q(Pad(VsbDegLon->value()
 void FrmLocation::VsbFracLon_Change() { Text[1]->setText(Q(PadFrac(VsbFracLon->value()))); }
 void FrmLocation::VsbDegLat_Change() { Text[2]->setText(Q(PadFrac(VsbDegLat->value()))); }
 void FrmLocation::VsbFracLat_Change() { Text[3]->setText(Q(PadFrac(VsbFracLat->value()))); }
+
+std::array<QScrollBar*, 4> FrmLocation::DegreeBars() const
+{
+    return {VsbDegLon, VsbFracLon, VsbDegLat, VsbFracLat};
+}
+
+void FrmLocation::ShowDegreeBar(int box)
+{
+    const std::array<void (FrmLocation::*)(), 4> change = {
+        &FrmLocation::VsbDegLon_Change, &FrmLocation::VsbFracLon_Change,
+        &FrmLocation::VsbDegLat_Change, &FrmLocation::VsbFracLat_Change};
+    (this->*change[std::size_t(box)])();
+}
+
+void FrmLocation::Warn(const QString& text)
+{
+    Ctx.Messages.MsgBox(text, MsgButtons::OK, windowTitle(), MsgIcon::Exclamation);
+}
+
+bool FrmLocation::Text_Typed(int box)
+{
+    QScrollBar* bar = DegreeBars()[std::size_t(box)];
+    const QString typed = Text[std::size_t(box)]->text();
+    bool whole = false;
+    const int value = typed.trimmed().toInt(&whole);
+    if (!whole || value < bar->minimum() || value > bar->maximum()) {
+        Warn(QStringLiteral("%1: \"%2\" is not a whole number from %3 to %4.")
+                 .arg(QLatin1String(DegreeBoxNames[box]), typed)
+                 .arg(bar->minimum())
+                 .arg(bar->maximum()));
+        return false; // the text stays for correcting; the bar keeps its value
+    }
+    bar->setValue(value);
+    ShowDegreeBar(box); // the bar's digits, even when the value did not change
+    return true;
+}
+
+bool FrmLocation::NameIsUsable()
+{
+    const QString name = Text[4]->text().trimmed();
+    if (name.isEmpty())
+        Warn(QStringLiteral("The location needs a name: type one, or pick a state and a city."));
+    else if (name.size() > MaxLocationNameLength)
+        Warn(QStringLiteral("A location's name holds at most %1 characters; this one has %2.")
+                 .arg(MaxLocationNameLength)
+                 .arg(name.size()));
+    return !name.isEmpty() && name.size() <= MaxLocationNameLength;
+}
+
+bool FrmLocation::TypedEntriesAreUsable()
+{
+    for (int box = 0; box < int(DegreeBars().size()); ++box) {
+        if (Text[std::size_t(box)]->isModified() && !Text_Typed(box))
+            return false;
+    }
+    const double lon = JoinDegrees(VsbDegLon->value(), VsbFracLon->value(), false);
+    const double lat = JoinDegrees(VsbDegLat->value(), VsbFracLat->value(), false);
+    if (lon > MostLongitude || lat > MostLatitude) {
+        Warn(QStringLiteral("A longitude runs to %1 degrees and a latitude to %2; %3.%4 is beyond.")
+                 .arg(MostLongitude)
+                 .arg(MostLatitude)
+                 .arg(Text[lon > MostLongitude ? 0 : 2]->text(),
+                      Text[lon > MostLongitude ? 1 : 3]->text()));
+        return false;
+    }
+    return NameIsUsable();
+}
 
 void FrmLocation::List1_Click()
 {
@@ -291,6 +366,8 @@ void FrmLocation::PickCity(const QString& state, const QString& city)
 
 void FrmLocation::CmdDefault_Click()
 {
+    if (!NameIsUsable())
+        return;
     Ctx.DefLoc = std::to_string(Ctx.CurLoc);
     Current().Name = Text[4]->text().toStdString();
     Text[5]->setText(Text[4]->text());
@@ -309,6 +386,8 @@ void FrmLocation::CmdEdit_Click()
 
 void FrmLocation::CloseLocation_Click()
 {
+    if (!TypedEntriesAreUsable())
+        return; // the editor stays open to correct them
     Location& loc = Current();
     loc.Longitude = JoinDegrees(VsbDegLon->value(), VsbFracLon->value(), SSOption[1]->isChecked());
     loc.Latitude = JoinDegrees(VsbDegLat->value(), VsbFracLat->value(), SSOption[3]->isChecked());

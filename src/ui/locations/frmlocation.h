@@ -1,7 +1,8 @@
 // "User Location": edits the current one of the ten locations. Degrees and hundredths of
-// longitude and latitude are set with scroll bars and E/W, N/S options, the time zone is
-// picked from a list, the name is typed; or a state and a city picked from the city database
-// fill them all. "&Done" stores the edit; closing the window any other way stores nothing.
+// longitude and latitude are typed or set with scroll bars and E/W, N/S options, the time
+// zone is picked from a list, the name is typed; or a state and a city picked from the city
+// database fill them all. "&Done" stores the edit once every entry is usable; closing the
+// window any other way stores nothing.
 #pragma once
 
 #include "db/datacontrol.h"
@@ -52,6 +53,10 @@ public:
     void CmdDefault_Click();
     void CmdEdit_Click();
     void CloseLocation_Click();
+    // A degree box Text(0) to Text(3) typed into: its scroll bar takes the whole number when
+    // the bar's range holds it; otherwise a message says why, the bar keeps its value and the
+    // text stays to be corrected. False in that case.
+    bool Text_Typed(int box);
 
     // Copies the current location into the controls.
     void Populate();
@@ -83,6 +88,14 @@ private:
     void BuildControls();
     void ConnectHandlers();
     Location& Current();
+    std::array<QScrollBar*, 4> DegreeBars() const; // behind Text(0) to Text(3)
+    void ShowDegreeBar(int box); // the bar's value into its box, as its change event writes it
+    void Warn(const QString& text);
+    // The name box's text can name a location; a message says why not otherwise.
+    bool NameIsUsable();
+    // Every typed entry can be stored: the degree boxes, the place within 180 and 90 degrees,
+    // the name. The first that cannot is said in a message.
+    bool TypedEntriesAreUsable();
     void SelectTimeZone(int zone);
     void ShowCityNote(const QString& text);
     // The state list from the city database; false with the reason shown when it cannot be read.

@@ -2,6 +2,7 @@
 
 #include "astro/astronomy.h"
 #include "db/storedforms.h"
+#include "logdb/catchvalues.h"
 #include "logdb/filldata.h"
 #include "logdb/querybuilder.h"
 #include "logdb/queryrun.h"
@@ -267,11 +268,17 @@ QWidget* frmTable1::BuildCatchPanel()
 
     auto* catchBox = new QGroupBox(panel);
     auto* form = new QGridLayout(catchBox);
+    // The pickers are aids: typing goes into the box, never into a list; a list opens only
+    // when it is clicked.
     Combo4 = new QComboBox(catchBox);
     Combo4->setObjectName(QStringLiteral("Combo4"));
+    Combo4->setFocusPolicy(Qt::NoFocus);
     Combo4->hide();
     PeakTimeCombo = new QComboBox(catchBox);
     PeakTimeCombo->setObjectName(QStringLiteral("PeakTimeCombo"));
+    PeakTimeCombo->setEditable(true);
+    PeakTimeCombo->setCompleter(nullptr); // no completion that turns "1" into "1:00 AM"
+    PeakTimeCombo->setInsertPolicy(QComboBox::NoInsert);
     Text7 = new QPlainTextEdit(catchBox);
     Text7->setObjectName(QStringLiteral("Text7"));
     txtFields[17]->setParent(catchBox);
@@ -351,16 +358,20 @@ void frmTable1::BindControls()
     }));
     Data1.Bind(QStringLiteral("DaylightHours"), Bindings.back().get());
 
-    // The combo's entry counts as edited once the user picks one.
-    auto picked = std::make_shared<bool>(false);
-    connect(PeakTimeCombo, &QComboBox::activated, this, [picked] { *picked = true; });
+    // The combo's entry counts as edited once the user picks one or types.
+    connect(PeakTimeCombo, &QComboBox::activated, this, [this] { PeakTimePicked = true; });
     Bindings.push_back(std::make_unique<BoundBox>(
-        [this, picked](const QVariant& v) {
+        [this](const QVariant& v) {
             PeakTimeCombo->setCurrentIndex(PeakTimeCombo->findText(v.toString()));
-            *picked = false;
+            PeakTimeCombo->setEditText(v.toString());
+            PeakTimeCombo->lineEdit()->setModified(false);
+            PeakTimePicked = false;
         },
-        [this, picked]() {
-            return *picked ? std::optional<QVariant>(PeakTimeCombo->currentText()) : std::nullopt;
+        [this]() -> std::optional<QVariant> {
+            if (!PeakTimeEdited())
+                return std::nullopt;
+            QString why;
+            return CatchValue(QStringLiteral("PeakTime"), PeakTimeCombo->currentText(), why);
         }));
     Data1.Bind(QStringLiteral("PeakTime"), Bindings.back().get());
 
@@ -531,8 +542,37 @@ void frmTable1::cmdEdit_Click()
     SetBrowsing(false);
 }
 
+bool frmTable1::PeakTimeEdited() const
+{
+    return PeakTimePicked || PeakTimeCombo->lineEdit()->isModified();
+}
+
+QString frmTable1::CatchEntryProblem() const
+{
+    struct Entry {
+        const char* Label;
+        const char* Column;
+        bool Edited;
+        QString Typed;
+    };
+    const std::array<Entry, 2> entries = {
+        {{"Total Taken", "TotalTaken", txtFields[17]->isModified(), txtFields[17]->text()},
+         {"Peak Time", "PeakTime", PeakTimeEdited(), PeakTimeCombo->currentText()}}};
+    for (const Entry& entry : entries) {
+        QString why;
+        if (entry.Edited && !CatchValue(QLatin1String(entry.Column), entry.Typed, why))
+            return QStringLiteral("%1: %2.").arg(QLatin1String(entry.Label), why);
+    }
+    return {};
+}
+
 void frmTable1::cmdUpdate_Click()
 {
+    // Nothing is stored while an entry cannot be kept as typed; the edit stays open.
+    if (const QString problem = CatchEntryProblem(); !problem.isEmpty()) {
+        Ctx.Messages.MsgBox(problem, MsgButtons::OK, windowTitle(), MsgIcon::Exclamation);
+        return;
+    }
     DbResult saved;
     {
         const BusyPointer busy;
@@ -552,7 +592,6 @@ void frmTable1::txtFields_Click(int index)
     if (index != 17 || !txtFields[17]->isEnabled())
         return;
     Combo4->show();
-    Combo4->setFocus();
 }
 
 void frmTable1::Combo4_Click()

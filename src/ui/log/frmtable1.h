@@ -17,6 +17,7 @@ class DataBar;
 class QAction;
 class QCheckBox;
 class QComboBox;
+class QGridLayout;
 class QMenuBar;
 class QLabel;
 class QLineEdit;
@@ -129,6 +130,10 @@ private:
     // Makes the owner's closing and the program's end ask about an open edit too.
     void WatchTheWayOut();
     void SetBrowsing(bool browsing);
+    bool PeakTimeEdited() const;
+    // The first catch entry that cannot be stored as typed, as the message saying why; empty
+    // when every edited entry can.
+    QString CatchEntryProblem() const;
     // Reposition's steps; each leaves its display alone when the record lacks its column.
     void ShowTimes();
     void ShowNotes();
@@ -147,7 +152,9 @@ private:
     LogContext Ctx;
     std::vector<std::unique_ptr<BoundControl>> Bindings;
     bool FirstActivation = true;
-    int TimeComboServes = 1;  // the box TimeCombo fills, 1 to 4
-    int PickerBox = 0;        // the Text6 box MonthList, DOWList or Combo2 fills
-    QWidget* Owner = nullptr; // the window this one belongs to, whose closing asks too
+    bool PeakTimePicked = false;      // an entry of PeakTimeCombo's list chosen since the last show
+    int TimeComboServes = 1;          // the box TimeCombo fills, 1 to 4
+    int PickerBox = 0;                // the Text6 box MonthList, DOWList or Combo2 fills
+    QGridLayout* QueryGrid = nullptr; // the query panel's rows, where the pickers show
+    QWidget* Owner = nullptr;         // the window this one belongs to, whose closing asks too
 };

@@ -46,6 +46,10 @@ private:
     std::function<void()> clicked_;
 };
 
+// The grid column of the conditions' hints, where a picker shows beside its box.
+constexpr int HintColumn = 3;
+constexpr int PickerWidth = 96;
+
 void OnClick(QWidget* widget, std::function<void()> clicked)
 {
     widget->installEventFilter(new ClickFilter(widget, std::move(clicked)));
@@ -57,6 +61,7 @@ QWidget* frmTable1::BuildQueryPanel()
 {
     auto* panel = new QGroupBox(QStringLiteral("Select Data Where"), this);
     auto* grid = new QGridLayout(panel);
+    QueryGrid = grid;
     for (std::size_t b = 0; b < Text6.size(); ++b) {
         Text6[b] = new QLineEdit(panel);
         Text6[b]->setObjectName(QStringLiteral("Text6%1").arg(b));
@@ -78,6 +83,12 @@ QWidget* frmTable1::BuildQueryPanel()
     }
     OnClick(Text1, [this] { Text1_Click(); });
     OnClick(Text2, [this] { Text2_Click(); });
+    // Typing answers the box itself: the picker beside it is no longer wanted.
+    for (int box = 0; box < ValueBoxCount; ++box)
+        connect(ValueBox(box), &QLineEdit::textEdited, this, [this] {
+            for (QComboBox* picker : {TimeCombo, Combo2, MonthList, DOWList})
+                picker->hide();
+        });
 
     const auto& conditions = QueryConditions();
     for (std::size_t i = 0; i < conditions.size(); ++i) {
@@ -88,7 +99,7 @@ QWidget* frmTable1::BuildQueryPanel()
         for (std::size_t k = 0; k < conditions[i].Boxes.size(); ++k)
             grid->addWidget(ValueBox(conditions[i].Boxes[k]), row, 1 + int(k));
         if (!conditions[i].Hint.empty())
-            grid->addWidget(new QLabel(QStringOf(conditions[i].Hint), panel), row, 3);
+            grid->addWidget(new QLabel(QStringOf(conditions[i].Hint), panel), row, HintColumn);
     }
     const int rows = int(conditions.size());
     SortByCombo = new QComboBox(panel);
@@ -112,7 +123,7 @@ QWidget* frmTable1::BuildQueryPanel()
     grid->addWidget(Command2, rows + 2, 0);
     grid->addWidget(Command3, rows + 2, 1, 1, 2);
     grid->setRowStretch(rows + 3, 1);
-    grid->setColumnStretch(3, 1);
+    grid->setColumnStretch(HintColumn, 1);
     BuildPickers(panel);
 
     connect(cmdSelect, &QPushButton::clicked, this, &frmTable1::cmdSelect_Click);
@@ -127,10 +138,12 @@ QWidget* frmTable1::BuildQueryPanel()
 
 void frmTable1::BuildPickers(QWidget* panel)
 {
+    // A picker is an aid: it never takes the keys meant for a box, and opens when clicked.
     const auto picker = [panel](const QString& name) {
         auto* list = new QComboBox(panel);
         list->setObjectName(name);
         list->setMaxVisibleItems(14);
+        list->setFocusPolicy(Qt::NoFocus);
         list->hide();
         return list;
     };
@@ -290,12 +303,13 @@ void frmTable1::ShowPicker(QComboBox* picker, QLineEdit* box)
 {
     for (QComboBox* other : {TimeCombo, Combo2, MonthList, DOWList})
         other->setVisible(other == picker);
-    picker->setGeometry(box->geometry().x(), box->geometry().y(), std::max(box->width(), 96),
-                        box->height());
+    // Over the hint of the box's row: the box stays in view and keeps the focus.
+    int row = 0, column = 0, rowSpan = 0, columnSpan = 0;
+    QueryGrid->getItemPosition(QueryGrid->indexOf(box), &row, &column, &rowSpan, &columnSpan);
+    picker->setGeometry(QueryGrid->cellRect(row, HintColumn).x(), box->y(),
+                        std::max(box->width(), PickerWidth), box->height());
     picker->setCurrentIndex(std::max(0, picker->findText(box->text())));
     picker->raise();
-    if (picker->isVisible())
-        picker->showPopup();
 }
 
 void frmTable1::Text6_Click(int index)

@@ -6,7 +6,6 @@
 #include "ui/common/busypointer.h"
 #include "ui/common/messageservice.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -62,14 +61,12 @@ void ImportCatches(const LogContext& context, const QString& yearFile, const QSt
 {
     MessageService& messages = context.Messages;
     const QString name = QFileInfo(yearFile).fileName();
-    QFile csv(csvPath);
-    if (!csv.open(QIODevice::ReadOnly))
-        return Say(messages,
-                   QStringLiteral("%1 cannot be read: %2").arg(csvPath, csv.errorString()),
+    QByteArray csv;
+    if (const DbResult read = ReadImportFile(csvPath, csv); !read)
+        return Say(messages, QStringLiteral("Nothing was imported: %1.").arg(read.Message),
                    MsgIcon::Critical);
     ImportPlan plan;
-    if (DbResult planned = PlanImport(yearFile, name.left(4).toInt(), csv.readAll(), plan);
-        !planned)
+    if (DbResult planned = PlanImport(yearFile, name.left(4).toInt(), csv, plan); !planned)
         return Say(messages, QStringLiteral("Nothing was imported: %1").arg(planned.Message),
                    MsgIcon::Critical);
     if (plan.Rows.empty())

@@ -8,11 +8,15 @@
 #include "support/testenv.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 namespace {
 
@@ -22,13 +26,26 @@ struct LogRun {
     QString Err;
 };
 
-LogRun RunLog(const QString& home, const QStringList& args)
+// How a run differs from a plain one: more of the environment, and a command that starts the
+// program (one that limits a resource, or runs it as another user).
+struct Launch {
+    std::vector<std::pair<QString, QString>> Env;
+    QStringList Through;
+};
+
+LogRun RunLog(const QString& home, const QStringList& args, const Launch& launch = {})
 {
     QProcess log;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("QUILLMERE_HOME", home);
+    for (const auto& [name, value] : launch.Env)
+        env.insert(name, value);
     log.setProcessEnvironment(env);
-    log.start(QStringLiteral(QUILLMERE_LOG), args);
+    if (launch.Through.isEmpty())
+        log.start(QStringLiteral(QUILLMERE_LOG), args);
+    else
+        log.start(launch.Through.front(),
+                  launch.Through.mid(1) + QStringList{QStringLiteral(QUILLMERE_LOG)} + args);
     EXPECT_TRUE(log.waitForFinished(120000));
     return {log.exitStatus() == QProcess::NormalExit ? log.exitCode() : -1,
             QString::fromUtf8(log.readAllStandardOutput()),
@@ -147,6 +164,40 @@ TEST(LogCommand, BadInputExitsWithTwoAndFailuresWithOne)
     EXPECT_EQ(help.Status, 0);
     EXPECT_TRUE(help.Out.startsWith("quillmere-log: ")) << help.Out.toStdString();
     EXPECT_TRUE(help.Out.contains("export --year YYYY [--format csv|json]"));
+}
+
+// A stored setting that cannot be read is named in one line and its default is used: the year
+// comes out as at the default place of location 1.
+TEST(LogCommand, ABadStoredSettingIsNamedAndItsDefaultUsed)
+{
+    const QString reference = testenv::FreshDir("log-setting-reference");
+    ASSERT_EQ(RunLog(reference, {"create", "--year", "2024", "--lon", "92.42W", "--lat", "31.25N",
+                                 "--zone", "6"})
+                  .Status,
+              0);
+    const auto expected = logtest::PlainRows(YearPath(reference), "SELECT * FROM table1");
+    const QString stored = "[Settings]\nDefLoc=1\nUsr1Name=Alexandria, LA\nUsr1Long=92.42\n"
+                           "Usr1Lat=31.25\nUsr1TZ= 6\n";
+    const std::pair<QString, QString> bad[] = {
+        {"Usr1Lat", "nan"}, {"Usr1Long", "east"}, {"Usr1TZ", "99"}};
+    for (const auto& [key, value] : bad) {
+        const QString config = testenv::FreshDir("log-setting-config");
+        QString text = stored;
+        text.replace(QRegularExpression("^" + key + "=.*$", QRegularExpression::MultilineOption),
+                     key + "=" + value);
+        QDir().mkpath(config + "/Quillmere");
+        testenv::WriteFile(config + "/Quillmere/Quillmere.ini", text.toUtf8());
+        const QString home = testenv::FreshDir("log-setting");
+        const LogRun run =
+            RunLog(home, {"create", "--year", "2024"}, {{{"XDG_CONFIG_HOME", config}}, {}});
+        EXPECT_EQ(run.Status, 0) << key.toStdString();
+        EXPECT_EQ(run.Err.count('\n'), 1) << run.Err.toStdString();
+        EXPECT_TRUE(run.Err.startsWith(
+            QString("quillmere-log: the stored setting %1 holds \"%2\"").arg(key, value)))
+            << run.Err.toStdString();
+        EXPECT_TRUE(logtest::PlainRows(YearPath(home), "SELECT * FROM table1") == expected)
+            << key.toStdString();
+    }
 }
 
 TEST(LogCommand, RestoresAYearLeftAsItsBackup)
@@ -278,8 +329,102 @@ TEST(LogCommand, ExportThenImportIntoAFreshYearGivesTheSameEntries)
     EXPECT_TRUE(refused.Err.startsWith("quillmere-log: nothing was imported: choose --skip"));
     EXPECT_EQ(RunLog(into, {"import", "--year", "2024", csv, "--skip"}).Status, 0);
     EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(YearPath(from)));
+    // A file without an end is refused once it outgrows any year of entries.
+    const LogRun endless = RunLog(into, {"import", "--year", "2024", "/dev/zero"});
+    ExpectOneLineRefusal(endless, 1, "import /dev/zero");
+    EXPECT_TRUE(endless.Err.contains("holds more than 16 MB")) << endless.Err.toStdString();
     for (const QStringList& args :
          {QStringList{"import", "--year", "2024"},
           QStringList{"import", "--year", "2024", csv, "--skip", "--overwrite"}})
         ExpectOneLineRefusal(RunLog(into, args), 2, args.join(' ').toStdString());
+}
+
+namespace {
+
+// Starts the program as a user whom permissions bind: the test's own user, or when that is
+// the superuser, "nobody" through setpriv, with the folder handed over to it.
+Launch AsOrdinaryUser(const QString& folder)
+{
+    if (::geteuid() != 0)
+        return {};
+    constexpr uid_t Nobody = 65534;
+    const auto handOver = [](const QString& path) {
+        EXPECT_EQ(::chown(QFile::encodeName(path).constData(), Nobody, Nobody), 0)
+            << path.toStdString();
+    };
+    handOver(folder);
+    for (QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+         it.hasNext();)
+        handOver(it.next());
+    // A way through the test's private root to the folder.
+    QFile::setPermissions(testenv::Root(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                               QFileDevice::ExeOwner | QFileDevice::ExeGroup |
+                                               QFileDevice::ExeOther);
+    return {{}, {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"}};
+}
+
+constexpr auto FolderReadOnly =
+    QFileDevice::ReadOwner | QFileDevice::ExeOwner | QFileDevice::ReadGroup | QFileDevice::ExeGroup;
+
+} // namespace
+
+// A failure of the disk or of a permission is said in one line that names the cause in the
+// system's words.
+TEST(LogCommand, FailuresNameTheirCause)
+{
+    // A limit on the size of files the program writes stands for a full disk.
+    const Launch smallFiles{{}, {"sh", "-c", "ulimit -f 8; trap '' XFSZ; exec \"$0\" \"$@\""}};
+    const struct {
+        const char* Name;
+        QStringList Args;
+        QFileDevice::Permissions Folder, Year; // what the folder and the year file allow
+        bool Limited;                          // under the file size limit, else as nobody
+        const char* Said;
+    } cases[] = {
+        {"create on a full disk",
+         {"create", "--year", "2023", "--location", "1"},
+         {},
+         {},
+         true,
+         "2023.mdb.creating': File too large"},
+        {"compact in a folder that takes no file",
+         {"compact", "--year", "2024"},
+         FolderReadOnly,
+         {},
+         false,
+         "New2024.mdb': Permission denied"},
+        {"import where no backup can be made",
+         {"import", "--year", "2024", "CATCHES"},
+         FolderReadOnly,
+         {},
+         false,
+         "backups': Permission denied"},
+        {"query on a read-only year file",
+         {"query", "--year", "2024", "--best"},
+         {},
+         QFileDevice::ReadOwner | QFileDevice::ReadGroup,
+         false,
+         "2024.mdb: Permission denied; the query keeps its result in the file"},
+    };
+    for (const auto& c : cases) {
+        const QString home = CreatedYear("log-cause");
+        const QString csv = QDir(home).filePath("catches.csv");
+        testenv::WriteFile(csv, "JulianDate,TotalTaken\n01/02/2024,3\n");
+        const QByteArray year = testenv::FileBytes(YearPath(home));
+        const Launch launch = c.Limited ? smallFiles : AsOrdinaryUser(home);
+        if (c.Year) {
+            ASSERT_TRUE(QFile::setPermissions(YearPath(home), c.Year));
+        }
+        if (c.Folder) {
+            ASSERT_TRUE(QFile::setPermissions(home, c.Folder));
+        }
+        const LogRun run =
+            RunLog(home, QStringList(c.Args).replaceInStrings("CATCHES", csv), launch);
+        QFile::setPermissions(home, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                        QFileDevice::ExeOwner); // to be cleaned up again
+        ExpectOneLineRefusal(run, 1, c.Name);
+        EXPECT_TRUE(run.Err.contains(c.Said)) << c.Name << ": " << run.Err.toStdString();
+        EXPECT_EQ(testenv::FileBytes(YearPath(home)), year) << c.Name;
+    }
 }

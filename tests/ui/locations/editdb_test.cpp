@@ -6,12 +6,15 @@
 #include "ui/common/messageservice.h"
 #include "ui/locations/editdb.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace {
 
@@ -136,6 +139,90 @@ TEST(EditDB, AddNeedsStateAndCityThenReachesTheFile)
               QStringList({"93.57W6"}));
     EXPECT_EQ(w.Enabled(), Browsing);
     EXPECT_FALSE(w.W->Text[2]->isEnabled());
+}
+
+// What the location editor could not use is refused with the box's message and the record
+// stays as it was; a usable value is stored as typed. Plain SQL reads the file.
+TEST(EditDB, UpdateStoresUsableValuesAsTypedAndRefusesTheOthers)
+{
+    const struct {
+        int Box;
+        const char* Keys;
+        const char* Message; // empty: stored
+    } cases[] = {
+        {3, "12.5", ""},
+        {7, "-3", ""},
+        {4, "e", ""},
+        {3, "999", "Longitude: \"999\" is not a number of degrees from 0 to 180."},
+        {4, "X", "LongChar: \"X\" is not W or E."},
+        {5, "-91", "Latitude: \"-91\" is not a number of degrees from 0 to 90."},
+        {6, "north", "LatChar: \"north\" is not N or S."},
+        {7, "40", "TimeZone: \"40\" is not a whole number of hours from -12 to 12."},
+        {7, "5.5", "TimeZone: \"5.5\" is not a whole number of hours from -12 to 12."},
+    };
+    const char* columns[] = {"",        "",        "", "LongInDegrees", "LongChar", "LatInDegrees",
+                             "LatChar", "Timezone"};
+    Window w("edit-typed");
+    const QString id = w.Text(0);
+    const auto stored = [&](int box) {
+        return cityfolder::Column(
+                   w.Folder,
+                   QString("SELECT %1 FROM Table1 WHERE LongLatID = %2").arg(columns[box], id))
+            .at(0);
+    };
+    for (const auto& c : cases) {
+        const QString before = stored(c.Box);
+        w.W->CmdB_Click(EditDB::Edit);
+        w.W->Text[std::size_t(c.Box)]->selectAll();
+        QTest::keyClicks(w.W->Text[std::size_t(c.Box)], c.Keys);
+        const std::size_t shown = w.Messages.Shown().size();
+        w.W->CmdB_Click(EditDB::Update);
+        if (*c.Message == '\0') {
+            EXPECT_EQ(w.Messages.Shown().size(), shown) << c.Keys;
+            EXPECT_EQ(stored(c.Box), c.Keys);
+        } else {
+            EXPECT_EQ(w.LastMessage(), c.Message);
+            EXPECT_EQ(stored(c.Box), before) << c.Keys;
+            EXPECT_EQ(w.W->Data1.EditMode(), DataControl::EditState::Editing) << c.Keys;
+            w.W->CmdB_Click(EditDB::Cancel);
+        }
+    }
+}
+
+// Every way out while a city is being edited asks, and Save, Discard and Cancel do what they
+// say.
+TEST(EditDB, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
+{
+    const std::vector<std::pair<const char*, std::function<void(EditDB&)>>> ways = {
+        {"Close button", [](EditDB& w) { w.CmdB_Click(EditDB::Close); }},
+        {"window closed", [](EditDB& w) { w.close(); }},
+        {"Escape", [](EditDB& w) { QTest::keyClick(w.Text[2], Qt::Key_Escape); }},
+    };
+    for (const auto& [way, take] : ways) {
+        for (const MsgResult answer : {MsgResult::Cancel, MsgResult::Discard, MsgResult::Save}) {
+            const std::string where = std::string(way) + " answered " + std::to_string(int(answer));
+            Window w("edit-leave");
+            const QString id = w.Text(0);
+            const QString city = w.Text(2);
+            w.W->CmdB_Click(EditDB::Edit);
+            w.W->Text[2]->selectAll();
+            QTest::keyClicks(w.W->Text[2], "Renamed");
+            w.Answer = answer;
+            take(*w.W);
+            ASSERT_EQ(w.Messages.Shown().size(), 1u) << where;
+            EXPECT_EQ(w.LastMessage(), "Save changes to this city?") << where;
+            EXPECT_EQ(w.Messages.Shown()[0].Buttons, MsgButtons::SaveDiscardCancel) << where;
+            EXPECT_EQ(w.W->isVisible(), answer == MsgResult::Cancel) << where;
+            // After a save the list starts again at its first city.
+            EXPECT_TRUE(answer == MsgResult::Save ||
+                        w.W->Text[2]->text() == (answer == MsgResult::Cancel ? "Renamed" : city))
+                << where;
+            EXPECT_EQ(
+                cityfolder::Column(w.Folder, "SELECT City FROM Table1 WHERE LongLatID = " + id),
+                QStringList{answer == MsgResult::Save ? "Renamed" : city})
+                << where;
+        }
+    }
 }
 
 TEST(EditDB, DeleteAskedAndCancelLeaveOrRemoveTheRecord)

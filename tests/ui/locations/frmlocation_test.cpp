@@ -1,17 +1,21 @@
 // The location editor on a copy of the built city database: the boxes, options and zone
 // list for a location, picking a state and a city (names with a quote too), "&Done", and
 // what happens when the city list is missing, empty or has lost a record.
+#include "model/locationrules.h"
 #include "support/cityfolder.h"
 #include "ui/common/messageservice.h"
 #include "ui/locations/frmlocation.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -159,6 +163,60 @@ TEST(FrmLocation, ACityDeletedMeanwhileIsReportedAndChangesNothing)
     EXPECT_EQ(e.Text(4), "Home");
     e.W->reject(); // closed without "&Done"
     EXPECT_EQ(e.Locations[3].Name, "Home");
+}
+
+// Typed into a box, as an angler does, then "&Done": the place and name as typed, or the
+// editor's message, the editor still open and the location as it was.
+TEST(FrmLocation, TypedDegreesAndNamesAreStoredOrRefusedWithTheEditorsMessage)
+{
+    const QString folder = cityfolder::Make("loc-typed");
+    const Location home{"Home", 90.25, 30.5, 6};
+    const QString tooLong(MaxLocationNameLength + 1, 'x');
+    const struct {
+        int Box;
+        QString Keys;
+        Location Stored; // when the message is empty
+        QString Message;
+    } cases[] = {
+        {0, "122", {"Home", 122.25, 30.5, 6}, {}},
+        {1, "5", {"Home", 90.05, 30.5, 6}, {}},
+        {2, "45", {"Home", 90.25, 45.5, 6}, {}},
+        {4, "Lake Bistineau", {"Lake Bistineau", 90.25, 30.5, 6}, {}},
+        {4,
+         QString(MaxLocationNameLength, 'x'),
+         {tooLong.chopped(1).toStdString(), 90.25, 30.5, 6},
+         {}},
+        {0, "200", home, "Longitude degrees: \"200\" is not a whole number from 0 to 180."},
+        {3, "abc", home, "Latitude hundredths: \"abc\" is not a whole number from 0 to 99."},
+        {0, "180", home, "A longitude runs to 180 degrees and a latitude to 90; 180.25 is beyond."},
+        {2, "90", home, "A longitude runs to 180 degrees and a latitude to 90; 90.50 is beyond."},
+        {4, "", home, "The location needs a name: type one, or pick a state and a city."},
+        {4, tooLong, home, "A location's name holds at most 80 characters; this one has 81."},
+    };
+    for (const auto& c : cases) {
+        const std::string where = std::to_string(c.Box) + " typed " + c.Keys.left(20).toStdString();
+        Editor e(folder, home);
+        QApplication::setActiveWindow(e.W.get());
+        ASSERT_TRUE(QTest::qWaitForWindowActive(e.W.get()));
+        QTest::mouseClick(e.W->Text[std::size_t(c.Box)], Qt::LeftButton);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
+        QTest::keyClicks(QApplication::focusWidget(), c.Keys);
+        QTest::mouseClick(e.W->CloseLocation, Qt::LeftButton);
+
+        const Location& stored = e.Locations[3];
+        if (c.Message.isEmpty()) {
+            EXPECT_TRUE(e.Messages.Shown().empty()) << where;
+            EXPECT_FALSE(e.W->isVisible()) << where;
+        } else {
+            ASSERT_FALSE(e.Messages.Shown().empty()) << where;
+            EXPECT_EQ(e.Messages.Shown()[0].Text, c.Message) << where;
+            EXPECT_TRUE(e.W->isVisible()) << where; // open to correct the entry
+        }
+        EXPECT_EQ(stored.Name, c.Stored.Name) << where;
+        EXPECT_DOUBLE_EQ(stored.Longitude, c.Stored.Longitude) << where;
+        EXPECT_DOUBLE_EQ(stored.Latitude, c.Stored.Latitude) << where;
+    }
 }
 
 TEST(FrmLocation, Screenshot)

@@ -10,11 +10,14 @@
 
 #include <QFile>
 #include <QListWidget>
+#include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 using namespace logtest;
 
@@ -155,6 +158,48 @@ TEST(FrmSelectDB, CreateFillsTheShownYearAndLeavesAnExistingOneAlone)
     EXPECT_EQ(env.Messages.Shown().back().Buttons, MsgButtons::OKCancel);
     EXPECT_EQ(testenv::FileBytes(path), before);
     EXPECT_EQ(opened.Browsed, QStringList{path});
+}
+
+// Every day of the fill is computed at local noon: where the main window's hour bar stands
+// when Create is pressed changes nothing, and the file equals quillmere-log create's for the
+// same place (Pittsburgh, daylight saving on), record by record.
+TEST(FrmSelectDB, TheFillIsTheSameWhateverTheHourBarSaysAndEqualsTheCommandLines)
+{
+    // Each record as one line of its values, so that a difference reads as text.
+    const auto records = [](const QString& path) {
+        std::vector<std::string> lines;
+        for (const auto& row : PlainRows(path, "SELECT * FROM table1 ORDER BY DBID")) {
+            QStringList values;
+            for (const QVariant& value : row)
+                values << value.toString();
+            lines.push_back(values.join('|').toStdString());
+        }
+        return lines;
+    };
+    const QString cliFolder = testenv::FreshDir("fill-moment-cli");
+    QProcess create;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("QUILLMERE_HOME", cliFolder);
+    create.setProcessEnvironment(env);
+    create.start(QUILLMERE_LOG, {"create", "--year", "2024", "--lon", "80W", "--lat", "40.44N",
+                                 "--zone", "5", "--dst"});
+    ASSERT_TRUE(create.waitForFinished(120000));
+    ASSERT_EQ(create.exitCode(), 0) << create.readAllStandardError().toStdString();
+    const auto expected = records(QDir(cliFolder).filePath("2024.mdb"));
+    ASSERT_EQ(expected.size(), 366u);
+
+    for (const double hourBar : {0.0, 5.5, 18.25, 23.75}) {
+        LogWindowEnv windows(testenv::FreshDir("fill-moment"));
+        windows.Engine.Site.HourInstant = hourBar / 24.0 + windows.Engine.Site.ZoneDays;
+        FrmSelectDB select(windows.Context(2024));
+        ASSERT_TRUE(select.CreateDB(2024));
+        const auto made = records(windows.State.DBPath);
+        ASSERT_EQ(made.size(), expected.size());
+        const auto differ = std::mismatch(made.begin(), made.end(), expected.begin());
+        EXPECT_TRUE(differ.first == made.end()) << "hour bar at " << hourBar << ":\n"
+                                                << *differ.first << "\n"
+                                                << *differ.second;
+    }
 }
 
 TEST(FrmSelectDB, AnsweringNoCreatesNothingAndBrowsesOnlyAnExistingFile)

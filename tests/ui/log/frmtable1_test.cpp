@@ -1,5 +1,6 @@
 // The record browser on real year files, offscreen: what each record shows, the browsing
 // and editing states, and catch entries that survive closing the file.
+#include "support/filledyear.h"
 #include "support/logfixture.h"
 #include "support/testenv.h"
 #include "ui/common/databar.h"
@@ -8,6 +9,7 @@
 #include "ui/log/logwindowenv.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -226,4 +228,75 @@ TEST(FrmTable1, BrowsesAFreshlyFilledYear)
     EXPECT_EQ(w.txtFields[13]->text().toInt() > 0, true);
     Screenshot(w, "frmTable1");
     EXPECT_TRUE(env.Messages.Shown().empty()) << env.ShownTexts().join("|").toStdString();
+}
+
+// As an angler types: Edit, one click into the box, the keys to whatever has the focus then,
+// Update. What is typed is what the file holds (asked in plain SQL), or a message says why
+// not and nothing is stored.
+TEST(FrmTable1, TypedCatchEntriesAreStoredAsTypedOrRefusedWithTheFieldsMessage)
+{
+    struct Typed {
+        const char* Column;
+        std::function<QWidget*(frmTable1&)> Box;
+        const char* Keys;
+        QVariant Stored; // null: nothing stored
+        QString Message; // empty: none shown
+    };
+    const auto taken = [](frmTable1& w) -> QWidget* { return w.txtFields[17]; };
+    const auto peak = [](frmTable1& w) -> QWidget* { return w.PeakTimeCombo->lineEdit(); };
+    const QString notANumber = "Total Taken: \"%1\" is not a whole number from 0 to 100.";
+    const std::vector<Typed> cases = {
+        {"TotalTaken", taken, "12", 12, {}},
+        {"TotalTaken", taken, "0", 0, {}},
+        {"TotalTaken", taken, "100", 100, {}},
+        {"TotalTaken", taken, "abc", {}, notANumber.arg("abc")},
+        {"TotalTaken", taken, "150", {}, notANumber.arg("150")},
+        {"TotalTaken", taken, "-3", {}, notANumber.arg("-3")},
+        {"PeakTime", peak, "6:30 am", "6:30 AM", {}},
+        {"PeakTime", peak, "19:00", "7:00 PM", {}},
+        {"PeakTime", peak, "1", {}, "Peak Time: \"1\" is not a time of day."},
+        {"PeakTime", peak, "25:00", {}, "Peak Time: \"25:00\" is not a time of day."},
+        {"TakenWith",
+         [](frmTable1& w) -> QWidget* { return w.txtFields[18]; },
+         "jig, 1/4 oz",
+         "jig, 1/4 oz",
+         {}},
+        {"Notes",
+         [](frmTable1& w) -> QWidget* { return w.Text7; },
+         " walleye 12 ",
+         " walleye 12 ",
+         {}},
+    };
+    for (const Typed& c : cases) {
+        const std::string where = std::string(c.Column) + " typed " + c.Keys;
+        LogWindowEnv env(QString{}, MakeYearFileWithEntries("typed-entry"));
+        frmTable1 w(env.Context());
+        w.show();
+        QApplication::setActiveWindow(&w);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&w)) << where;
+        QTest::mouseClick(w.cmdEdit, Qt::LeftButton);
+        QWidget* box = c.Box(w);
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->width() - 4, box->height() / 2));
+        QTest::keyClicks(QApplication::focusWidget(), c.Keys);
+        QTest::mouseClick(w.cmdUpdate, Qt::LeftButton);
+
+        const auto row = PlainRows(env.State.DBPath, QString("select %1, TotalTaken, PeakTime "
+                                                             "from table1 where DBID = 1")
+                                                         .arg(c.Column))
+                             .at(0);
+        EXPECT_EQ(row[0].isNull(), c.Stored.isNull()) << where;
+        EXPECT_EQ(row[0].toString(), c.Stored.toString()) << where;
+        // Nothing lands in a box that was not typed into.
+        EXPECT_TRUE(std::string(c.Column) == "TotalTaken" || row[1].isNull()) << where;
+        EXPECT_TRUE(std::string(c.Column) == "PeakTime" || row[2].isNull()) << where;
+        if (c.Message.isEmpty()) {
+            EXPECT_TRUE(env.Messages.Shown().empty()) << where;
+            EXPECT_TRUE(w.cmdEdit->isEnabled()) << where;
+        } else {
+            ASSERT_EQ(env.Messages.Shown().size(), 1u) << where;
+            EXPECT_EQ(env.Messages.Shown()[0].Text, c.Message) << where;
+            EXPECT_TRUE(w.cmdUpdate->isEnabled()) << where; // still editing, to correct it
+        }
+        w.Data1.CancelUpdate();
+    }
 }

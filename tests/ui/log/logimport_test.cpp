@@ -37,7 +37,9 @@ const QByteArray EveryKindOfRow =
     "01/09/2024,,4,spinner,23:00,\"said \"\"big\"\"\nall day\",\r\n"
     "01/10/2024,,5\r\n"
     "01/11/2024,,6,jig,5:00 PM,,\r\n"
-    "01/05/2024,,9,,,,\r\n";
+    "01/05/2024,,9,,,,\r\n"
+    "01/12/2024,,101,,,,\r\n"
+    "01/13/2024,,2,caf\xE9 spinner,,,\r\n";
 
 // The catch columns of a day, asked of the file.
 QStringList Entry(const QString& path, const QString& date)
@@ -75,11 +77,14 @@ TEST(LogImport, ReportsEveryBadRowByLineBeforeWritingAnything)
         IssueLines(plan),
         QStringList({"Line 1: unknown column \"Bait Color\" is ignored",
                      "Line 4: \"13/45/2024\" is not a date", "Line 5: 12/31/2023 is not in 2024",
-                     "Line 6: TotalTaken \"two\" is not a whole number of fish",
+                     "Line 6: TotalTaken \"two\" is not a whole number from 0 to 100",
                      "Line 7: PeakTime \"25:00\" is not a time of day",
                      "Line 10: 3 fields where the header has 7",
                      "Line 11: 01/11/2024 already holds an entry",
-                     "Line 12: 01/05/2024 comes a second time; this line is left out"}));
+                     "Line 12: 01/05/2024 comes a second time; this line is left out",
+                     "Line 13: TotalTaken \"101\" is not a whole number from 0 to 100",
+                     "Line 14: the line is not UTF-8 text and is left out; save the file as "
+                     "UTF-8"}));
     ASSERT_EQ(plan.Rows.size(), 3u);
     EXPECT_EQ(plan.Rows[1].Line, 8);
     EXPECT_EQ(plan.OccupiedRows(), 1);

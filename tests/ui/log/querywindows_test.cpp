@@ -14,6 +14,7 @@
 #include "ui/log/logwindowenv.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -24,6 +25,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableView>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -136,6 +138,37 @@ TEST(QueryBuilderWindow, ConditionsPickersAndOrderInTheBrowser)
     EXPECT_EQ(w->Data1Bar->Caption(), QString("Record: 1 of %1 Record(s)").arg(expected.size()));
     w->resize(1400, 760);
     Screenshot(*w, "frmTable1-query");
+    EXPECT_TRUE(w.Env.Messages.Shown().empty()) << w.Env.ShownTexts().join('|').toStdString();
+}
+
+// A click into a value box shows its picker beside it, but the keys typed next go into the
+// box: what the angler types is what the selection uses.
+TEST(QueryBuilderWindow, TypedValuesGoIntoTheClickedBoxNotItsPicker)
+{
+    Browser w(SharedYear());
+    w->show();
+    QApplication::setActiveWindow(w.Window.get());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(w.Window.get()));
+    const struct {
+        int Box;
+        QComboBox* Picker;
+        const char* Keys;
+    } cases[] = {{1, w->MonthList, "12"},      {3, w->DOWList, "2"},
+                 {5, w->Combo2, "12"},         {6, w->Combo2, "20"},
+                 {9, w->Combo2, "150"},        {Text1Box, w->TimeCombo, "5:30 PM"},
+                 {10, w->TimeCombo, "6:00 am"}};
+    for (const auto& c : cases) {
+        QLineEdit* box = c.Box == Text1Box ? w->Text1 : w->Text6[std::size_t(c.Box)];
+        QTest::mouseClick(box, Qt::LeftButton);
+        EXPECT_FALSE(c.Picker->isHidden()) << c.Box; // the aid is offered
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), c.Keys);
+        EXPECT_EQ(box->text(), c.Keys) << c.Box;
+    }
+    // The typed moon ages and months select what plain SQL finds.
+    w->Check1[3]->setChecked(true);
+    w->cmdSelect_Click();
+    EXPECT_EQ(w.ShownIds(), Plain("Month BETWEEN 12 AND 12 AND MoonAge BETWEEN 12 AND 20"));
     EXPECT_TRUE(w.Env.Messages.Shown().empty()) << w.Env.ShownTexts().join('|').toStdString();
 }
 
