@@ -131,20 +131,20 @@ void Astronomy::MoonPhases(double k)
 {
     for (std::size_t i = 0; i < 4; ++i) {
         const double jde = PhaseJDE(k + 0.25 * double(i));
-        PhaseTimes[i] = jde - Site.ZoneDays - Site.DstOffsetDays - DeltaTSeconds(jde) / 86400.0;
+        PhaseTimes[i] = Site.LocalOf(jde - DeltaTSeconds(jde) / 86400.0);
     }
 }
 
 void Astronomy::PerigeeApogee(double k)
 {
-    PerigeeTimes[0] = PerigeeApogeeJDE(k) - Site.ZoneDays - Site.DstOffsetDays;
-    PerigeeTimes[1] = PerigeeApogeeJDE(k + 0.5) - Site.ZoneDays - Site.DstOffsetDays;
+    PerigeeTimes[0] = Site.LocalOf(PerigeeApogeeJDE(k));
+    PerigeeTimes[1] = Site.LocalOf(PerigeeApogeeJDE(k + 0.5));
 }
 
 void Astronomy::MaxDeclinations(double k)
 {
-    DeclinationTimes[0] = DeclinationJDE(k, true) - Site.ZoneDays - Site.DstOffsetDays;
-    DeclinationTimes[1] = DeclinationJDE(k, false) - Site.ZoneDays - Site.DstOffsetDays;
+    DeclinationTimes[0] = Site.LocalOf(DeclinationJDE(k, true));
+    DeclinationTimes[1] = Site.LocalOf(DeclinationJDE(k, false));
 }
 
 void Astronomy::Seasons(double year)

@@ -82,7 +82,6 @@ void Astronomy::EarthApsides(int year)
         // The perihelion falls in early January, the aphelion in early July.
         const double k = ApsisCycle(Planet::Earth, year + 0.5 * double(i), i == 1);
         const double jde = DistanceExtremum(ApsisJDE(Planet::Earth, k));
-        EarthApsisTimes[i] =
-            jde - Site.ZoneDays - Site.DstOffsetDays - DeltaTSeconds(jde) / 86400.0;
+        EarthApsisTimes[i] = Site.LocalOf(jde - DeltaTSeconds(jde) / 86400.0);
     }
 }
