@@ -4,6 +4,7 @@
 #include <QTimeZone>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 // Julian day of the Unix epoch, 1970-01-01 0h UT.
@@ -31,6 +32,17 @@ std::vector<std::string> ZoneNames()
 }
 
 ZoneRules LocationClock(const Location& loc) { return LoadZoneRules(loc.TzName); }
+
+ZoneRules NamedZoneClock(const std::string& tzName, int& wholeHoursWest)
+{
+    ZoneRules clock = LoadZoneRules(tzName);
+    if (!clock.Empty() && wholeHoursWest == 0) {
+        const QTimeZone zone(QByteArray::fromStdString(tzName));
+        const int east = zone.standardTimeOffset(QDateTime::currentDateTimeUtc());
+        wholeHoursWest = -int(std::lround(east / 3600.0));
+    }
+    return clock;
+}
 
 std::string UnknownZoneMessage(const Location& loc)
 {

@@ -18,5 +18,8 @@ ZoneRules LoadZoneRules(const std::string& name, int fromYear = 1900, int toYear
 // The clock of a location: its zone's offsets; empty when it names none or one the system
 // does not know (the location then keeps its whole-hour zone).
 ZoneRules LocationClock(const Location& loc);
+// The clock of a zone named on the command line (empty when not known). A whole-hour zone of
+// 0 given with a known zone becomes that zone's standard offset in whole hours west.
+ZoneRules NamedZoneClock(const std::string& tzName, int& wholeHoursWest);
 // What a user is told once about a location whose zone is not known.
 std::string UnknownZoneMessage(const Location& loc);

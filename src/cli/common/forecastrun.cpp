@@ -63,9 +63,9 @@ const char* const SeasonTypes[] = {"march_equinox", "june_solstice", "september_
 // Collects the events whose local date lies in one year, from their dynamical instants.
 class YearEventList {
 public:
-    YearEventList(int year, double utcOffsetDays)
-        : Year(year), Offset(utcOffsetDays), Start(CivilToJd(year, 1, 1) + utcOffsetDays),
-          End(CivilToJd(year + 1, 1, 1) + utcOffsetDays)
+    YearEventList(int year, const Observer& site)
+        : Year(year), Site(site), Start(site.InstantOf(CivilToJd(year, 1, 1))),
+          End(site.InstantOf(CivilToJd(year + 1, 1, 1)))
     {
     }
 
@@ -82,7 +82,7 @@ public:
     void Add(const char* type, double jde, const std::string& caption)
     {
         const double ut = jde - DeltaTSeconds(jde) / 86400.0;
-        const double local = std::round((ut - Offset) * 1440.0) / 1440.0;
+        const double local = std::round(Site.LocalOf(ut) * 1440.0) / 1440.0;
         const CivilDate c = JdToCivil(std::floor(local + 0.5 + 0.5 / 1440.0) - 0.5);
         if (c.Year != Year)
             return;
@@ -93,7 +93,8 @@ public:
 
 private:
     int Year;
-    double Offset, Start, End;
+    const Observer& Site;
+    double Start, End;
 };
 
 } // namespace
@@ -103,7 +104,10 @@ ForecastRun::ForecastRun(const ForecastPlace& place)
     Observer& site = Engine.Site;
     site.SetPlace(place.Longitude, place.Latitude, std::int16_t(place.TimeZone));
     site.DstOffsetDays = place.DstOffsetDays;
-    site.TimeFormats = place.DstOffsetDays != 0.0 ? 0 : 1;
+    site.Clock = place.Clock;
+    site.TimeFormats = !site.Clock.Empty()          ? LocalClockMode
+                       : place.DstOffsetDays != 0.0 ? DaylightSavingsMode
+                                                    : StandardMode;
     site.AMPM = place.AmPm;
     site.TwilightsInClockDay = true;
     site.HourInstant = place.HourMinutes / 1440.0 + site.ZoneDays;
@@ -176,13 +180,14 @@ DayRow ForecastRun::Day(int year, int month, int day)
     r.SunAltitude = Degrees(f.SkyPosition.SunAltitude);
     r.MoonAltitude = Degrees(f.SkyPosition.MoonAltitude);
     r.MoonParallacticAngle = Degrees(f.MoonParallacticAngle);
-    r.UtcOffsetHours = 24.0 * (Engine.Site.ZoneDays + Engine.Site.DstOffsetDays);
+    // The day's offset: the clock's at local noon.
+    r.UtcOffsetHours = 24.0 * Engine.Site.ClockDaysAt(Engine.Site.InstantOf(J + 0.5));
     return r;
 }
 
 std::vector<EventRow> ForecastRun::Events(int year)
 {
-    YearEventList list(year, Engine.Site.ZoneDays + Engine.Site.DstOffsetDays);
+    YearEventList list(year, Engine.Site);
     list.WalkCycles(FirstPhaseCycle(list.First()), [&](double k) {
         for (std::size_t i = 0; i < 4; ++i)
             list.Add(PhaseTypes[i], PhaseJDE(k + 0.25 * double(i)), PhaseNames[i + 1]);

@@ -16,6 +16,7 @@ struct ForecastPlace {
     double DstOffsetDays = 0.0;
     bool AmPm = true;
     int HourMinutes = 720; // the chosen moment of the day
+    ZoneRules Clock;       // the place's own clock ("Local Clock"); empty: zone and DstOffsetDays
 };
 
 class ForecastRun {
