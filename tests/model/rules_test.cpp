@@ -70,7 +70,12 @@ TEST(CityRows, StatesZonesAndHemispheres)
     EXPECT_EQ(UsPostalCode("Bavaria"), "");
     // Half-hour zones, zones beyond 12 hours and unknown zones have no row.
     EXPECT_FALSE(CityRowFrom({"Apia", "Tuamasaga", "Samoa", "WS", -13.8, -171.8, 1, 13 * 3600}));
-    EXPECT_FALSE(CityRowFrom({"Adelaide", "SA", "Australia", "AU", -34.9, 138.6, 1, 34200}));
+    // A zone of minutes: the nearest whole hour beside the city's own zone.
+    const auto adelaide = CityRowFrom(
+        {"Adelaide", "SA", "Australia", "AU", -34.9, 138.6, 1, 34200, "Australia/Adelaide"});
+    ASSERT_TRUE(adelaide);
+    EXPECT_EQ(adelaide->Timezone, -10);
+    EXPECT_EQ(adelaide->TzName, "Australia/Adelaide");
     EXPECT_FALSE(CityRowFrom({"Nowhere", "", "X", "XX", 0, 0, 1, std::nullopt}));
 }
 

@@ -312,4 +312,26 @@ TEST_F(Window, SavesScreenshots)
     EXPECT_TRUE(W->ToPict->isVisible());
     EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-southern.png"));
 }
+
+// With Sydney chosen the hour bar follows Sydney's clock (07:30 UT is 18:30 there on 10 March
+// 2024, daylight time); Kolkata's clock is 5:30 ahead of UT. Screenshots of both.
+TEST_F(Window, TheChosenPlacesClockAndItsScreenshots)
+{
+    qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00Z");
+    const QString dir = QStringLiteral(QUILLMERE_SCREENSHOTS);
+    App.Config.Locations[6] = {"Sydney, Australia", -151.21, -33.87, -10, "Australia/Sydney"};
+    App.Config.Locations[7] = {"Kolkata, India", -88.36, 22.57, -6, "Asia/Kolkata"};
+    W->DLoc_Click(6);
+    W->CmdNOW_Click();
+    W->Timer1_Timer();
+    EXPECT_EQ(W->VsbHour->value(), 18 * 60 + 30);
+    EXPECT_EQ(W->SelDay, 10);
+    EXPECT_NE(W->Here.LocationCaption.find("TimeZone=Australia/Sydney"), std::string::npos);
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-sydney.png"));
+    W->DLoc_Click(7);
+    W->CmdNOW_Click();
+    W->Timer1_Timer();
+    EXPECT_EQ(W->VsbHour->value(), 13 * 60);
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-kolkata.png"));
+}
 } // namespace
