@@ -8,6 +8,7 @@ CREATE TABLE Table1 (
     LongChar TEXT COLLATE NOCASE,
     LatInDegrees DOUBLE,
     LatChar TEXT COLLATE NOCASE,
-    Timezone INTEGER
+    Timezone INTEGER,
+    TzName TEXT
 );
 CREATE INDEX Table1StateCity ON Table1 (State, City);

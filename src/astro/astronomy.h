@@ -168,9 +168,9 @@ private:
     const DayPosition& SunAtDay(double jd);
     const DayPosition& MoonAtDay(double jd);
 
-    double ClockZoneHours() const;
-    double LocalHours(double utHours) const;
-    RiseTransitSet InLocalClock(RiseTransitSet e) const;
+    RiseTransitSet FindClockDayEvents(EventSearch s);
+    double LocalHours(double J0, double utHours) const;
+    RiseTransitSet InLocalClock(double J0, RiseTransitSet e) const;
     double ChosenInstant(double jd) const;
     EventSearch MoonSearch(double J0);
     void SettleMoonEventsAtMidnight(double J0, RiseTransitSet& today);

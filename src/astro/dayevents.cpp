@@ -57,20 +57,46 @@ const Astronomy::DayPosition& Astronomy::MoonAtDay(double jd)
     });
 }
 
-// The hours that turn the local clock time into UT: the zone and daylight saving.
-double Astronomy::ClockZoneHours() const { return Site.CurTimeZone + 24.0 * Site.DstOffsetDays; }
-
-double Astronomy::LocalHours(double utHours) const
+// Local clock hours of an event at utHours from 0h UT of the day at J0, with the clock's offset
+// at that moment.
+double Astronomy::LocalHours(double J0, double utHours) const
 {
-    return WrapInto(utHours - 24.0 * (Site.ZoneDays + Site.DstOffsetDays), 24.0);
+    return WrapInto(utHours - 24.0 * Site.ClockDaysAt(J0 + utHours / 24.0), 24.0);
 }
 
-RiseTransitSet Astronomy::InLocalClock(RiseTransitSet e) const
+RiseTransitSet Astronomy::InLocalClock(double J0, RiseTransitSet e) const
 {
-    e.RiseTime = LocalHours(e.RiseTime);
-    e.TransitTime = LocalHours(e.TransitTime);
-    e.SetTime = LocalHours(e.SetTime);
+    e.RiseTime = LocalHours(J0, e.RiseTime);
+    e.TransitTime = LocalHours(J0, e.TransitTime);
+    e.SetTime = LocalHours(J0, e.SetTime);
     return e;
+}
+
+// The search over the local day at 0h J0 on the clock. On a day whose clock changes (23 or 25
+// hours long) it runs once with the offset before the change and once with the offset after
+// it; each event comes from the run whose offset holds at the event, so an event in the
+// repeated or the skipped hour is found once, and none of the day's hours is left out.
+RiseTransitSet Astronomy::FindClockDayEvents(EventSearch s)
+{
+    const Observer::ClockDay day = Site.ClockOn(s.J0);
+    s.ZoneHours = 24.0 * day.Start;
+    RiseTransitSet found = FindEvents(s);
+    if (day.Start == day.End)
+        return found;
+    s.ZoneHours = 24.0 * day.End;
+    const RiseTransitSet after = FindEvents(s);
+    const double change = 24.0 * (day.Change - s.J0);
+    const double end = 24.0 * (1.0 + day.End);
+    for (const EventFields& e : Events) {
+        if (found.*e.Flag == EventFlag::InDay && found.*e.Time < change)
+            continue;
+        const bool later =
+            after.*e.Flag == EventFlag::InDay && after.*e.Time >= change && after.*e.Time < end;
+        found.*e.Time = later ? after.*e.Time : found.*e.Time;
+        found.*e.Angle = later ? after.*e.Angle : found.*e.Angle;
+        found.*e.Flag = later ? EventFlag::InDay : EventFlag::OtherDay;
+    }
+    return found;
 }
 
 Astronomy::EventSearch Astronomy::MoonSearch(double J0)
@@ -84,8 +110,7 @@ Astronomy::EventSearch Astronomy::MoonSearch(double J0)
             .Yesterday = yesterday,
             .Today = today.Place,
             .Tomorrow = tomorrow,
-            .Altitude = 0.7275 * today.Parallax - MoonRefraction,
-            .ZoneHours = ClockZoneHours()};
+            .Altitude = 0.7275 * today.Parallax - MoonRefraction};
 }
 
 // Each day's search interpolates its own three days of positions, so two neighbouring days
@@ -94,7 +119,7 @@ Astronomy::EventSearch Astronomy::MoonSearch(double J0)
 // next day's search finds it: the day it falls in by that search reports it, the other not.
 void Astronomy::SettleMoonEventsAtMidnight(double J0, RiseTransitSet& today)
 {
-    const double Z = ClockZoneHours() / 24.0;
+    const double Z = Site.ClockOn(J0).End; // the next day starts at J0 + 1 + Z
     // Rise and set are events only where the search refined them (the Moon crosses h0).
     const auto searched = [](const RiseTransitSet& r, const EventFields& e) {
         return !e.OnlyWhenCrossing || r.AboveHorizonState == HorizonState::Crosses;
@@ -105,7 +130,7 @@ void Astronomy::SettleMoonEventsAtMidnight(double J0, RiseTransitSet& today)
     };
     if (std::none_of(Events.begin(), Events.end(), nearEnd))
         return;
-    const RiseTransitSet next = FindEvents(MoonSearch(J0 + 1.0));
+    const RiseTransitSet next = FindClockDayEvents(MoonSearch(J0 + 1.0));
     for (const EventFields& e : Events) {
         const double d = next.*e.Time / 24.0 - Z; // from the start of the next day
         if (!nearEnd(e) || !searched(next, e) || std::fabs(d) >= 2.0 * EventTolerance)
@@ -119,10 +144,10 @@ void Astronomy::SettleMoonEventsAtMidnight(double J0, RiseTransitSet& today)
 void Astronomy::MoonEventsForDay(double jd)
 {
     const double J0 = JulianDay0(jd);
-    RiseTransitSet found = FindEvents(MoonSearch(J0));
+    RiseTransitSet found = FindClockDayEvents(MoonSearch(J0));
     SettleMoonEventsAtMidnight(J0, found);
     MoonEventRecord& e = Forecast.MoonEvents;
-    e = InLocalClock(found);
+    e = InLocalClock(J0, found);
     MoonRiseHour = e.RiseTime;
     MoonTransitHour = e.TransitTime;
     MoonSetHour = e.SetTime;
@@ -134,7 +159,7 @@ bool Astronomy::MoonLowerTransitInDay(double jd)
 {
     EventSearch s = MoonSearch(JulianDay0(jd));
     s.Longitude += s.Longitude > 0.0 ? -180.0 : 180.0;
-    return FindEvents(s).TransitFlag == EventFlag::InDay;
+    return FindClockDayEvents(s).TransitFlag == EventFlag::InDay;
 }
 
 void Astronomy::SunEventsForDay(double jd)
@@ -147,11 +172,11 @@ void Astronomy::SunEventsForDay(double jd)
                   .Today = SunAtDay(J0).Place,
                   .Tomorrow = SunAtDay(J0 + 1.0).Place};
     for (SunRow r : SunRows) {
-        // Twilights decide the local day with the standard zone.
-        const bool clockDay = r == SunRow::Horizon || Site.TwilightsInClockDay;
-        s.ZoneHours = clockDay ? ClockZoneHours() : Site.CurTimeZone;
         // Each twilight row lies 6 degrees below the one before.
         s.Altitude = r == SunRow::Horizon ? SunriseAltitude : -6.0 * int(r) * DegToRad;
-        Forecast.SunEvents[r] = InLocalClock(FindEvents(s));
+        // Twilights decide the local day with the standard zone.
+        s.ZoneHours = Site.CurTimeZone;
+        const bool clockDay = r == SunRow::Horizon || Site.TwilightsInClockDay;
+        Forecast.SunEvents[r] = InLocalClock(J0, clockDay ? FindClockDayEvents(s) : FindEvents(s));
     }
 }

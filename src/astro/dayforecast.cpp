@@ -96,11 +96,11 @@ void Astronomy::SetPeriods(double T)
     }
 }
 
-// The universal-time instant of the chosen hour on the day at 0h jd: local clock time plus the
-// zone and the daylight-saving offset (HourInstant already holds the zone).
+// The universal-time instant of the chosen hour on the day at 0h jd (HourInstant holds the
+// hour with the zone added).
 double Astronomy::ChosenInstant(double jd) const
 {
-    return jd + Site.HourInstant + Site.DstOffsetDays;
+    return Site.InstantOf(jd + Site.HourInstant - Site.ZoneDays);
 }
 
 std::string Astronomy::Clock(double hours) const { return FormatClock(0, hours, Site.AMPM); }

@@ -130,7 +130,7 @@ double FirstDeclinationCycle(double jd)
 
 double Astronomy::LocalInstant(double jde) const
 {
-    return jde - Site.ZoneDays - Site.DstOffsetDays - DeltaTSeconds(jde) / 86400.0;
+    return Site.LocalOf(jde - DeltaTSeconds(jde) / SecondsPerDay);
 }
 
 double Astronomy::RefinedMoonExtreme(MoonExtreme kind, double k)

@@ -1,5 +1,6 @@
 #include "calendar/calendar.h"
 
+#include "astro/astronomy.h"
 #include "astro/timebase.h"
 
 #include <chrono>
@@ -63,7 +64,7 @@ void Calendar::SetYearTables(Astronomy& engine, std::int16_t southernHemisphere)
         MonthStartJD[m] = YearStartJD + MonthStartDoy[m] - 1;
     }
     SetYearEvents(*this, engine, southernHemisphere);
-    SetHolidays(*this);
+    SetHolidays(*this, engine.Site.Clock);
 }
 
 bool Calendar::StepMonth(int step)

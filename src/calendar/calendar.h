@@ -2,6 +2,8 @@
 // with the year's events, ratings and holidays, and what each of the 37 grid cells shows.
 #pragma once
 
+#include "astro/zonerules.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
@@ -124,5 +126,7 @@ void SetYearEvents(Calendar& cal, Astronomy& engine, std::int16_t southernHemisp
 // Rating and moon age of every day from the phases, perigees and declinations; southern
 // hemisphere -1, northern 0.
 void SetDayRatings(Calendar& cal, std::int16_t southernHemisphere);
-// Holiday captions and flags, and the daylight-saving days of CurYear.
-void SetHolidays(Calendar& cal);
+// Holiday captions and flags, and the daylight-saving days of CurYear: by the calendar's own
+// rule, or where a place's clock is given, the days its offset goes up and down (none when
+// it does not change in the year).
+void SetHolidays(Calendar& cal, const ZoneRules& clock = {});

@@ -1,6 +1,9 @@
 // The year's holidays and the daylight-saving days.
 #include "calendar/calendar.h"
 
+#include "astro/timebase.h"
+
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -38,9 +41,40 @@ int RuleDay(int year, const WeekdayRule& rule)
     return w >= rule.Low && w <= rule.High ? d + rule.Shift : d;
 }
 
+// The daylight-saving days by the calendar's rule: the first Sunday of April and the last
+// Sunday of October, with 02:00 of each.
+void RuleDaylightDays(Calendar& cal)
+{
+    const int y = cal.CurYear;
+    cal.DstStartDay = std::int16_t(RuleDay(y, DstStart));
+    cal.DstEndDay = std::int16_t(DayOfYearOf(y, 10, 31) - WeekdayOf(y, 10, 31) + 1);
+    cal.DstStartJD = cal.YearStartJD + cal.DstStartDay - 1 + 0.0833333333;
+    cal.DstEndJD = cal.YearStartJD + cal.DstEndDay - 1 + 0.0833333333;
+}
+
+// The days of the year on which the place's clock goes forward (start) and back (end), with
+// the local clock time of each change as the clock read just before it; 0 when it does not.
+void ClockDaylightDays(Calendar& cal, const ZoneRules& clock)
+{
+    cal.DstStartDay = cal.DstEndDay = 0;
+    cal.DstStartJD = cal.DstEndJD = 0.0;
+    const double yearEnd = CivilToJd(cal.CurYear + 1, 1, 1);
+    // A day's margin either side: the year is one of local dates.
+    for (const double t : clock.ChangesBetween(cal.YearStartJD - 1.0, yearEnd + 1.0)) {
+        const int before = clock.MinutesAt(t - 1.0 / 86400.0), after = clock.MinutesAt(t);
+        const double local = t + before / 1440.0;
+        const double day = std::floor(local + 0.5) - 0.5;
+        if (day < cal.YearStartJD || day >= yearEnd)
+            continue;
+        const bool forward = after > before;
+        (forward ? cal.DstStartDay : cal.DstEndDay) = std::int16_t(day - cal.YearStartJD + 1.0);
+        (forward ? cal.DstStartJD : cal.DstEndJD) = local;
+    }
+}
+
 } // namespace
 
-void SetHolidays(Calendar& cal)
+void SetHolidays(Calendar& cal, const ZoneRules& clock)
 {
     for (int d = 1; d <= cal.YearSlots; ++d)
         cal.YearDays[std::size_t(d)].Holiday = false;
@@ -48,8 +82,10 @@ void SetHolidays(Calendar& cal)
     const auto [em, ed] = EasterMonthDay(y);
     const int easter = DayOfYearOf(y, em, ed);
     const int christmasEve = DayOfYearOf(y, 12, 24);
-    cal.DstStartDay = std::int16_t(RuleDay(y, DstStart));
-    cal.DstEndDay = std::int16_t(DayOfYearOf(y, 10, 31) - WeekdayOf(y, 10, 31) + 1);
+    if (clock.Empty())
+        RuleDaylightDays(cal);
+    else
+        ClockDaylightDays(cal, clock);
 
     std::vector<std::pair<const char*, int>> days = {
         {" Easter Sunday ", easter},
@@ -70,9 +106,12 @@ void SetHolidays(Calendar& cal)
         {" Halloween ", DayOfYearOf(y, 10, 31)},
         {" Christmas Eve ", christmasEve},
         {" Christmas Day ", christmasEve + 1},
-        {DstStart.Caption, cal.DstStartDay},
-        {" Daylight Saving's Time Ends ", cal.DstEndDay},
     };
+    // A clock without changes in the year has no daylight-saving days to mark.
+    if (cal.DstStartDay > 0)
+        days.emplace_back(DstStart.Caption, cal.DstStartDay);
+    if (cal.DstEndDay > 0)
+        days.emplace_back(" Daylight Saving's Time Ends ", cal.DstEndDay);
     for (const WeekdayRule& rule : WeekdayRules)
         days.emplace_back(rule.Caption, RuleDay(y, rule));
     for (const auto& [caption, d] : days) {
@@ -80,6 +119,4 @@ void SetHolidays(Calendar& cal)
         r.Text = caption + r.Text;
         r.Holiday = true;
     }
-    cal.DstStartJD = cal.YearStartJD + cal.DstStartDay - 1 + 0.0833333333;
-    cal.DstEndJD = cal.YearStartJD + cal.DstEndDay - 1 + 0.0833333333;
 }

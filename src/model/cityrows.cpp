@@ -95,10 +95,11 @@ std::string UsPostalCode(std::string_view stateName)
 
 std::optional<CityRow> CityRowFrom(const SourceCity& city)
 {
-    // The location's zone list runs from 12 hours west to 12 east (Samoa's and Tonga's 13
-    // hours east do not fit).
+    // The location's whole-hour zone list runs from 12 hours west to 12 east (Samoa's and
+    // Tonga's 13 hours east do not fit); a city on a zone of minutes keeps the nearest whole
+    // hour beside its own zone, whose clock "Local Clock" follows.
     const auto offset = city.StandardOffsetSeconds;
-    if (!offset || *offset % SecondsPerHour != 0 || std::abs(*offset / SecondsPerHour) > 12)
+    if (!offset || std::abs(*offset) > 12 * SecondsPerHour)
         return std::nullopt;
     CityRow row;
     const std::string code = city.CountryCode == "US" ? UsPostalCode(city.Region) : "";
@@ -108,7 +109,8 @@ std::optional<CityRow> CityRowFrom(const SourceCity& city)
     row.LongChar = city.Longitude < 0 ? "W" : "E";
     row.LatInDegrees = Hundredths(city.Latitude);
     row.LatChar = city.Latitude < 0 ? "S" : "N";
-    row.Timezone = std::int16_t(-*city.StandardOffsetSeconds / SecondsPerHour);
+    row.Timezone = std::int16_t(-std::lround(double(*offset) / SecondsPerHour));
+    row.TzName = city.TzName;
     return row;
 }
 

@@ -21,6 +21,7 @@ struct SourceCity {
     // The zone's standard offset from universal time in seconds, east positive (daylight
     // saving left out); nothing when the zone is unknown.
     std::optional<int> StandardOffsetSeconds;
+    std::string TzName; // the zone of the tz database: "Asia/Kolkata"
 };
 
 // One record of Table1.
@@ -31,7 +32,9 @@ struct CityRow {
     std::string LongChar;       // "W" or "E"
     double LatInDegrees = 0.0;
     std::string LatChar;       // "N" or "S"
-    std::int16_t Timezone = 0; // whole hours west of Greenwich (New York 5, Berlin -1)
+    std::int16_t Timezone = 0; // whole hours west of Greenwich (New York 5, Berlin -1), the
+                               // nearest to the zone's standard offset (India -6)
+    std::string TzName;        // the city's zone of the tz database
 };
 
 // "FL" for "Florida", "ME" for "State of Maine", "DC" for "District of Columbia"; empty for a

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site)
+void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site, const ZoneRules& clock)
 {
     const Location& loc = s.Locations[std::size_t(s.CurLoc)];
 
@@ -22,17 +22,23 @@ void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site)
     caption = cur.CurLocName + " " + caption;
 
     std::string mode;
-    if (s.TimeFormats == 1 || s.TimeFormats == 0) {
-        site.DstOffsetDays = s.TimeFormats == 0 ? MinutesToDays(s.DaylightBias) : 0.0;
-        mode = s.TimeFormats == 0 ? "DST" : "STD";
+    const bool localClock = s.TimeFormats == LocalClockMode;
+    site.Clock = localClock ? clock : ZoneRules{};
+    // The place's clock decides every day, twilights too.
+    site.TwilightsInClockDay = !site.Clock.Empty();
+    if (s.TimeFormats == StandardMode || s.TimeFormats == DaylightSavingsMode || localClock) {
+        const bool dst = s.TimeFormats == DaylightSavingsMode;
+        site.DstOffsetDays = dst ? MinutesToDays(s.DaylightBias) : 0.0;
+        mode = dst ? "DST" : site.Clock.Empty() ? "STD" : "LOCAL";
         s.AMPM = "True";
     }
     site.TimeFormats = s.TimeFormats;
     site.AMPM = s.AmPm();
 
-    caption += " TimeZone=" + std::string(site.CurTimeZone >= 0 ? " " : "") +
-               std::to_string(site.CurTimeZone) + " " + " Time=" + mode +
-               " Hemisphere=" + s.HemiSphere + "ern ";
+    const std::string zone = site.Clock.Empty() ? std::string(site.CurTimeZone >= 0 ? " " : "") +
+                                                      std::to_string(site.CurTimeZone)
+                                                : site.Clock.Name;
+    caption += " TimeZone=" + zone + " " + " Time=" + mode + " Hemisphere=" + s.HemiSphere + "ern ";
     cur.LocationCaption = caption;
 }
 

@@ -15,8 +15,11 @@ struct CurrentLocation {
 };
 
 // The computing steps of applying the current location: the engine's working values, the
-// hemisphere, the daylight-saving offset (by TimeFormats) and the caption. Sets AMPM.
-void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site);
+// hemisphere, the daylight-saving offset (by TimeFormats) and the caption. Sets AMPM. Under
+// "Local Clock" the engine follows clock, the offsets of the location's zone; a location
+// without a zone (clock empty) keeps its whole-hour zone in standard time.
+void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site,
+                         const ZoneRules& clock = {});
 
 // "# 1 Alexandria, LA", with "  [Def]" for the default location.
 std::string LocationMenuCaption(int n, const std::string& name, bool isDefault);

@@ -1,5 +1,6 @@
 // A user location and the ten the program keeps. Longitudes are degrees positive west,
-// latitudes positive north, time zones hours west of Greenwich (5 for US Eastern).
+// latitudes positive north, time zones hours west of Greenwich (5 for US Eastern). A location
+// may also name its zone of the tz database, whose offsets the "Local Clock" mode follows.
 #pragma once
 
 #include <algorithm>
@@ -13,6 +14,7 @@ struct Location {
     double Longitude = 0.0;
     double Latitude = 0.0;
     std::int16_t TimeZone = 0;
+    std::string TzName; // "America/Chicago"; empty for a whole-hour zone only
 };
 
 constexpr int LocationCount = 10;

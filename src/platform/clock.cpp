@@ -1,6 +1,7 @@
 #include "platform/clock.h"
 
 #include <QByteArray>
+#include <QTimeZone>
 
 QDateTime Clock::Now()
 {
@@ -11,4 +12,11 @@ QDateTime Clock::Now()
             return t;
     }
     return QDateTime::currentDateTime();
+}
+
+QDateTime Clock::NowIn(const std::string& zone)
+{
+    const QByteArray id = QByteArray::fromStdString(zone);
+    const QDateTime now = Now();
+    return QTimeZone::isTimeZoneIdAvailable(id) ? now.toTimeZone(QTimeZone(id)) : now;
 }

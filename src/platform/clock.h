@@ -4,6 +4,10 @@
 
 #include <QDateTime>
 
+#include <string>
+
 namespace Clock {
 QDateTime Now();
+// Now on the clock of the tz zone named (the computer's own clock when it names none known).
+QDateTime NowIn(const std::string& zone);
 } // namespace Clock

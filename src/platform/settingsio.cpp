@@ -1,5 +1,6 @@
 #include "platform/settingsio.h"
 
+#include "astro/observer.h"
 #include "platform/settingsstore.h"
 #include "text/vbformat.h"
 
@@ -16,20 +17,21 @@ struct LocationDefaults {
     const char* Longitude;
     const char* Latitude;
     const char* TimeZone;
+    const char* TzName; // written at first start only
 };
 
 // Used when a key is missing.
 constexpr std::array<LocationDefaults, LocationCount> Defaults = {{
-    {"Alexandria, LA", "92.42", "31.25", "6"},
-    {"Miami, FL", "80.2", "25.77", "5"},
-    {"Los Angeles, CA", "118.25", "34.05", "8"},
-    {"Denver, CO", "105.00", "39.75", "7"},
-    {"Atlanta, GA", "84.79", "33.75", "5"},
-    {"Dallas, TX", "96.77", "32.77", "6"},
-    {"Detroit, MI", "83.05", "42.33", "5"},
-    {"Pittsburg, PA", "80.00", "40.44", "5"},
-    {"Rochester, NY", "77.61", "43.16", "5"},
-    {"Seattle, Wa", "122.34", "47.61", "8"},
+    {"Alexandria, LA", "92.42", "31.25", "6", "America/Chicago"},
+    {"Miami, FL", "80.2", "25.77", "5", "America/New_York"},
+    {"Los Angeles, CA", "118.25", "34.05", "8", "America/Los_Angeles"},
+    {"Denver, CO", "105.00", "39.75", "7", "America/Denver"},
+    {"Atlanta, GA", "84.79", "33.75", "5", "America/New_York"},
+    {"Dallas, TX", "96.77", "32.77", "6", "America/Chicago"},
+    {"Detroit, MI", "83.05", "42.33", "5", "America/Detroit"},
+    {"Pittsburg, PA", "80.00", "40.44", "5", "America/New_York"},
+    {"Rochester, NY", "77.61", "43.16", "5", "America/New_York"},
+    {"Seattle, Wa", "122.34", "47.61", "8", "America/Los_Angeles"},
 }};
 
 QString Key(const char* prefix, int n, const char* field)
@@ -121,10 +123,13 @@ void LoadSettings(Settings& s, const SettingsStore& store)
         Location& loc = s.Locations[std::size_t(n)];
         const QString lon = Key("Usr", n, "Long"), lat = Key("Usr", n, "Lat");
         const QString tz = Key("Usr", n, "TZ"), name = Key("Usr", n, "Name");
+        const QString zone = Key("Usr", n, "Zone");
         loc.Longitude = Degrees(K(lon), Read(store, lon, d.Longitude), "###.00", 180.0);
         loc.Latitude = Degrees(K(lat), Read(store, lat, d.Latitude), "##.00", 90.0);
         loc.TimeZone = ZoneHours(K(tz), Read(store, tz, d.TimeZone));
         loc.Name = Read(store, name, d.Name);
+        // Files written before locations had zones have no such key: no zone.
+        loc.TzName = Read(store, zone, "");
     }
 }
 
@@ -139,6 +144,7 @@ bool SaveSettings(const Settings& s, SettingsStore& store)
         write(Key("Usr", n, "Lat"), LatitudeText(loc.Latitude));
         write(Key("Usr", n, "TZ"), TimeZoneText(loc.TimeZone));
         write(Key("Usr", n, "Name"), loc.Name);
+        write(Key("Usr", n, "Zone"), loc.TzName);
     }
     write("FormTop", s.FormTop);
     write("FormLeft", std::to_string(s.FormLeft));
@@ -164,6 +170,7 @@ void WriteFirstStartValues(SettingsStore& store)
         store.Write(Key("Usr", n, "Name"), n == 8    ? "Pittsburgh, PA"
                                            : n == 10 ? "Seattle, WA"
                                                      : d.Name);
+        store.Write(Key("Usr", n, "Zone"), d.TzName);
     }
     store.Write("HemiSphere", "North");
     store.Write("MoonColor", QString::number(DefaultMoonColor));
@@ -172,6 +179,6 @@ void WriteFirstStartValues(SettingsStore& store)
     store.Write("Graphic", "0");
     store.Write("MouseClick", "True");
     store.Write("ParallacticAngle", "True");
-    store.Write("TimeFormats", "1");
+    store.Write("TimeFormats", QString::number(LocalClockMode));
     store.Flush();
 }

@@ -43,11 +43,11 @@ std::vector<SourceCity> ReadGeoNames()
     cities.reserve(std::size_t(count));
     for (int i = 0; i < count; ++i) {
         GeonamesCity* c = geonames_get_city(i);
-        cities.push_back({geonames_city_get_name(c), geonames_city_get_state(c),
-                          geonames_city_get_country(c), geonames_city_get_country_code(c),
-                          geonames_city_get_latitude(c), geonames_city_get_longitude(c),
-                          geonames_city_get_population(c),
-                          StandardOffset(geonames_city_get_timezone(c))});
+        cities.push_back(
+            {geonames_city_get_name(c), geonames_city_get_state(c), geonames_city_get_country(c),
+             geonames_city_get_country_code(c), geonames_city_get_latitude(c),
+             geonames_city_get_longitude(c), geonames_city_get_population(c),
+             StandardOffset(geonames_city_get_timezone(c)), geonames_city_get_timezone(c)});
         geonames_city_free(c);
     }
     return cities;
@@ -66,7 +66,8 @@ std::vector<FieldValues> Records(const std::vector<CityRow>& rows)
                            {"LongChar", QString::fromStdString(r.LongChar)},
                            {"LatInDegrees", r.LatInDegrees},
                            {"LatChar", QString::fromStdString(r.LatChar)},
-                           {"Timezone", int(r.Timezone)}});
+                           {"Timezone", int(r.Timezone)},
+                           {"TzName", QString::fromStdString(r.TzName)}});
     }
     return records;
 }

@@ -121,7 +121,7 @@ void AddEventTexts(DayGraphSeries& g, const DayMarks& day)
 SunAltitudeRange SunAltitudesOfDay(Astronomy& engine, double jd)
 {
     const Observer& o = engine.Site;
-    const double delta = engine.SunPosition(jd + 0.5 + o.ZoneDays + o.DstOffsetDays).Delta;
+    const double delta = engine.SunPosition(o.InstantOf(jd + 0.5)).Delta;
     const double phi = o.CurLatitude * DegToRad;
     // At the upper and the lower meridian passage.
     return {ArcSin(std::sin(phi) * std::sin(delta) - std::cos(phi) * std::cos(delta)),
@@ -168,7 +168,7 @@ std::string DayPartTip(const DayGraphSeries& s, double x, bool ampm)
 SkyReadout GetPicData(Astronomy& engine, double jd)
 {
     const Observer& o = engine.Site;
-    const double ut = jd + o.ZoneDays + o.DstOffsetDays;
+    const double ut = o.InstantOf(jd);
     SkyReadout r;
     const SunPlace sun = engine.SunPosition(ut);
     Horizontal h =

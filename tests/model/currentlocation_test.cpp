@@ -36,7 +36,7 @@ TEST(CurrentLocation, CaptionOfTheFirstDefaultLocation)
 TEST(CurrentLocation, EasternSouthernLocationWithDaylightSaving)
 {
     Settings s = DefaultSettings();
-    s.Locations[3] = {"Hobart", -147.33, -42.88, -10};
+    s.Locations[3] = {"Hobart", -147.33, -42.88, -10, ""};
     s.CurLoc = 3;
     s.TimeFormats = 0;
     s.DaylightBias = -60;
@@ -56,8 +56,8 @@ TEST(CurrentLocation, EasternSouthernLocationWithDaylightSaving)
 TEST(CurrentLocation, SignsAtZeroAndHalfADegree)
 {
     Settings s = DefaultSettings();
-    s.Locations[1] = {"Greenwich", 0.0, 0.0, 0};
-    s.Locations[2] = {"East", -0.5, 0.5, 0};
+    s.Locations[1] = {"Greenwich", 0.0, 0.0, 0, ""};
+    s.Locations[2] = {"East", -0.5, 0.5, 0, ""};
     CurrentLocation cur;
     Observer site;
     ApplyLocationValues(s, cur, site);

@@ -48,8 +48,8 @@ TEST(LocationRules, ToLowerCaseCapitalisesTheSecondWordOnly)
 
 TEST(CityRows, StatesZonesAndHemispheres)
 {
-    const SourceCity miami{"Miami", "Florida", "United States of America", "US", 25.77, -80.19,
-                           440000,  -5 * 3600};
+    const SourceCity miami{
+        "Miami", "Florida", "United States of America", "US", 25.77, -80.19, 440000, -5 * 3600, ""};
     const auto row = CityRowFrom(miami);
     ASSERT_TRUE(row);
     EXPECT_EQ(row->State, "FL");
@@ -58,7 +58,7 @@ TEST(CityRows, StatesZonesAndHemispheres)
     EXPECT_DOUBLE_EQ(row->LongInDegrees, 80.19);
     EXPECT_EQ(row->Timezone, 5);
     const auto sydney = CityRowFrom(
-        {"Sydney", "New South Wales", "Australia", "AU", -33.868, 151.207, 4600000, 10 * 3600});
+        {"Sydney", "New South Wales", "Australia", "AU", -33.868, 151.207, 4600000, 10 * 3600, ""});
     ASSERT_TRUE(sydney);
     EXPECT_EQ(sydney->State, "Australia");
     EXPECT_EQ(sydney->LongChar, "E");
@@ -69,18 +69,25 @@ TEST(CityRows, StatesZonesAndHemispheres)
     EXPECT_EQ(UsPostalCode("State of Maine"), "ME");
     EXPECT_EQ(UsPostalCode("Bavaria"), "");
     // Half-hour zones, zones beyond 12 hours and unknown zones have no row.
-    EXPECT_FALSE(CityRowFrom({"Apia", "Tuamasaga", "Samoa", "WS", -13.8, -171.8, 1, 13 * 3600}));
-    EXPECT_FALSE(CityRowFrom({"Adelaide", "SA", "Australia", "AU", -34.9, 138.6, 1, 34200}));
-    EXPECT_FALSE(CityRowFrom({"Nowhere", "", "X", "XX", 0, 0, 1, std::nullopt}));
+    EXPECT_FALSE(
+        CityRowFrom({"Apia", "Tuamasaga", "Samoa", "WS", -13.8, -171.8, 1, 13 * 3600, ""}));
+    // A zone of minutes: the nearest whole hour beside the city's own zone.
+    const auto adelaide = CityRowFrom(
+        {"Adelaide", "SA", "Australia", "AU", -34.9, 138.6, 1, 34200, "Australia/Adelaide"});
+    ASSERT_TRUE(adelaide);
+    EXPECT_EQ(adelaide->Timezone, -10);
+    EXPECT_EQ(adelaide->TzName, "Australia/Adelaide");
+    EXPECT_FALSE(CityRowFrom({"Nowhere", "", "X", "XX", 0, 0, 1, std::nullopt, ""}));
 }
 
 TEST(CityRows, OneRowPerStateAndCityOrderedWithoutRegardToCase)
 {
     const std::vector<SourceCity> source = {
-        {"Springfield", "Illinois", "United States of America", "US", 39.8, -89.64, 114000, -21600},
-        {"aachen", "NRW", "Germany", "DE", 50.78, 6.08, 10, 3600},
-        {"Springfield", "Illinois", "United States of America", "US", 39.9, -89.7, 900, -21600},
-        {"Berlin", "Berlin", "Germany", "DE", 52.52, 13.41, 3400000, 3600}};
+        {"Springfield", "Illinois", "United States of America", "US", 39.8, -89.64, 114000, -21600,
+         ""},
+        {"aachen", "NRW", "Germany", "DE", 50.78, 6.08, 10, 3600, ""},
+        {"Springfield", "Illinois", "United States of America", "US", 39.9, -89.7, 900, -21600, ""},
+        {"Berlin", "Berlin", "Germany", "DE", 52.52, 13.41, 3400000, 3600, ""}};
     const auto rows = CityRows(source);
     ASSERT_EQ(rows.size(), 3u);
     EXPECT_EQ(rows[0].City, "aachen");

@@ -40,6 +40,9 @@ Location (default: the default one of your ten stored locations):
   --location N              one of the ten stored locations, 1..10
   --lon 92.42W --lat 31.25N --zone 6 [--name TEXT]
                             degrees with a hemisphere letter (W/E, N/S); zone in hours
+  --lon 92.42W --lat 31.25N --tz America/Chicago [--zone 6]
+                            times on the zone's own clock, daylight saving on its dates
+                            (a stored location with a zone uses it the same way)
                             west of Greenwich (5 = US Eastern, -1 = Central Europe)
 
 Options:
@@ -149,10 +152,10 @@ using Options = std::map<std::string, std::string>;
 std::variant<Options, UsageError> Collect(const std::vector<std::string>& args)
 {
     static const std::map<std::string, bool> known = {
-        {"--from", true},     {"--days", true},   {"--year", true}, {"--month", true},
-        {"--location", true}, {"--lon", true},    {"--lat", true},  {"--zone", true},
-        {"--name", true},     {"--format", true}, {"--hour", true}, {"--dst", false},
-        {"--help", false},    {"--pdf", true}};
+        {"--from", true},     {"--days", true},  {"--year", true},   {"--month", true},
+        {"--location", true}, {"--lon", true},   {"--lat", true},    {"--zone", true},
+        {"--tz", true},       {"--name", true},  {"--format", true}, {"--hour", true},
+        {"--dst", false},     {"--help", false}, {"--pdf", true}};
     Options options;
     for (std::size_t i = 1; i < args.size(); ++i) {
         const auto it = known.find(args[i]);
@@ -180,17 +183,18 @@ std::optional<UsageError> ReadLocation(const Options& o, ForecastRequest& r)
             return UsageError{"--location takes a stored location number from 1 to 10"};
         r.StoredLocation = *n;
     }
-    const bool any = o.count("--lon") || o.count("--lat") || o.count("--zone") || o.count("--name");
+    const bool any = o.count("--lon") || o.count("--lat") || o.count("--zone") || o.count("--tz") ||
+                     o.count("--name");
     if (!any)
         return std::nullopt;
     if (r.StoredLocation)
         return UsageError{"give either --location or --lon/--lat/--zone, not both"};
-    if (!o.count("--lon") || !o.count("--lat") || !o.count("--zone"))
-        return UsageError{"a location by coordinates needs --lon, --lat and --zone"};
+    if (!o.count("--lon") || !o.count("--lat") || !(o.count("--zone") || o.count("--tz")))
+        return UsageError{"a location by coordinates needs --lon, --lat and --zone or --tz"};
     CoordinateLocation c;
     const auto lon = ParseCoordinate(o.at("--lon"), 'W', 'E', 180.0);
     const auto lat = ParseCoordinate(o.at("--lat"), 'N', 'S', 90.0);
-    const auto zone = ToInt(o.at("--zone"));
+    const auto zone = o.count("--zone") ? ToInt(o.at("--zone")) : std::optional<int>(0);
     if (!lon)
         return UsageError{"malformed longitude '" + o.at("--lon") + "' (example: 92.42W)"};
     if (!lat)
@@ -202,6 +206,8 @@ std::optional<UsageError> ReadLocation(const Options& o, ForecastRequest& r)
     c.Longitude = *lon;
     c.Latitude = *lat;
     c.TimeZone = *zone;
+    if (o.count("--tz"))
+        c.TzName = o.at("--tz");
     if (o.count("--name"))
         c.Name = o.at("--name");
     r.AtCoordinates = c;
@@ -214,8 +220,8 @@ std::optional<UsageError> ReadCommand(const Options& o, ForecastRequest& r, int 
     // Location options and --dst go with every command; the rest only with their own.
     const auto allowed =
         [&o](std::initializer_list<std::string_view> own) -> std::optional<UsageError> {
-        static constexpr std::array<std::string_view, 6> everywhere = {
-            "--location", "--lon", "--lat", "--zone", "--name", "--dst"};
+        static constexpr std::array<std::string_view, 7> everywhere = {
+            "--location", "--lon", "--lat", "--zone", "--tz", "--name", "--dst"};
         for (const auto& entry : o) {
             const std::string_view name = entry.first;
             if (std::find(own.begin(), own.end(), name) == own.end() &&

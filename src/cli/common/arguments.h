@@ -16,6 +16,7 @@ struct CoordinateLocation {
     double Longitude = 0.0; // degrees, west positive
     double Latitude = 0.0;  // degrees, north positive
     int TimeZone = 0;       // hours west of Greenwich
+    std::string TzName;     // --tz: a zone of the tz database, whose clock the times follow
     std::string Name = "Custom location";
 };
 

@@ -93,7 +93,10 @@ ForecastRun::ForecastRun(const ForecastPlace& place)
     Observer& site = Engine.Site;
     site.SetPlace(place.Longitude, place.Latitude, std::int16_t(place.TimeZone));
     site.DstOffsetDays = place.DstOffsetDays;
-    site.TimeFormats = place.DstOffsetDays != 0.0 ? 0 : 1;
+    site.Clock = place.Clock;
+    site.TimeFormats = !site.Clock.Empty()          ? LocalClockMode
+                       : place.DstOffsetDays != 0.0 ? DaylightSavingsMode
+                                                    : StandardMode;
     site.AMPM = place.AmPm;
     site.TwilightsInClockDay = true;
     site.HourInstant = place.HourMinutes / 1440.0 + site.ZoneDays;
@@ -166,20 +169,20 @@ DayRow ForecastRun::Day(int year, int month, int day)
     r.SunAltitude = Degrees(f.SkyPosition.SunAltitude);
     r.MoonAltitude = Degrees(f.SkyPosition.MoonAltitude);
     r.MoonParallacticAngle = Degrees(f.MoonParallacticAngle);
-    r.UtcOffsetHours = 24.0 * (Engine.Site.ZoneDays + Engine.Site.DstOffsetDays);
+    // The day's offset: the clock's at local noon.
+    r.UtcOffsetHours = 24.0 * Engine.Site.ClockDaysAt(Engine.Site.InstantOf(J + 0.5));
     return r;
 }
 
 std::vector<EventRow> ForecastRun::Events(int year)
 {
-    const double utcOffset = Engine.Site.ZoneDays + Engine.Site.DstOffsetDays;
     std::vector<EventRow> rows;
     for (const YearEvent& e :
          YearEventsBetween(Engine, CivilToJd(year, 1, 1), CivilToJd(year + 1, 1, 1))) {
         const EventNames& names = NamesOf(e.Of);
         const CivilDate c = JdToCivil(EventDayJD(e.LocalJD));
         const auto i = std::size_t(e.Code - 1);
-        rows.push_back({names.Types[i], e.LocalJD + utcOffset, EventMinute(e.LocalJD), c.Year,
+        rows.push_back({names.Types[i], Engine.Site.InstantOf(e.LocalJD), EventMinute(e.LocalJD), c.Year,
                         c.Month, c.Day, names.Captions[i]});
     }
     return rows;

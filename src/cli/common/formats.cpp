@@ -113,6 +113,10 @@ std::vector<Field> MakeFields()
         {"moon_altitude", [](const DayRow& r) { return ExactNumber(r.MoonAltitude); }},
         {"moon_parallactic_angle",
          [](const DayRow& r) { return ExactNumber(r.MoonParallacticAngle); }},
+        // The clock's offset that day (at noon), minutes east of Greenwich: -300 for New York
+        // in winter, 330 for India.
+        {"utc_offset_minutes",
+         [](const DayRow& r) { return std::to_string(-std::lround(r.UtcOffsetHours * 60.0)); }},
     };
     f.insert(f.end(), rest.begin(), rest.end());
     return f;

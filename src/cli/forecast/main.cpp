@@ -11,6 +11,7 @@
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
 #include "text/timeunits.h"
+#include "platform/timezones.h"
 #include "text/version.h"
 #include "viewrules/monthlylist.h"
 
@@ -40,6 +41,13 @@ NamedPlace PlaceOf(const ForecastRequest& r)
         p.Place.Longitude = r.AtCoordinates->Longitude;
         p.Place.Latitude = r.AtCoordinates->Latitude;
         p.Place.TimeZone = r.AtCoordinates->TimeZone;
+        p.Place.Clock = NamedZoneClock(r.AtCoordinates->TzName, p.Place.TimeZone);
+        if (!r.AtCoordinates->TzName.empty() && p.Place.Clock.Empty())
+            std::fprintf(stderr, "quillmere-forecast: %s\n",
+                         UnknownZoneMessage({.Name = p.Name,
+                                             .TimeZone = std::int16_t(p.Place.TimeZone),
+                                             .TzName = r.AtCoordinates->TzName})
+                             .c_str());
         p.Name = r.AtCoordinates->Name;
     } else {
         SettingsStore store = SettingsStore::ReadOnly();
@@ -52,10 +60,15 @@ NamedPlace PlaceOf(const ForecastRequest& r)
         p.Place.Longitude = loc.Longitude;
         p.Place.Latitude = loc.Latitude;
         p.Place.TimeZone = loc.TimeZone;
+        p.Place.Clock = LocationClock(loc);
+        if (!loc.TzName.empty() && p.Place.Clock.Empty())
+            std::fprintf(stderr, "quillmere-forecast: %s\n", UnknownZoneMessage(loc).c_str());
         p.Place.AmPm = s.AmPm();
         p.Name = loc.Name;
     }
     p.Place.DstOffsetDays = r.Dst ? MinutesToDays(SystemDaylightBias()) : 0.0;
+    if (r.Dst) // the fixed daylight-saving hour, as asked
+        p.Place.Clock = {};
     p.Place.HourMinutes = r.HourMinutes;
     return p;
 }
@@ -66,7 +79,9 @@ std::string Caption(const NamedPlace& p)
     std::snprintf(text, sizeof text, "%s  %.2f%c %.2f%c  zone %d%s", p.Name.c_str(),
                   std::abs(p.Place.Longitude), p.Place.Longitude < 0 ? 'E' : 'W',
                   std::abs(p.Place.Latitude), p.Place.Latitude < 0 ? 'S' : 'N', p.Place.TimeZone,
-                  p.Place.DstOffsetDays != 0.0 ? "  daylight saving" : "");
+                  p.Place.DstOffsetDays != 0.0 ? "  daylight saving"
+                  : p.Place.Clock.Empty()      ? ""
+                                               : ("  " + p.Place.Clock.Name).c_str());
     return text;
 }
 

@@ -20,6 +20,7 @@
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
 #include "text/timeunits.h"
+#include "platform/timezones.h"
 #include "text/version.h"
 
 #include <QDir>
@@ -30,6 +31,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <cstdio>
 #include <map>
 #include <optional>
 #include <ostream>
@@ -95,6 +97,8 @@ Location (create only; default: the default one of your ten stored locations):
   --lon 92.42W --lat 31.25N --zone 6 [--name TEXT]
                             degrees with a hemisphere letter (W/E, N/S); zone in hours
                             west of Greenwich (5 = US Eastern, -1 = Central Europe)
+  --tz America/Chicago      with --lon/--lat: each day on that zone's own clock (a stored
+                            location with a zone uses its zone the same way)
 
 Options:
   --dst            the location in daylight-saving time, as the main window's
@@ -171,7 +175,7 @@ Settings StoredSettings(std::ostream& err)
 std::variant<ForecastPlace, UsageError> PlaceOf(const LogRequest& r, std::ostream& err)
 {
     std::vector<std::string> args = {"events", "--year", std::to_string(r.Year)};
-    for (const char* name : {"--location", "--lon", "--lat", "--zone", "--name", "--dst"}) {
+    for (const char* name : {"--location", "--lon", "--lat", "--zone", "--tz", "--name", "--dst"}) {
         if (const auto it = r.Options.find(name); it != r.Options.end()) {
             args.emplace_back(name);
             if (std::string(name) != "--dst")
@@ -189,14 +193,20 @@ std::variant<ForecastPlace, UsageError> PlaceOf(const LogRequest& r, std::ostrea
         p.Longitude = f.AtCoordinates->Longitude;
         p.Latitude = f.AtCoordinates->Latitude;
         p.TimeZone = f.AtCoordinates->TimeZone;
+        p.Clock = NamedZoneClock(f.AtCoordinates->TzName, p.TimeZone);
     } else {
         const Location& loc =
             s.Locations[std::size_t(f.StoredLocation.value_or(s.DefaultLocation()))];
         p.Longitude = loc.Longitude;
         p.Latitude = loc.Latitude;
         p.TimeZone = loc.TimeZone;
+        p.Clock = LocationClock(loc);
+        if (!loc.TzName.empty() && p.Clock.Empty())
+            std::fprintf(stderr, "quillmere-log: %s\n", UnknownZoneMessage(loc).c_str());
     }
     p.DstOffsetDays = f.Dst ? MinutesToDays(SystemDaylightBias()) : 0.0;
+    if (f.Dst) // the fixed daylight-saving hour, as asked
+        p.Clock = {};
     return p;
 }
 
@@ -487,7 +497,9 @@ const std::vector<LogCommand>& Commands()
 {
     static const std::vector<LogCommand> commands = {
         {"list", {}, List},
-        {"create", {"--year", "--location", "--lon", "--lat", "--zone", "--name", "--dst"}, Create},
+        {"create",
+         {"--year", "--location", "--lon", "--lat", "--zone", "--tz", "--name", "--dst"},
+         Create},
         {"compact", {"--year"}, Compact},
         {"repair", {"--year"}, Repair},
         {"restore", {"--year"}, Restore},

@@ -10,6 +10,7 @@
 #include "platform/programfolder.h"
 #include "platform/settingsio.h"
 #include "text/timeunits.h"
+#include "platform/timezones.h"
 #include "ui/calendar/daycellwidget.h"
 #include "ui/calendar/frmabout.h"
 #include "ui/calendar/frmprint.h"
@@ -250,6 +251,7 @@ void FrmCalendar::BuildMenus()
     formats->setObjectName(QStringLiteral("TFormat"));
     DST[0] = Item(formats, QStringLiteral("Daylight Savings"), QStringLiteral("DST0"), true);
     DST[1] = Item(formats, QStringLiteral("Standard"), QStringLiteral("DST1"), true);
+    DST[2] = Item(formats, QStringLiteral("Local Clock"), QStringLiteral("DST2"), true);
     QMenu* mice = options->addMenu(QStringLiteral("Mouse"));
     mice->setObjectName(QStringLiteral("Mice"));
     Mouse[0] = Item(mice, QStringLiteral("On Move"), QStringLiteral("Mouse0"), true);
@@ -258,8 +260,9 @@ void FrmCalendar::BuildMenus()
     pan->setObjectName(QStringLiteral("Pan"));
     Pangle[0] = Item(pan, QStringLiteral("Parallactic Off"), QStringLiteral("Pangle0"), true);
     Pangle[1] = Item(pan, QStringLiteral("Parallactic On"), QStringLiteral("Pangle1"), true);
-    for (int i = 0; i < 2; ++i) {
+    for (int i = 0; i < 3; ++i)
         connect(DST[std::size_t(i)], &QAction::triggered, this, [this, i] { DST_Click(i); });
+    for (int i = 0; i < 2; ++i) {
         connect(Mouse[std::size_t(i)], &QAction::triggered, this, [this, i] { Mouse_Click(i); });
         connect(Pangle[std::size_t(i)], &QAction::triggered, this, [this, i] { Pangle_Click(i); });
     }
@@ -323,7 +326,7 @@ void FrmCalendar::Form_Load()
         ImageA[std::size_t(phase == 1 ? 3 : 6 + phase)] = PhaseSymbol(phase);
     ApplyCurrentLocation();
     SetHemispherePictures();
-    const QDate today = Clock::Now().date();
+    const QDate today = PlaceNow().date();
     Calendar& cal = App.Cal;
     cal.CurMonth = std::int16_t(today.month());
     cal.CurYear = std::int16_t(today.year());
@@ -373,7 +376,7 @@ void FrmCalendar::RefreshMonth()
 void FrmCalendar::DrawMonthCells()
 {
     Calendar& cal = App.Cal;
-    const QDate today = Clock::Now().date();
+    const QDate today = PlaceNow().date();
     cal.ComputePrevMonthDays(App.Astro, Here.SouthernHemisphere);
     const auto cells =
         cal.DrawMonth(App.Astro, Here.SouthernHemisphere, today.year(), today.month(), today.day());
@@ -481,7 +484,7 @@ void FrmCalendar::DecMonth_Click()
 void FrmCalendar::CmdNOW_Click()
 {
     const BusyPointer busy;
-    const QDate today = Clock::Now().date();
+    const QDate today = PlaceNow().date();
     App.Cal.CurMonth = std::int16_t(today.month());
     App.Cal.CurYear = std::int16_t(today.year());
     VsbYear->setValue(App.Cal.CurYear);
@@ -509,9 +512,14 @@ void FrmCalendar::VsbHour_Change()
         ComputeSelectedDay();
 }
 
+QDateTime FrmCalendar::PlaceNow() const
+{
+    return App.Astro.Site.Clock.Empty() ? Clock::Now() : Clock::NowIn(App.Astro.Site.Clock.Name);
+}
+
 void FrmCalendar::Timer1_Timer()
 {
-    const QDateTime now = Clock::Now();
+    const QDateTime now = PlaceNow();
     const QDate today = now.date();
     const Calendar& cal = App.Cal;
     if (cal.CurYear != today.year() || cal.CurMonth != today.month() || SelDay != today.day())
@@ -637,11 +645,21 @@ void FrmCalendar::PicM_MouseMove()
 void FrmCalendar::ApplyCurrentLocation()
 {
     Settings& s = App.Config;
-    ApplyLocationValues(s, Here, App.Astro.Site);
-    if (s.TimeFormats == 0 || s.TimeFormats == 1) {
-        DST[0]->setChecked(s.TimeFormats == 0);
-        DST[1]->setChecked(s.TimeFormats == 1);
+    const Location& here = s.Locations[std::size_t(s.CurLoc)];
+    if (here.TzName != HereClock.Name)
+        HereClock = LocationClock(here);
+    const bool unknown = !here.TzName.empty() && HereClock.Empty();
+    if (unknown && std::find(ZonesTold.begin(), ZonesTold.end(), here.TzName) == ZonesTold.end()) {
+        ZonesTold.push_back(here.TzName);
+        App.Messages.MsgBox(Q(UnknownZoneMessage(here)), MsgButtons::OK,
+                            QStringLiteral("Time Zone"), MsgIcon::Exclamation);
     }
+    ApplyLocationValues(s, Here, App.Astro.Site, HereClock);
+    // The menu's items in order; any other stored mode leaves the checks as they are.
+    const std::array<std::int16_t, 3> modes = {DaylightSavingsMode, StandardMode, LocalClockMode};
+    if (std::find(modes.begin(), modes.end(), s.TimeFormats) != modes.end())
+        for (std::size_t i = 0; i < modes.size(); ++i)
+            DST[i]->setChecked(modes[i] == s.TimeFormats);
     Label[15]->setText(HourBarText(VsbHour->value(), s.AmPm()));
     VsbHour->update();
     StatusPanels[0]->setText(Q(Here.CurLocName));
@@ -664,7 +682,7 @@ void FrmCalendar::ApplyCurrentLocation()
 
 void FrmCalendar::DST_Click(int index)
 {
-    App.Config.TimeFormats = static_cast<std::int16_t>(index);
+    App.Config.TimeFormats = index == 2 ? LocalClockMode : static_cast<std::int16_t>(index);
     ApplyCurrentLocation();
     RefreshMonth();
     VsbHour->setValue(NoonMinutes);

@@ -11,6 +11,8 @@
 #include <QPixmap>
 
 #include <array>
+#include <string>
+#include <vector>
 
 struct AppState;
 class DayCellWidget;
@@ -99,7 +101,7 @@ public:
     QAction* ShowList = nullptr;
     FrmPrint* PrintWindow = nullptr; // made on first use
     QAction* mnuexit = nullptr;
-    std::array<QAction*, 2> DST{};
+    std::array<QAction*, 3> DST{}; // "Daylight Savings", "Standard", "Local Clock"
     std::array<QAction*, 2> Mouse{};
     std::array<QAction*, 2> Pangle{};
     std::array<QAction*, 11> DLoc{}; // 1..10
@@ -113,6 +115,8 @@ public:
     std::array<QPixmap, 11> ImageA{};
 
     CurrentLocation Here;
+    ZoneRules HereClock;                // the current location's zone, as last loaded
+    std::vector<std::string> ZonesTold; // unknown zone names already reported
     // Navigation state.
     std::int16_t SelDay = 1;
     std::int16_t SkipRefresh = 0;
@@ -143,6 +147,8 @@ private:
     void ConnectHandlers();
     void DrawMonthCells();
     double CellJD(int cell) const;
+    // Now on the current location's clock under "Local Clock", else on the computer's.
+    QDateTime PlaceNow() const;
     void SelectCell(int index);
     // ComputeSunDay, ComputeDay, DoLabels and the moon picture for SelectedJD.
     void ComputeSelectedDay();

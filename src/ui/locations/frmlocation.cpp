@@ -3,11 +3,13 @@
 #include "db/citydb.h"
 #include "db/qtext.h"
 #include "model/locationrules.h"
+#include "platform/timezones.h"
 #include "ui/common/messageservice.h"
 #include "ui/locations/editdb.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -69,7 +71,7 @@ FrmLocation::FrmLocation(const LocationContext& context, QWidget* parent)
 
 void FrmLocation::BuildControls()
 {
-    setFixedSize(480, 340);
+    setFixedSize(480, 376);
     Caption(this, QStringLiteral("Longitude"), {10, 8, 120, 18});
     Text[0] = Box(this, " Integer Degrees of Longitude ", {10, 30, 44, 24});
     VsbDegLon = DegreeBar(this, MostLongitude, {56, 28, 16, 28});
@@ -111,14 +113,28 @@ void FrmLocation::BuildControls()
     CityNote = Caption(this, {}, {10, 258, 460, 34});
     CityNote->setWordWrap(true);
 
+    Caption(this, QStringLiteral("Local Clock zone"), {10, 300, 120, 26});
+    TzCombo = new QComboBox(this);
+    TzCombo->setObjectName(QStringLiteral("TzCombo"));
+    TzCombo->setGeometry(130, 300, 340, 26);
+    TzCombo->setEditable(true);
+    TzCombo->setInsertPolicy(QComboBox::NoInsert);
+    TzCombo->setToolTip(QStringLiteral(" Type part of a zone (Kolkata, Oslo) or pick one; empty "
+                                       "for the whole-hour zone only "));
+    TzCombo->addItem(QString());
+    for (const std::string& name : ZoneNames())
+        TzCombo->addItem(Q(name));
+    TzCombo->completer()->setFilterMode(Qt::MatchContains);
+    TzCombo->completer()->setCompletionMode(QCompleter::PopupCompletion);
+
     CmdDefault = new QPushButton(QStringLiteral("Make Default"), this);
     CmdDefault->setToolTip(QStringLiteral(" Make Displayed Data the Default "));
-    CmdDefault->setGeometry(10, 300, 120, 30);
+    CmdDefault->setGeometry(10, 336, 120, 30);
     CmdEdit = new QPushButton(QStringLiteral("Edit DB"), this);
-    CmdEdit->setGeometry(140, 300, 120, 30);
+    CmdEdit->setGeometry(140, 336, 120, 30);
     CloseLocation = new QPushButton(QStringLiteral("&Done"), this);
     CloseLocation->setToolTip(QStringLiteral(" Click When Finished "));
-    CloseLocation->setGeometry(350, 300, 120, 30);
+    CloseLocation->setGeometry(350, 336, 120, 30);
 }
 
 void FrmLocation::ConnectHandlers()
@@ -174,6 +190,14 @@ void FrmLocation::SelectTimeZone(int zone)
     List1->setCurrentRow(IsListedTimeZone(zone) ? TimeZoneListPosition(zone) : -1);
 }
 
+void FrmLocation::SelectTzName(const std::string& name)
+{
+    const int row = TzCombo->findText(Q(name));
+    TzCombo->setCurrentIndex(row);
+    if (row < 0)
+        TzCombo->setEditText(Q(name)); // kept as stored, for the user to correct
+}
+
 void FrmLocation::Populate()
 {
     const Location& loc = Current();
@@ -191,6 +215,7 @@ void FrmLocation::Populate()
     SSOption[loc.Longitude < 0 ? 1 : 0]->setChecked(true);
     SSOption[loc.Latitude < 0 ? 3 : 2]->setChecked(true);
     SelectTimeZone(loc.TimeZone);
+    SelectTzName(loc.TzName);
     Text[4]->setText(Q(loc.Name));
     Text[5]->setText(Q(Ctx.Locations[std::size_t(DefaultLocationNumber(Ctx.DefLoc))].Name));
 }
@@ -361,6 +386,7 @@ void FrmLocation::PickCity(const QString& state, const QString& city)
     SSOption[letter("LongChar") == "W" ? 0 : 1]->setChecked(true);
     SSOption[letter("LatChar") == "S" ? 3 : 2]->setChecked(true);
     SelectTimeZone(int(*zone));
+    SelectTzName(Data1.Field(QStringLiteral("TzName")).toString().toStdString());
     Text[4]->setText(place);
 }
 
@@ -392,6 +418,7 @@ void FrmLocation::CloseLocation_Click()
     loc.Longitude = JoinDegrees(VsbDegLon->value(), VsbFracLon->value(), SSOption[1]->isChecked());
     loc.Latitude = JoinDegrees(VsbDegLat->value(), VsbFracLat->value(), SSOption[3]->isChecked());
     loc.TimeZone = ChosenTimeZone;
+    loc.TzName = TzCombo->currentText().trimmed().toStdString();
     loc.Name = Text[4]->text().toStdString();
     accept();
 }

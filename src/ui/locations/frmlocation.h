@@ -73,6 +73,9 @@ public:
     QListWidget* List1 = nullptr;
     std::array<QComboBox*, 2> Combo{}; // State, City
     QLabel* CityNote = nullptr;        // says why the city lists are empty
+    // The location's zone of the tz database, typed with completion or picked from the
+    // system's zones; the empty first entry is none (the whole-hour zone only).
+    QComboBox* TzCombo = nullptr;
     QPushButton* CmdDefault = nullptr;
     QPushButton* CmdEdit = nullptr;
     QPushButton* CloseLocation = nullptr;
@@ -97,6 +100,7 @@ private:
     // the name. The first that cannot is said in a message.
     bool TypedEntriesAreUsable();
     void SelectTimeZone(int zone);
+    void SelectTzName(const std::string& name);
     void ShowCityNote(const QString& text);
     // The state list from the city database; false with the reason shown when it cannot be read.
     bool FillStates();

@@ -38,6 +38,24 @@ TEST(ForecastArguments, DaysWithCoordinatesHourAndFormat)
     EXPECT_EQ(r.Format, OutputFormat::Ics);
 }
 
+// --tz stands beside --zone or in its place; it goes with coordinates, not a stored location.
+TEST(ForecastArguments, TzZoneWithOrWithoutWholeHours)
+{
+    const ForecastRequest r = Parse({"events", "--year", "2025", "--lon", "85.32E", "--lat",
+                                     "27.72N", "--tz", "Asia/Kathmandu"});
+    ASSERT_TRUE(r.AtCoordinates);
+    EXPECT_EQ(r.AtCoordinates->TzName, "Asia/Kathmandu");
+    EXPECT_EQ(r.AtCoordinates->TimeZone, 0); // taken from the zone by the program
+    EXPECT_EQ(Parse({"month", "--lon", "52.71W", "--lat", "47.56N", "--zone", "4", "--tz",
+                     "America/St_Johns"})
+                  .AtCoordinates->TimeZone,
+              4);
+    EXPECT_EQ(Error({"month", "--lon", "52.71W", "--lat", "47.56N"}),
+              "a location by coordinates needs --lon, --lat and --zone or --tz");
+    EXPECT_EQ(Error({"month", "--location", "2", "--tz", "Europe/Oslo"}),
+              "give either --location or --lon/--lat/--zone, not both");
+}
+
 TEST(ForecastArguments, MonthDefaultsToThisMonthAndStoredLocation)
 {
     const ForecastRequest r = Parse({"month"});

@@ -283,6 +283,40 @@ QStringList CatchEntries(const QString& path)
     return rows;
 }
 
+// The log filled on New York's clock against quillmere-forecast's day rows of the same place,
+// day by day: the sunrise text and the moonrise hour (or none), the daylight-saving days included.
+const char* const LogAgainstForecast = R"(
+import csv, io, sqlite3, sys, datetime
+rows = list(csv.DictReader(io.StringIO(sys.stdin.read(), newline='')))
+db = sqlite3.connect(sys.argv[1])
+stored = db.execute('select JulianDate, SunRise, MoonRise from table1 order by JulianDate').fetchall()
+assert len(rows) == len(stored) == 365, (len(rows), len(stored))
+for row, (day, sunrise, moonrise) in zip(rows, stored):
+    assert row['date'] == day, (row['date'], day)
+    clock = datetime.datetime.strptime(row['sunrise_text'], '%I:%M %p').strftime('%H:%M:00')
+    assert sunrise == clock, (day, sunrise, clock)
+    if row['moonrise'] == '':
+        assert moonrise == -1, (day, moonrise)
+    else:
+        assert abs(float(row['moonrise']) - moonrise) < 1e-6, (day, row['moonrise'], moonrise)
+assert {r['utc_offset_minutes'] for r in rows} == {'-300', '-240'}
+)";
+
+TEST(LogCommand, LocalClockYearAgreesWithTheForecastsDayRows)
+{
+    const QString home = testenv::FreshDir("log-local-clock");
+    const QStringList place = {"--lon", "74.01W", "--lat", "40.71N", "--tz", "America/New_York"};
+    const LogRun created = RunLog(home, QStringList{"create", "--year", "2025"} + place);
+    ASSERT_EQ(created.Status, 0) << created.Err.toStdString();
+    QProcess forecast;
+    forecast.start(QStringLiteral(QUILLMERE_FORECAST),
+                   QStringList{"days", "--from", "2025-01-01", "--days", "365", "--format", "csv"} +
+                       place);
+    ASSERT_TRUE(forecast.waitForFinished(120000));
+    const QString rows = QString::fromUtf8(forecast.readAllStandardOutput());
+    EXPECT_EQ(PythonCheck(LogAgainstForecast, rows, {QDir(home).filePath("2025.mdb")}), "");
+}
+
 QString CreatedYear(const QString& folderName)
 {
     const QString home = testenv::FreshDir(folderName);

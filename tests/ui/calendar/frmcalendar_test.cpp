@@ -40,7 +40,8 @@ TEST_F(Window, OpensOnTodayAtNoon)
     EXPECT_NEAR(App.Astro.Site.HourInstant, 0.5 + 0.25, 1e-12);
     EXPECT_EQ(W->txtpic[14]->Shown().Number, "10");
     EXPECT_FALSE(W->txtpic[0]->isEnabled());
-    EXPECT_EQ(W->txtpic[14]->toolTip(), " Moon at Perigee ");
+    // Chicago's clocks went forward that day ("Local Clock" is the first-start mode).
+    EXPECT_EQ(W->txtpic[14]->toolTip(), " Daylight Saving's Time Starts  Moon at Perigee ");
     EXPECT_EQ(W->txtpic[5 + 30]->toolTip(), " Easter Sunday ");
 }
 
@@ -146,10 +147,11 @@ TEST_F(Window, DayCounterOfTheLastDayOfALeapYear)
     EXPECT_EQ(Text(3), "Day  366   0 days remain");
 }
 
-// The hour bar follows the clock while today is selected, and stays put on another day.
+// The hour bar follows the place's clock while today is selected, and stays put on another
+// day: 21:20 UT is 16:20 in Alexandria, LA on daylight time, whatever the computer's zone.
 TEST_F(Window, TimerKeepsTodayOnTheClock)
 {
-    qputenv("QUILLMERE_NOW", "2024-03-10T16:20:40");
+    qputenv("QUILLMERE_NOW", "2024-03-10T21:20:40Z");
     W->Timer1_Timer();
     EXPECT_EQ(W->VsbHour->value(), 16 * 60 + 20);
     W->Mouse_Click(1);
@@ -251,11 +253,15 @@ TEST_F(Window, UnknownTimeFormatLeavesTheMenuChecks)
 
 TEST_F(Window, DaylightSavingMovesTheTimesOneHour)
 {
+    const std::string local = Text(14); // 10 March 2024: on daylight time from 2 AM
+    W->DST_Click(1);
     const std::string standard = Text(14);
+    EXPECT_NE(local, standard);
     W->DST_Click(0);
     EXPECT_TRUE(W->DST[0]->isChecked());
     EXPECT_NE(Text(14), standard);
     EXPECT_NE(W->Here.LocationCaption.find("Time=DST"), std::string::npos);
+    EXPECT_EQ(Text(14), local);
     W->DST_Click(1);
     EXPECT_EQ(Text(14), standard);
 }
@@ -272,6 +278,11 @@ TEST_F(Window, LocationMenusAndStatusBarCaption)
     EXPECT_TRUE(W->Loc[4]->text().endsWith("  [Def]"));
     for (int i : {1, 2, 3, 5, 10})
         EXPECT_FALSE(W->DLoc[std::size_t(i)]->text().contains("[Def]")) << i;
+    W->StatusBar1_MouseMove(1000);
+    EXPECT_EQ(W->StatusBar1->toolTip(), "Alexandria, LA  Long=92.42 W Lat=31.25 N "
+                                        "TimeZone=America/Chicago  Time=LOCAL "
+                                        "Hemisphere=Northern ");
+    W->DST_Click(1);
     W->StatusBar1_MouseMove(1000);
     EXPECT_EQ(W->StatusBar1->toolTip(), "Alexandria, LA  Long=92.42 W Lat=31.25 N TimeZone= 6 "
                                         " Time=STD Hemisphere=Northern ");
@@ -300,5 +311,27 @@ TEST_F(Window, SavesScreenshots)
     W->VsbHour->setValue(19 * 60); // an evening waxing crescent, turned as in the sky
     EXPECT_TRUE(W->ToPict->isVisible());
     EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-southern.png"));
+}
+
+// With Sydney chosen the hour bar follows Sydney's clock (07:30 UT is 18:30 there on 10 March
+// 2024, daylight time); Kolkata's clock is 5:30 ahead of UT. Screenshots of both.
+TEST_F(Window, TheChosenPlacesClockAndItsScreenshots)
+{
+    qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00Z");
+    const QString dir = QStringLiteral(QUILLMERE_SCREENSHOTS);
+    App.Config.Locations[6] = {"Sydney, Australia", -151.21, -33.87, -10, "Australia/Sydney"};
+    App.Config.Locations[7] = {"Kolkata, India", -88.36, 22.57, -6, "Asia/Kolkata"};
+    W->DLoc_Click(6);
+    W->CmdNOW_Click();
+    W->Timer1_Timer();
+    EXPECT_EQ(W->VsbHour->value(), 18 * 60 + 30);
+    EXPECT_EQ(W->SelDay, 10);
+    EXPECT_NE(W->Here.LocationCaption.find("TimeZone=Australia/Sydney"), std::string::npos);
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-sydney.png"));
+    W->DLoc_Click(7);
+    W->CmdNOW_Click();
+    W->Timer1_Timer();
+    EXPECT_EQ(W->VsbHour->value(), 13 * 60);
+    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-kolkata.png"));
 }
 } // namespace

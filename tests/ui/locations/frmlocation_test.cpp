@@ -19,6 +19,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 struct Editor {
@@ -99,6 +101,7 @@ TEST(FrmLocation, StateFillsCitiesInOrderAndACityFillsEveryField)
     EXPECT_TRUE(e.W->SSOption[1]->isChecked()); // E
     EXPECT_TRUE(e.W->SSOption[3]->isChecked()); // S
     EXPECT_EQ(e.Zone(), "+10");
+    EXPECT_EQ(e.W->TzCombo->currentText(), "Australia/Sydney"); // the city's own zone
     EXPECT_EQ(e.Text(4), "Sydney, Australia");
     EXPECT_EQ(e.Locations[3].Name, "Somewhere"); // nothing stored before "&Done"
     EXPECT_EQ(e.Locations[3].TimeZone, 6);
@@ -107,6 +110,7 @@ TEST(FrmLocation, StateFillsCitiesInOrderAndACityFillsEveryField)
     EXPECT_DOUBLE_EQ(e.Locations[3].Latitude, -33.87);
     EXPECT_EQ(e.Locations[3].TimeZone, -10);
     EXPECT_EQ(e.Locations[3].Name, "Sydney, Australia");
+    EXPECT_EQ(e.Locations[3].TzName, "Australia/Sydney");
 }
 
 TEST(FrmLocation, NamesWithAQuoteArePickedLikeAnyOther)
@@ -226,4 +230,13 @@ TEST(FrmLocation, Screenshot)
     e.Pick(0, "LA");
     e.Pick(1, "Alexandria");
     EXPECT_TRUE(e.W->grab().save(QStringLiteral(QUILLMERE_SCREENSHOTS "/frmlocation.png")));
+    // A zone of minutes and a southern one, each with its own clock's zone.
+    for (const auto& [state, city, file] :
+         {std::tuple{"India", "Kolkata", "frmlocation_kolkata.png"},
+          {"Australia", "Sydney", "frmlocation_sydney.png"}}) {
+        e.Pick(0, state);
+        e.Pick(1, city);
+        EXPECT_TRUE(e.W->grab().save(QStringLiteral(QUILLMERE_SCREENSHOTS "/") + file));
+    }
+    EXPECT_EQ(e.W->TzCombo->currentText(), "Australia/Sydney");
 }
