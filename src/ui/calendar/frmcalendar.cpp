@@ -53,8 +53,6 @@ QString HourBarText(int minutes, bool ampm)
     return Q(FormatClock(0, MinutesToHours(minutes), ampm));
 }
 
-QColor Colour(std::uint32_t bbggrr) { return VbColor(std::int32_t(bbggrr)); }
-
 // The weekday header: its text spaces the names for the grid, and it paints each name
 // centred over its column whatever the font.
 class WeekdayHeader : public QLabel {
@@ -383,8 +381,8 @@ void FrmCalendar::DrawMonthCells()
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const DayCell& c = cells[i];
         DayCellWidget::Content content;
-        content.Background = Colour(c.Background);
-        content.TextColor = Colour(c.TextColor);
+        content.Background = VbColor(c.Background);
+        content.TextColor = VbColor(c.TextColor);
         content.Number = QString::number(c.Number);
         content.Marks = c.Marks;
         content.Enabled = c.Enabled;
@@ -417,7 +415,7 @@ void FrmCalendar::DoLabels()
         Label[std::size_t(i)]->setText(Q(text));
     for (const auto& [i, colour] : Panel.Colors) {
         QPalette palette = Label[std::size_t(i)]->palette();
-        palette.setColor(QPalette::WindowText, Colour(colour));
+        palette.setColor(QPalette::WindowText, VbColor(colour));
         Label[std::size_t(i)]->setPalette(palette);
     }
 }
