@@ -2,8 +2,9 @@
 """Checks a year of daysky_dump output at one place against PyEphem (python3-ephem).
 
   --sky S M     Sun within S degrees and Moon within M degrees of ephem, in azimuth and altitude,
-                at every dumped hour. Both without refraction; the Moon geocentric, as the
-                program uses it (ephem's apparent geocentric place turned to the horizon).
+                at every dumped hour. Both without refraction; the Moon's azimuth from its
+                apparent geocentric place turned to the horizon, its altitude as seen from the
+                place (ephem's topocentric one), as the program shows them.
   --events M    every moonrise, moon transit and moonset that ephem finds in the local day is
                 there (status 0) and within M minutes.
   --azimuth D   sunrise/sunset and moonrise/moonset azimuths within D degrees of ephem's.
@@ -69,9 +70,9 @@ def check_sky(rows, args, check):
         check.measure('sun azimuth', angle_diff(saz, math.degrees(sun.az)) * math.cos(math.radians(salt)),
                       args.sky[0], where)
         check.measure('sun altitude', abs(salt - math.degrees(sun.alt)), args.sky[0], where)
-        eaz, ealt = horizon_of(moon.g_ra, moon.g_dec, lst, args.lat)
+        eaz, _ = horizon_of(moon.g_ra, moon.g_dec, lst, args.lat)
         check.measure('moon azimuth', angle_diff(maz, eaz) * math.cos(math.radians(malt)), args.sky[1], where)
-        check.measure('moon altitude', abs(malt - ealt), args.sky[1], where)
+        check.measure('moon altitude', abs(malt - math.degrees(moon.alt)), args.sky[1], where)
 
 
 def next_event(o, body, kind, start):

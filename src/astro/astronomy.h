@@ -173,7 +173,14 @@ private:
     RiseTransitSet InLocalClock(double J0, RiseTransitSet e) const;
     double ChosenInstant(double jd) const;
     EventSearch MoonSearch(double J0);
-    void SettleMoonEventsAtMidnight(double J0, RiseTransitSet& today);
+    EventSearch LowerTransitSearch(double J0);
+    using SearchOfDay = EventSearch (Astronomy::*)(double J0);
+    void SettleMoonEventsAtMidnight(double J0, RiseTransitSet& today, SearchOfDay search);
+    SkyPoint SunSeenAt(double t);
+    SkyPoint MoonSeenAt(double t);
+    void SettleGrazing(const EventSearch& s, RiseTransitSet& e, const SkyAt& sky, double h0,
+                       std::vector<SkyPoint>& track, const std::vector<double>& instants,
+                       double from, double to);
     std::string Clock(double hours) const;
 
     // Local hour angle and latitude shared by the horizon and parallactic conversions.
@@ -187,6 +194,11 @@ private:
 
 // The Earth's distance from the Sun in astronomical units (VSOP87 R series, Meeus ch. 32).
 double EarthSunDistance(double jde);
+
+// The altitude of a body as seen from the place, from its altitude h at the Earth's centre and
+// its horizontal parallax (Meeus ch. 40, on a spherical Earth): the Moon's stands up to a
+// degree lower. The Moon's rise and set are taken on it.
+double TopocentricAltitude(double h, double parallax);
 
 // 100 x the illuminated fraction, halves rounded to even.
 std::int16_t IllumPercentOf(double fraction);

@@ -63,7 +63,7 @@ void Astronomy::ComputeDay(double jd)
     const double t = Site.TimeFormats == 2 ? now - 15.0 / 1440.0 : now;
     const Horizontal sky = HorizontalPosition(t, alpha, delta, Site.CurLatitude, Site.CurLongitude);
     f.SkyPosition.MoonAzimuth = sky.Azimuth;
-    f.SkyPosition.MoonAltitude = sky.Altitude;
+    f.SkyPosition.MoonAltitude = TopocentricAltitude(sky.Altitude, moon.Parallax);
     f.MoonParallacticAngle =
         ParallacticAngleNow(now, alpha, delta, Site.CurLatitude, Site.CurLongitude);
 }
@@ -104,6 +104,11 @@ double Astronomy::ChosenInstant(double jd) const
 }
 
 std::string Astronomy::Clock(double hours) const { return FormatClock(0, hours, Site.AMPM); }
+
+double TopocentricAltitude(double h, double parallax)
+{
+    return std::atan2(std::sin(h) - std::sin(parallax), std::cos(h));
+}
 
 std::int16_t IllumPercentOf(double fraction)
 {

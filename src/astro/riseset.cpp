@@ -144,3 +144,102 @@ RiseTransitSet Astronomy::FindEvents(const EventSearch& s)
     found.SetFlag = Flag(set);
     return found;
 }
+
+namespace {
+// The altitude is sampled every two hours: it turns twice a day (at the transits), so a turn
+// shows among the samples as one that stands above or below both neighbours.
+constexpr double SampleStep = 1.0 / 12.0;
+// A turn is located to a minute: the altitude there is flat to a fraction of an arcsecond.
+constexpr double TurnTolerance = 1.0 / 1440.0;
+// A crossing is refined to a tenth of a millisecond, or until the altitude is met to 1e-12.
+constexpr double CrossingTolerance = 1e-9;
+constexpr double AltitudeTolerance = 1e-12;
+constexpr int MaxCrossingSteps = 60;
+const double GoldenRatio = (std::sqrt(5.0) - 1.0) / 2.0;
+
+// The highest (sign 1) or lowest (sign -1) point of the altitude in [a, b], by golden section.
+SkyPoint TurnBetween(const SkyAt& sky, double a, double b, double sign)
+{
+    double c = b - GoldenRatio * (b - a), d = a + GoldenRatio * (b - a);
+    SkyPoint pc = sky(c), pd = sky(d);
+    while (b - a > TurnTolerance) {
+        if (sign * pc.Altitude > sign * pd.Altitude) {
+            b = d;
+            d = c;
+            pd = pc;
+            c = b - GoldenRatio * (b - a);
+            pc = sky(c);
+        } else {
+            a = c;
+            c = d;
+            pc = pd;
+            d = a + GoldenRatio * (b - a);
+            pd = sky(d);
+        }
+    }
+    return sign * pc.Altitude > sign * pd.Altitude ? pc : pd;
+}
+
+// The crossing of h0 between a and b, which lie either side of it: regula falsi with the
+// Illinois step, which keeps the bracket shrinking from both ends.
+SkyPoint CrossingBetween(const SkyAt& sky, double h0, SkyPoint a, SkyPoint b)
+{
+    double fa = a.Altitude - h0, fb = b.Altitude - h0;
+    int kept = 0; // which end stayed in the last step: -1 a, 1 b
+    SkyPoint c = std::fabs(fa) < std::fabs(fb) ? a : b;
+    for (int step = 0; step < MaxCrossingSteps && b.JD - a.JD > CrossingTolerance; ++step) {
+        c = sky((a.JD * fb - b.JD * fa) / (fb - fa));
+        const double fc = c.Altitude - h0;
+        if (std::fabs(fc) < AltitudeTolerance)
+            break;
+        if ((fc > 0.0) == (fb > 0.0)) {
+            b = c;
+            fb = fc;
+            if (kept == -1)
+                fa /= 2.0;
+            kept = -1;
+        } else {
+            a = c;
+            fa = fc;
+            if (kept == 1)
+                fb /= 2.0;
+            kept = 1;
+        }
+    }
+    return c;
+}
+} // namespace
+
+std::vector<SkyPoint> TrackAltitude(const SkyAt& sky, double from, double to,
+                                    const std::vector<double>& instants)
+{
+    std::vector<SkyPoint> samples;
+    for (double t = from - SampleStep; t < to + 2.0 * SampleStep; t += SampleStep)
+        samples.push_back(sky(t));
+    std::vector<SkyPoint> track = samples;
+    for (std::size_t i = 1; i + 1 < samples.size(); ++i) {
+        const double rise = samples[i].Altitude - samples[i - 1].Altitude;
+        const double next = samples[i + 1].Altitude - samples[i].Altitude;
+        if (rise * next < 0.0)
+            track.push_back(
+                TurnBetween(sky, samples[i - 1].JD, samples[i + 1].JD, rise > 0.0 ? 1.0 : -1.0));
+    }
+    for (double t : instants)
+        track.push_back(sky(t));
+    std::sort(track.begin(), track.end(),
+              [](const SkyPoint& p, const SkyPoint& q) { return p.JD < q.JD; });
+    return track;
+}
+
+std::vector<AltitudeCrossing> CrossingsOf(const std::vector<SkyPoint>& track, const SkyAt& sky,
+                                          double h0, double from, double to)
+{
+    std::vector<AltitudeCrossing> found;
+    for (std::size_t i = 1; i < track.size(); ++i) {
+        const SkyPoint &p = track[i - 1], &q = track[i];
+        if (p.JD < from || q.JD > to || (p.Altitude > h0) == (q.Altitude > h0))
+            continue;
+        found.push_back({CrossingBetween(sky, h0, p, q), q.Altitude > h0});
+    }
+    return found;
+}

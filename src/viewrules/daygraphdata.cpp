@@ -178,6 +178,6 @@ SkyReadout GetPicData(Astronomy& engine, double jd)
     const MoonPlace moon = engine.MoonPosition(ut);
     h = engine.HorizontalPosition(ut, moon.Alpha, moon.Delta, o.CurLatitude, o.CurLongitude);
     r.MoonAzimuth = h.Azimuth * RadToDeg;
-    r.MoonElevation = h.Altitude * RadToDeg;
+    r.MoonElevation = TopocentricAltitude(h.Altitude, moon.Parallax) * RadToDeg;
     return r;
 }

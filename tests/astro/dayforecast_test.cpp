@@ -222,3 +222,45 @@ TEST(RiseSet, EventAtMidnightIsReportedOnce)
         EXPECT_EQ(reported, 1) << lat;
     }
 }
+
+// Days on which a body grazes its altitude near the poles, with the events PyEphem's sampled
+// altitudes give (minutes of the local clock; -1 none that day): the Moon stays up, rises and
+// sets hours apart, and the Sun misses or just makes the horizon.
+TEST(RiseSet, GrazingBodiesNearThePoles)
+{
+    struct Case {
+        const char* Where;
+        double LonWest, LatNorth;
+        int Zone, Year, Month, Day;
+        bool Moon;
+        HorizonState State;
+        int Rise, Set;
+    };
+    const Case cases[] = {
+        {"Rovaniemi", -25.73, 66.5, -2, 2025, 10, 2, true, HorizonState::Crosses, 18 * 60 + 28,
+         22 * 60 + 55},
+        {"Tromso", -18.96, 69.65, -1, 2026, 11, 23, true, HorizonState::StaysAbove, -1, -1},
+        {"Longyearbyen", -15.65, 78.22, -1, 2025, 1, 17, true, HorizonState::Crosses, 18 * 60 + 16,
+         12 * 60 + 26},
+        {"Tromso", -18.96, 69.65, -1, 2025, 11, 27, false, HorizonState::StaysBelow, -1, -1},
+        {"Inuvik", 133.72, 68.36, 7, 2025, 5, 24, false, HorizonState::StaysAbove, -1, -1},
+        {"Inuvik", 133.72, 68.36, 7, 2025, 1, 6, false, HorizonState::Crosses, 13 * 60 + 39,
+         14 * 60 + 24},
+    };
+    for (const Case& c : cases) {
+        Astronomy a = At(c.LonWest, c.LatNorth, c.Zone);
+        const double jd = CivilToJd(c.Year, c.Month, c.Day);
+        a.SunEventsForDay(jd);
+        a.MoonEventsForDay(jd);
+        const RiseTransitSet& e = c.Moon ? a.Forecast.MoonEvents : a.Forecast.SunEvents.Horizon;
+        SCOPED_TRACE(c.Where + std::to_string(c.Month) + "/" + std::to_string(c.Day));
+        EXPECT_EQ(e.AboveHorizonState, c.State);
+        for (auto [want, time, flag] : {std::tuple{c.Rise, e.RiseTime, e.RiseFlag},
+                                        std::tuple{c.Set, e.SetTime, e.SetFlag}}) {
+            EXPECT_EQ(flag == EventFlag::InDay && c.State == HorizonState::Crosses, want >= 0);
+            if (want >= 0) {
+                EXPECT_NEAR(time * 60.0, want, 1.0);
+            }
+        }
+    }
+}

@@ -181,7 +181,8 @@ TEST(DayGraph, PerigeeAndApogeeDaysNameTheirTimes)
 }
 
 // Where the Sun and the Moon stand at the pointer's moment, against PyEphem 4.1.4 (no
-// refraction; the Moon's geocentric direction as the program draws it), within half a degree:
+// refraction; the Moon as seen from the place, up to a degree lower than from the Earth's
+// centre), within half a degree:
 // 07:30 AM at Alexandria in standard time, and 9 PM with daylight saving (02:00 UT next day).
 TEST(DayGraph, SkyAtThePointerAgreesWithEphem)
 {
@@ -190,14 +191,14 @@ TEST(DayGraph, SkyAtThePointerAgreesWithEphem)
     EXPECT_NEAR(r.SunAzimuth, 78.233, 0.5);
     EXPECT_NEAR(r.SunElevation, 28.040, 0.5);
     EXPECT_NEAR(r.MoonAzimuth, 263.327, 0.5);
-    EXPECT_NEAR(r.MoonElevation, -46.475, 0.5);
+    EXPECT_NEAR(r.MoonElevation, -47.123, 0.5);
 
     engine.Site.DstOffsetDays = -1.0 / 24.0;
     r = GetPicData(engine, CivilToJd(2024, 6, 20) + 21.0 / 24.0);
     EXPECT_NEAR(r.SunAzimuth, 304.300, 0.5);
     EXPECT_NEAR(r.SunElevation, -8.701, 0.5);
     EXPECT_NEAR(r.MoonAzimuth, 135.876, 0.5);
-    EXPECT_NEAR(r.MoonElevation, 14.752, 0.5);
+    EXPECT_NEAR(r.MoonElevation, 13.834, 0.5);
 
     // The same moment as the day forecast's sky at the hour bar's 9 PM.
     engine.Site.HourInstant = 21.0 / 24.0 + engine.Site.ZoneDays;

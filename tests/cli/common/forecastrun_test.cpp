@@ -161,7 +161,9 @@ TEST(ForecastRun, EventsThatDoNotHappenSayWhy)
 
 // With daylight saving the twilights are those of the clock's own day: Oslo (zone -1) on
 // summer time keeps the clock of zone -2 on standard time, so every event must be the same,
-// also the dusks that cross midnight there in summer.
+// also the dusks that cross midnight there in summer. Where the Sun grazes a twilight's
+// altitude the day is searched on its altitude, sampled from the day's start: the two clocks
+// then agree to a few milliseconds, not to the last bit.
 TEST(ForecastRun, DaylightSavingTwilightsBelongToTheClocksDay)
 {
     ForecastRun summer(Place(-10.75, 59.91, -1, -1.0 / 24.0)), east(Place(-10.75, 59.91, -2));
@@ -173,7 +175,7 @@ TEST(ForecastRun, DaylightSavingTwilightsBelongToTheClocksDay)
         for (const auto member : {&DayRow::CivilDawn, &DayRow::CivilDusk, &DayRow::NauticalDawn,
                                   &DayRow::NauticalDusk, &DayRow::AstronomicalDusk}) {
             EXPECT_EQ((a.*member).Status, (b.*member).Status) << day.Month << "/" << day.Day;
-            EXPECT_NEAR((a.*member).Hours.value_or(-1), (b.*member).Hours.value_or(-1), 1e-9)
+            EXPECT_NEAR((a.*member).Hours.value_or(-1), (b.*member).Hours.value_or(-1), 1e-6)
                 << day.Month << "/" << day.Day;
             afterMidnight += (a.*member).Hours.value_or(24) < 1.0;
         }
