@@ -214,8 +214,10 @@ std::vector<SkyPoint> TrackAltitude(const SkyAt& sky, double from, double to,
                                     const std::vector<double>& instants)
 {
     std::vector<SkyPoint> samples;
-    for (double t = from - SampleStep; t < to + 2.0 * SampleStep; t += SampleStep)
-        samples.push_back(sky(t));
+    // Whole steps from one before the day to two past it, counted so that no sum drifts.
+    const double first = from - SampleStep;
+    for (int i = 0; first + i * SampleStep < to + 2.0 * SampleStep; ++i)
+        samples.push_back(sky(first + i * SampleStep));
     std::vector<SkyPoint> track = samples;
     for (std::size_t i = 1; i + 1 < samples.size(); ++i) {
         const double rise = samples[i].Altitude - samples[i - 1].Altitude;
