@@ -29,19 +29,19 @@ done
 # nothing of the tests or benchmarks.
 dpkg-deb -c "$deb" | awk '{print $6}' >"$work/contents"
 id=io.github.quillmere.Quillmere
-for path in bin/quillmere bin/quillmere-forecast bin/quillmere-log share/man/man1/quillmere.1 \
-            share/man/man1/quillmere-forecast.1 share/man/man1/quillmere-log.1 \
+for path in bin/quillmere bin/quillmere-forecast bin/quillmere-log share/man/man1/quillmere.1.gz \
+            share/man/man1/quillmere-forecast.1.gz share/man/man1/quillmere-log.1.gz \
             share/bash-completion/completions/quillmere-forecast \
             share/bash-completion/completions/quillmere-log share/applications/$id.desktop \
             share/metainfo/$id.metainfo.xml share/icons/hicolor/256x256/apps/$id.png \
             share/quillmere/seed/Encdb.MDB share/quillmere/default_schema.sql \
-            share/doc/quillmere/copyright; do
+            share/doc/quillmere/copyright share/doc/quillmere/changelog.gz; do
   grep -qx "./usr/$path" "$work/contents" || fail "the package lacks /usr/$path"
 done
 ! grep -E 'test_|bench_|gtest|/include/' "$work/contents" || fail "test or build files in the package"
 
 if command -v lintian >/dev/null; then
-  lintian --no-tag-display-limit "$deb" >"$work/lintian" 2>&1 || true
+  lintian --tag-display-limit 0 "$deb" >"$work/lintian" 2>&1 || true
   cat "$work/lintian"
   ! grep -q '^E:' "$work/lintian" || fail "lintian reports errors"
 fi
