@@ -3,15 +3,17 @@
 # there: programs, launcher, icons of the sizes their folders name, software-centre entry,
 # help and data; the launcher and the entry pass the desktop's own validators when those are
 # installed; and the installed program, moved elsewhere, starts and seeds its folder from the
-# data installed beside it.  Usage: install_test.sh BUILD_DIR
+# data installed beside it; an uninstall then removes every file the install put there.
+# Usage: install_test.sh BUILD_DIR SOURCE_DIR
 set -eu
 build=$1
+install_tree=$2/tools/install-tree.sh
 id=io.github.quillmere.Quillmere
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 fail() { echo "FAIL: $*" >&2; exit 1; }
 
-cmake --install "$build" --prefix "$work/prefix" >/dev/null
+sh "$install_tree" install "$build" "$work/prefix" >/dev/null
 share=$work/prefix/share
 for f in bin/quillmere bin/quillmere-forecast bin/quillmere-log share/applications/$id.desktop \
          share/metainfo/$id.metainfo.xml share/icons/hicolor/scalable/apps/$id.svg \
@@ -39,8 +41,8 @@ if command -v desktop-file-validate >/dev/null; then
   desktop-file-validate "$share/applications/$id.desktop" || fail "desktop-file-validate"
 fi
 if command -v appstreamcli >/dev/null; then
-  appstreamcli validate --no-net "$share/metainfo/$id.metainfo.xml" >/dev/null ||
-    fail "appstreamcli validate"
+  appstreamcli validate --pedantic --no-net "$share/metainfo/$id.metainfo.xml" >/dev/null ||
+    fail "appstreamcli validate --pedantic"
 fi
 
 # Moved elsewhere, the program still finds its data: a mark put into the installed help must
@@ -57,4 +59,11 @@ env -u QUILLMERE_DATA -u QUILLMERE_HOME HOME="$work/home" XDG_CONFIG_HOME="$work
 help=$work/home/data/Quillmere/Quillmere.html
 [ -f "$help" ] || fail "the program folder was not seeded"
 grep -q "installed copy" "$help" || fail "the help came from elsewhere than the installed data"
-echo "installed and started from $work/moved"
+
+# What the install put there goes; the menu's and icon theme's caches, which the desktop's
+# tools keep for every program of the prefix, stay.
+sh "$install_tree" uninstall "$work/moved"
+left=$(find "$work/moved" -type f ! -name mimeinfo.cache ! -name icon-theme.cache)
+[ -z "$left" ] || fail "left after the uninstall: $left"
+[ ! -e "$work/moved/share/quillmere" ] || fail "share/quillmere is left after the uninstall"
+echo "installed, started from $work/moved and uninstalled"

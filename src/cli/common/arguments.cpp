@@ -21,7 +21,7 @@ Usage:
   quillmere-forecast month [--year YYYY --month M] [LOCATION] [--dst] [--pdf FILE]
   quillmere-forecast calendar --year YYYY --month M [LOCATION] [--dst] --pdf FILE
   quillmere-forecast glance --year YYYY --month M [LOCATION] --pdf FILE
-  quillmere-forecast --version
+  quillmere-forecast --version | -V
 
 Commands:
   days     one line (or record) per day from --from on, --days of them (default 1, at most
@@ -53,7 +53,7 @@ Options:
                    majors as 2-hour and minors as 70-minute events)
   --pdf FILE       write the printed page(s) as a PDF file instead of text
   --help           this text
-  --version        the program's version
+  --version, -V    the program's version
 
 Years run from 1900 to 2500. Bad input prints one line on stderr and exits with status 2.
 
@@ -306,10 +306,10 @@ std::optional<double> ParseCoordinate(const std::string& text, char positive, ch
 ParsedArguments ParseArguments(const std::vector<std::string>& args, int todayYear, int todayMonth)
 {
     if (args.empty())
-        return UsageError{"no command given: days, events or month (see --help)"};
+        return UsageError{"no command given: days, events, month, calendar or glance (see --help)"};
     if (args[0] == "--help" || args[0] == "-h" || args[0] == "help")
         return HelpRequested{};
-    if (args.size() == 1 && args[0] == "--version")
+    if (args.size() == 1 && (args[0] == "--version" || args[0] == "-V"))
         return VersionRequested{};
     ForecastRequest r;
     static const std::map<std::string, Command> commands = {{"days", Command::Days},

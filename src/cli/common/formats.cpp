@@ -197,53 +197,62 @@ std::string RatingName(int rating)
     return rating >= 1 && rating <= 4 ? names[std::size_t(rating)] : "";
 }
 
-std::string DaysAsJson(const std::vector<DayRow>& rows)
+DaysLayout JsonDays()
 {
-    std::string out = "[";
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        out += i ? ",\n {" : "\n {";
-        bool first = true;
-        for (const auto& [key, value] : Fields()) {
-            out += (first ? "\"" : ", \"") + std::string(key) + "\": " + value(rows[i]);
-            first = false;
-        }
-        out += "}";
-    }
-    return out + (rows.empty() ? "]\n" : "\n]\n");
+    return {"[",
+            [](const DayRow& row, std::size_t index) {
+                std::string out = index ? ",\n {" : "\n {";
+                bool first = true;
+                for (const auto& [key, value] : Fields()) {
+                    out += (first ? "\"" : ", \"") + std::string(key) + "\": " + value(row);
+                    first = false;
+                }
+                return out + "}";
+            },
+            [](std::size_t count) { return count == 0 ? "]\n" : "\n]\n"; }};
 }
 
-std::string DaysAsCsv(const std::vector<DayRow>& rows)
+DaysLayout CsvDays()
 {
-    std::string out;
+    std::string head;
     for (const auto& [key, value] : Fields())
-        out += (out.empty() ? "" : ",") + std::string(key);
-    out += "\n";
-    for (const DayRow& r : rows) {
-        std::string line;
-        for (const auto& [key, value] : Fields())
-            line += (&key == &Fields().front().first ? "" : ",") + CsvCell(value(r));
-        out += line + "\n";
-    }
-    return out;
+        head += (head.empty() ? "" : ",") + std::string(key);
+    return {head + "\n",
+            [](const DayRow& row, std::size_t) {
+                std::string line;
+                for (const auto& [key, value] : Fields())
+                    line += (&key == &Fields().front().first ? "" : ",") + CsvCell(value(row));
+                return line + "\n";
+            },
+            [](std::size_t) { return std::string(); }};
 }
 
-std::string DaysAsText(const std::vector<DayRow>& rows, const std::string& locationCaption)
+DaysLayout TextDays(const std::string& locationCaption)
 {
-    std::string out = locationCaption + "\n\n";
-    out += "Date        Rating  Sunrise Sunset  Moonrise Transit Moonset  Major1  Major2  "
-           "Minor1  Minor2  Moon  Events\n";
-    for (const DayRow& r : rows) {
-        char line[200];
-        std::snprintf(
-            line, sizeof line, "%s  %-6s  %s   %s   %s    %s   %s    %s   %s   %s   %s   %3d%%  ",
-            Date(r.Year, r.Month, r.Day).c_str(), RatingName(r.Rating).c_str(),
-            Clock24(r.Sunrise).c_str(), Clock24(r.Sunset).c_str(), Clock24(r.Moonrise).c_str(),
-            Clock24(r.MoonTransit).c_str(), Clock24(r.Moonset).c_str(), Clock24(r.Major1).c_str(),
-            Clock24(r.Major2).c_str(), Clock24(r.Minor1).c_str(), Clock24(r.Minor2).c_str(),
-            r.IllumPercent);
-        out += line + Trimmed(r.Text) + "\n";
-    }
-    return out;
+    return {locationCaption + "\n\n" +
+                "Date        Rating  Sunrise Sunset  Moonrise Transit Moonset  Major1  Major2  "
+                "Minor1  Minor2  Moon  Events\n",
+            [](const DayRow& r, std::size_t) {
+                char line[200];
+                std::snprintf(line, sizeof line,
+                              "%s  %-6s  %s   %s   %s    %s   %s    %s   %s   %s   %s   %3d%%  ",
+                              Date(r.Year, r.Month, r.Day).c_str(), RatingName(r.Rating).c_str(),
+                              Clock24(r.Sunrise).c_str(), Clock24(r.Sunset).c_str(),
+                              Clock24(r.Moonrise).c_str(), Clock24(r.MoonTransit).c_str(),
+                              Clock24(r.Moonset).c_str(), Clock24(r.Major1).c_str(),
+                              Clock24(r.Major2).c_str(), Clock24(r.Minor1).c_str(),
+                              Clock24(r.Minor2).c_str(), r.IllumPercent);
+                return line + Trimmed(r.Text) + "\n";
+            },
+            [](std::size_t) { return std::string(); }};
+}
+
+std::string AllDays(const DaysLayout& layout, const std::vector<DayRow>& rows)
+{
+    std::string out = layout.Head;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        out += layout.Row(rows[i], i);
+    return out + layout.Tail(rows.size());
 }
 
 namespace {
@@ -322,34 +331,38 @@ std::string TimedEvent(const DayRow& r, const std::string& what, double centre,
            IcsLine("TRANSP:TRANSPARENT") + IcsLine("END:VEVENT");
 }
 
+// A day's events: the rating as an all-day event, then the periods that happen in the day
+// (one Major event per real transit).
+std::string IcsDay(const DayRow& r, const IcsPlace& place, const std::string& stamp)
+{
+    std::string out;
+    if (r.Rating >= 1) {
+        char compact[9];
+        std::snprintf(compact, sizeof compact, "%04d%02d%02d", r.Year, r.Month, r.Day);
+        out += IcsLine("BEGIN:VEVENT") + IcsLine(Uid(r, "rating", place.Id)) +
+               IcsLine("DTSTAMP:" + stamp) + IcsLine("DTSTART;VALUE=DATE:" + std::string(compact)) +
+               IcsLine("DURATION:P1D") + IcsLine("SUMMARY:" + RatingName(r.Rating)) +
+               IcsLine("TRANSP:TRANSPARENT") + IcsLine("END:VEVENT");
+    }
+    for (const auto& [what, period] : {std::pair{"major1", &r.Major1},
+                                       {"major2", &r.Major2},
+                                       {"minor1", &r.Minor1},
+                                       {"minor2", &r.Minor2}})
+        if (period->Hours)
+            out += TimedEvent(r, what, *period->Hours, stamp, place);
+    return out;
+}
+
 } // namespace
 
-std::string DaysAsIcs(const std::vector<DayRow>& rows, const IcsPlace& place,
-                      const std::string& stamp)
+DaysLayout IcsDays(const IcsPlace& place, const std::string& stamp)
 {
-    std::string out = IcsLine("BEGIN:VCALENDAR") + IcsLine("VERSION:2.0") +
-                      IcsLine("PRODID:-//Quillmere//Fishing forecast//EN") +
-                      IcsLine("CALSCALE:GREGORIAN") +
-                      IcsLine("X-WR-CALNAME:" + IcsText("Fishing times, " + place.Name));
-    for (const DayRow& r : rows) {
-        if (r.Rating >= 1) {
-            char compact[9];
-            std::snprintf(compact, sizeof compact, "%04d%02d%02d", r.Year, r.Month, r.Day);
-            out += IcsLine("BEGIN:VEVENT") + IcsLine(Uid(r, "rating", place.Id)) +
-                   IcsLine("DTSTAMP:" + stamp) +
-                   IcsLine("DTSTART;VALUE=DATE:" + std::string(compact)) + IcsLine("DURATION:P1D") +
-                   IcsLine("SUMMARY:" + RatingName(r.Rating)) + IcsLine("TRANSP:TRANSPARENT") +
-                   IcsLine("END:VEVENT");
-        }
-        // Only periods that happen in the day: one Major event per real transit.
-        for (const auto& [what, period] : {std::pair{"major1", &r.Major1},
-                                           {"major2", &r.Major2},
-                                           {"minor1", &r.Minor1},
-                                           {"minor2", &r.Minor2}})
-            if (period->Hours)
-                out += TimedEvent(r, what, *period->Hours, stamp, place);
-    }
-    return out + IcsLine("END:VCALENDAR");
+    return {IcsLine("BEGIN:VCALENDAR") + IcsLine("VERSION:2.0") +
+                IcsLine("PRODID:-//Quillmere//Fishing forecast//EN") +
+                IcsLine("CALSCALE:GREGORIAN") +
+                IcsLine("X-WR-CALNAME:" + IcsText("Fishing times, " + place.Name)),
+            [place, stamp](const DayRow& r, std::size_t) { return IcsDay(r, place, stamp); },
+            [](std::size_t) { return IcsLine("END:VCALENDAR"); }};
 }
 
 namespace {

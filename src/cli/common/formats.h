@@ -4,12 +4,22 @@
 
 #include "cli/common/dayrow.h"
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
-std::string DaysAsText(const std::vector<DayRow>& rows, const std::string& locationCaption);
-std::string DaysAsCsv(const std::vector<DayRow>& rows);
-std::string DaysAsJson(const std::vector<DayRow>& rows);
+// A table of days in three parts, so that a long run is written while it is computed: Head,
+// Row(row, index) for each day in turn, then Tail(number of rows).
+struct DaysLayout {
+    std::string Head;
+    std::function<std::string(const DayRow&, std::size_t index)> Row;
+    std::function<std::string(std::size_t count)> Tail;
+};
+
+DaysLayout TextDays(const std::string& locationCaption);
+DaysLayout CsvDays();
+DaysLayout JsonDays();
 // The place of an iCalendar file: its name for the texts and a short text that tells it from
 // other places in the events' UIDs.
 struct IcsPlace {
@@ -17,8 +27,9 @@ struct IcsPlace {
     std::string Id;
 };
 // `stamp` is the creation time, "YYYYMMDDTHHMMSSZ".
-std::string DaysAsIcs(const std::vector<DayRow>& rows, const IcsPlace& place,
-                      const std::string& stamp);
+DaysLayout IcsDays(const IcsPlace& place, const std::string& stamp);
+// The whole table at once.
+std::string AllDays(const DaysLayout& layout, const std::vector<DayRow>& rows);
 
 std::string EventsAsText(int year, const std::vector<EventRow>& events,
                          const std::string& locationCaption);

@@ -7,6 +7,7 @@
 #include "cli/forecast/pdfpages.h"
 #include "model/settings.h"
 #include "platform/clock.h"
+#include "platform/headlessapp.h"
 #include "platform/settingsio.h"
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
@@ -14,8 +15,6 @@
 #include "platform/timezones.h"
 #include "text/version.h"
 #include "viewrules/monthlylist.h"
-
-#include <QCoreApplication>
 
 #include <cerrno>
 #include <chrono>
@@ -101,29 +100,66 @@ std::string UtcStampNow()
     return now.toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'")).toStdString();
 }
 
-std::string Days(const ForecastRequest& r, const NamedPlace& p)
-{
-    ForecastRun run(p.Place);
-    std::vector<DayRow> rows;
-    rows.reserve(std::size_t(r.Days));
-    using namespace std::chrono;
-    sys_days day{year{r.Year} / month{unsigned(r.Month)} / unsigned(r.Day)};
-    for (int i = 0; i < r.Days; ++i, day += days{1}) {
-        const year_month_day ymd{day};
-        rows.push_back(
-            run.Day(int(ymd.year()), int(unsigned(ymd.month())), int(unsigned(ymd.day()))));
+// The standard output, written piece by piece. A closed pipe (a reader that has had enough,
+// as `| head -1`) ends the run quietly with success, as shell tools do; any other failure (a
+// full disk) is reported in one line and fails the run.
+class Stdout {
+public:
+    // False once a write has failed: the rest need not be computed.
+    bool Put(const std::string& text)
+    {
+        if (Error == 0 && std::fwrite(text.data(), 1, text.size(), stdout) != text.size())
+            Error = errno;
+        return Error == 0;
     }
+
+    int Finish()
+    {
+        if (Error == 0 && std::fflush(stdout) != 0)
+            Error = errno;
+        if (Error == 0 || Error == EPIPE)
+            return 0;
+        std::fprintf(stderr, "quillmere-forecast: cannot write the output: %s\n",
+                     std::strerror(Error));
+        return 1;
+    }
+
+private:
+    int Error = 0; // errno of the first failed write
+};
+
+DayRow RowOf(ForecastRun& run, std::chrono::sys_days day)
+{
+    const std::chrono::year_month_day ymd{day};
+    return run.Day(int(ymd.year()), int(unsigned(ymd.month())), int(unsigned(ymd.day())));
+}
+
+DaysLayout LayoutOf(const ForecastRequest& r, const NamedPlace& p)
+{
     switch (r.Format) {
     case OutputFormat::Csv:
-        return DaysAsCsv(rows);
+        return CsvDays();
     case OutputFormat::Json:
-        return DaysAsJson(rows);
+        return JsonDays();
     case OutputFormat::Ics:
-        return DaysAsIcs(rows, {p.Name, PlaceId(p.Place)}, UtcStampNow());
+        return IcsDays({p.Name, PlaceId(p.Place)}, UtcStampNow());
     case OutputFormat::Text:
         break;
     }
-    return DaysAsText(rows, Caption(p));
+    return TextDays(Caption(p));
+}
+
+// Each day is written as soon as it is computed, so a century takes no more memory than a day.
+void WriteDays(const ForecastRequest& r, const NamedPlace& p, Stdout& out)
+{
+    const DaysLayout layout = LayoutOf(r, p);
+    ForecastRun run(p.Place);
+    using namespace std::chrono;
+    sys_days day{year{r.Year} / month{unsigned(r.Month)} / unsigned(r.Day)};
+    out.Put(layout.Head);
+    for (int i = 0; i < r.Days && out.Put(layout.Row(RowOf(run, day), std::size_t(i))); ++i)
+        day += days{1};
+    out.Put(layout.Tail(std::size_t(r.Days)));
 }
 
 std::string Events(const ForecastRequest& r, const NamedPlace& p)
@@ -150,47 +186,48 @@ std::string Month(const ForecastRequest& r, const NamedPlace& p)
     return out;
 }
 
-// Writes the whole output; a full disk or a closed pipe is reported in one line and the run
-// fails.
-int Write(const std::string& text)
-{
-    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
-        return 0;
-    const int error = errno;
-    std::fprintf(stderr, "quillmere-forecast: cannot write the output: %s\n", std::strerror(error));
-    return 1;
-}
-
 // The text output of the commands that have one (calendar and glance print only).
-std::string Output(const ForecastRequest& r, const NamedPlace& place)
+int WriteOutput(const ForecastRequest& r, const NamedPlace& place)
 {
+    Stdout out;
     switch (r.What) {
     case Command::Days:
-        return Days(r, place);
+        WriteDays(r, place, out);
+        break;
     case Command::Events:
-        return Events(r, place);
+        out.Put(Events(r, place));
+        break;
     case Command::Month:
-        return Month(r, place);
+        out.Put(Month(r, place));
+        break;
     case Command::CalendarPage:
     case Command::Glance:
         break;
     }
-    return "";
+    return out.Finish();
+}
+
+int WriteText(const std::string& text)
+{
+    Stdout out;
+    out.Put(text);
+    return out.Finish();
 }
 
 int Run(int argc, char** argv)
 {
-    // A closed pipe then fails the write with EPIPE, which is reported, instead of ending the
-    // program by a signal.
+    // A closed pipe then fails the write with EPIPE, which ends the output quietly, instead of
+    // ending the program by a signal.
     std::signal(SIGPIPE, SIG_IGN);
     const std::vector<std::string> args(argv + 1, argv + argc);
     const QDate today = Clock::Now().date();
     const auto parsed = ParseArguments(args, today.year(), today.month());
-    const auto app = ApplicationFor(std::get_if<ForecastRequest>(&parsed), argc, argv);
+    const auto* request = std::get_if<ForecastRequest>(&parsed);
+    const auto app = HeadlessApplication(request && !request->Pdf.empty(), argc, argv);
     if (std::holds_alternative<HelpRequested>(parsed))
-        return Write(UsageText);
+        return WriteText(UsageText);
     if (std::holds_alternative<VersionRequested>(parsed))
-        return Write(VersionLine("quillmere-forecast"));
+        return WriteText(VersionLine("quillmere-forecast"));
     if (const auto* e = std::get_if<UsageError>(&parsed)) {
         std::cerr << "quillmere-forecast: " << e->Message << "\n";
         return 2;
@@ -203,7 +240,7 @@ int Run(int argc, char** argv)
             std::cerr << "quillmere-forecast: " << error << "\n";
         return error.empty() ? 0 : 1;
     }
-    return Write(Output(r, place));
+    return WriteOutput(r, place);
 }
 } // namespace
 

@@ -6,17 +6,6 @@
 #include "pages/pages.h"
 #include "viewrules/monthlylist.h"
 
-#include <QGuiApplication>
-
-std::unique_ptr<QCoreApplication> ApplicationFor(const ForecastRequest* request, int& argc,
-                                                 char** argv)
-{
-    if (!request || request->Pdf.empty())
-        return std::make_unique<QCoreApplication>(argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    return std::make_unique<QGuiApplication>(argc, argv);
-}
-
 std::string WritePdfPages(const ForecastRequest& r, const ForecastPlace& place,
                           const std::string& placeName)
 {

@@ -5,15 +5,7 @@
 #include "cli/common/arguments.h"
 #include "cli/common/forecastrun.h"
 
-#include <QCoreApplication>
-
-#include <memory>
 #include <string>
-
-// The application object for the request: drawing pages needs the fonts of a GUI application,
-// which runs on the offscreen platform; everything else needs only the core.
-std::unique_ptr<QCoreApplication> ApplicationFor(const ForecastRequest* request, int& argc,
-                                                 char** argv);
 
 // Writes the page(s) of the request into request.Pdf; returns an empty text, or one line
 // that says why the file was not written.

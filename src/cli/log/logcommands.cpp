@@ -49,6 +49,7 @@ Usage:
   quillmere-log query --year YYYY [CONDITIONS] [--sort S] [--format text|csv|json]
   quillmere-log report --year YYYY [CONDITIONS] [--sort S] [--pdf FILE]
   quillmere-log import --year YYYY FILE.csv [--skip|--overwrite]
+  quillmere-log --version | -V
 
 Commands:
   list     the year files of the program's folder (YYYY.mdb), one name a line.
@@ -67,6 +68,13 @@ Commands:
            order, the report's heading and one line a day), or every column as CSV or JSON.
   report   the report of those days as printed: pages of 58 lines under the title, the
            column heading and a dash line; with --pdf, printed to that PDF file.
+  import   the catch entries of a CSV file with the columns of export (JulianDate,
+           TotalTaken, TakenWith, PeakTime, Notes; the others are ignored) into the days of
+           YYYY.mdb, all in one step, after a copy of the file goes to backups/. Every line
+           that cannot be imported (a date outside the year, an unknown column, a bad number
+           or time) and every day that already holds an entry is listed first; when there
+           is any, nothing is written unless --skip (keep those entries, import the rest)
+           or --overwrite (replace them) says what to do.
 
 Conditions (query and report; each narrows the days, in this order):
   --months M-M           months between, 1-12 (default: the whole year)
@@ -84,13 +92,6 @@ Conditions (query and report; each narrows the days, in this order):
   --perigee              the day of lunar perigee
   --rated                every rated day
   --sort S               date (default), major1, weekday, rating or taken
-  import   the catch entries of a CSV file with the columns of export (JulianDate,
-           TotalTaken, TakenWith, PeakTime, Notes; the others are ignored) into the days of
-           YYYY.mdb, all in one step, after a copy of the file goes to backups/. Every line
-           that cannot be imported (a date outside the year, an unknown column, a bad number
-           or time) and every day that already holds an entry is listed first; when there
-           is any, nothing is written unless --skip (keep those entries, import the rest)
-           or --overwrite (replace them) says what to do.
 
 Location (create only; default: the default one of your ten stored locations):
   --location N              one of the ten stored locations, 1..10
@@ -109,7 +110,7 @@ Options:
   --skip           import: leave the days that hold an entry, import the other lines
   --overwrite      import: replace the entries of those days too
   --help           this text
-  --version        the program's version
+  --version, -V    the program's version
 
 The program's folder is $QUILLMERE_HOME, else ~/.local/share/Quillmere. Years run from
 1900 to 2500. Bad input prints one line on stderr and exits with status 2; a failed
@@ -604,7 +605,7 @@ int RunLogCommand(const std::vector<std::string>& args, std::ostream& out, std::
         out << LogUsageText;
         return 0;
     }
-    if (args.size() == 1 && args[0] == "--version") {
+    if (args.size() == 1 && (args[0] == "--version" || args[0] == "-V")) {
         out << VersionLine("quillmere-log");
         return 0;
     }

@@ -31,7 +31,7 @@ DayRow Sample()
 
 TEST(ForecastFormats, JsonHasEveryKeyAndNulls)
 {
-    const std::string json = DaysAsJson({Sample()});
+    const std::string json = AllDays(JsonDays(), {Sample()});
     for (const char* key : {"date",
                             "sunrise",
                             "sunset",
@@ -78,12 +78,12 @@ TEST(ForecastFormats, JsonHasEveryKeyAndNulls)
     EXPECT_NE(json.find("\"minor2\": null"), std::string::npos);
     EXPECT_NE(json.find("\"sunset\": 17.85,"), std::string::npos);
     EXPECT_NE(json.find("\"text\": \" Moon at Perigee , \\\"x\\\"\""), std::string::npos);
-    EXPECT_EQ(DaysAsJson({}), "[]\n");
+    EXPECT_EQ(AllDays(JsonDays(), {}), "[]\n");
 }
 
 TEST(ForecastFormats, CsvQuotesAndEmptyCells)
 {
-    const std::string csv = DaysAsCsv({Sample()});
+    const std::string csv = AllDays(CsvDays(), {Sample()});
     const std::string header = csv.substr(0, csv.find('\n'));
     EXPECT_EQ(header.rfind("date,sunrise,sunrise_status,sunset,sunset_status,sun_transit,", 0), 0u);
     const std::string row = csv.substr(header.size() + 1);
@@ -96,11 +96,11 @@ TEST(ForecastFormats, CsvQuotesAndEmptyCells)
 // one minor as timed events in universal time.
 TEST(ForecastFormats, IcsEventsInUniversalTime)
 {
-    const std::string ics = DaysAsIcs({Sample()},
-                                      {"A very long location name that makes the "
-                                       "calendar name line longer than the limit",
-                                       "1W-2N-z6"},
-                                      "20261123T000000Z");
+    const std::string ics = AllDays(IcsDays({"A very long location name that makes the "
+                                             "calendar name line longer than the limit",
+                                             "1W-2N-z6"},
+                                            "20261123T000000Z"),
+                                    {Sample()});
     std::size_t start = 0, events = 0;
     while (start < ics.size()) {
         const std::size_t end = ics.find("\r\n", start);
@@ -128,7 +128,7 @@ TEST(ForecastFormats, IcsFoldingKeepsCharactersWhole)
     std::string name = "x"; // shifts the acute e's (two octets each) so a fold falls inside one
     for (int i = 0; i < 40; ++i)
         name += "\xc3\xa9";
-    const std::string ics = DaysAsIcs({}, {name, "1W-2N-z6"}, "20261123T000000Z");
+    const std::string ics = AllDays(IcsDays({name, "1W-2N-z6"}, "20261123T000000Z"), {});
     const std::size_t from = ics.find("X-WR-CALNAME:");
     const std::size_t to = ics.find("\r\nEND:VCALENDAR");
     std::string unfolded;
@@ -166,7 +166,7 @@ std::vector<std::string> IcsLines(const std::string& ics)
 TEST(ForecastFormats, IcsNamesStayInsideTheirValue)
 {
     const std::string ics =
-        DaysAsIcs({Sample()}, {"Camp\nEND:VCALENDAR;x", "1W-2N-z6"}, "20261123T000000Z");
+        AllDays(IcsDays({"Camp\nEND:VCALENDAR;x", "1W-2N-z6"}, "20261123T000000Z"), {Sample()});
     const auto lines = IcsLines(ics);
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "END:VCALENDAR"), 1);
     EXPECT_EQ(lines.back(), "END:VCALENDAR");
@@ -174,7 +174,8 @@ TEST(ForecastFormats, IcsNamesStayInsideTheirValue)
               std::string::npos);
 
     const std::string raw(200, '\x80');
-    for (const std::string& line : IcsLines(DaysAsIcs({}, {raw, "1W-2N-z6"}, "20261123T000000Z")))
+    for (const std::string& line :
+         IcsLines(AllDays(IcsDays({raw, "1W-2N-z6"}, "20261123T000000Z"), {})))
         EXPECT_LE(line.size(), 75u);
 }
 
@@ -185,7 +186,8 @@ TEST(ForecastFormats, IcsUidsPerPlaceAndOnlyRealPeriods)
     r.Major1 = {std::nullopt, EventStatus::None};
     const auto uids = [&r](const std::string& id) {
         std::vector<std::string> found;
-        for (const std::string& line : IcsLines(DaysAsIcs({r}, {"Camp", id}, "20261123T000000Z")))
+        for (const std::string& line :
+             IcsLines(AllDays(IcsDays({"Camp", id}, "20261123T000000Z"), {r})))
             if (line.starts_with("UID:"))
                 found.push_back(line);
         return found;
@@ -201,7 +203,7 @@ TEST(ForecastFormats, IcsUidsPerPlaceAndOnlyRealPeriods)
 
 TEST(ForecastFormats, TextTableAndRatingNames)
 {
-    const std::string text = DaysAsText({Sample()}, "Alexandria, LA");
+    const std::string text = AllDays(TextDays("Alexandria, LA"), {Sample()});
     EXPECT_EQ(text.rfind("Alexandria, LA\n\nDate", 0), 0u);
     EXPECT_NE(text.find("2024-02-09  Best    06:54   17:51   *****    11:30"), std::string::npos)
         << text;

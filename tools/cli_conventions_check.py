@@ -1,0 +1,125 @@
+#!/usr/bin/env python3
+"""The shell conventions of Quillmere's command lines, one case per run.
+
+  cli_conventions_check.py CASE FORECAST LOG SOURCE_DIR
+
+Cases:
+  version      -V prints what --version prints, for both programs
+  no-command   run without a command, each program names every command its --help lists
+  help-blocks  in each --help, the Conditions block holds only options and every command of
+               the usage lines has its paragraph under Commands
+  entry-help   ./quillmere --help prints the usage and exits 0
+  runtime-dir  without XDG_RUNTIME_DIR, nothing but the output reaches stdout and stderr
+  closed-pipe  a reader that stops early (`| head -1`) ends the run quietly with status 0
+  streaming    a century of days as CSV peaks under a memory bound
+"""
+import os
+import re
+import resource
+import subprocess
+import sys
+import tempfile
+
+CENTURY = ["days", "--from", "2000-01-01", "--days", "36525", "--lon", "92.42W", "--lat",
+           "31.25N", "--zone", "6", "--format", "csv"]
+# A century of CSV is about 60 MB; the program with Qt loaded takes about 20 MB.
+PEAK_LIMIT_KB = 40 * 1024
+
+
+def run(args, **kw):
+    return subprocess.run(args, capture_output=True, text=True, timeout=120, **kw)
+
+
+def sections(help_text):
+    """The help's blocks by heading ("Commands:", "Conditions (...):") -> their lines."""
+    blocks, current = {}, None
+    for line in help_text.splitlines():
+        heading = re.match(r"^(\w+)\b.*:$", line)
+        if heading:
+            current = blocks.setdefault(heading.group(1), [])
+        elif current is not None and line.strip():
+            current.append(line)
+        elif not line.strip():
+            current = None
+    return blocks
+
+
+def commands_of(help_text):
+    """The command words of the Commands block (paragraphs start at two spaces)."""
+    return [m.group(1) for line in sections(help_text)["Commands"]
+            if (m := re.match(r"^  (\w+)\s", line))]
+
+
+def check_version(programs, _):
+    for p in programs:
+        long, short = run([p, "--version"]), run([p, "-V"])
+        assert long.returncode == short.returncode == 0, (p, long, short)
+        assert short.stdout == long.stdout and short.stdout.strip(), (p, short.stdout)
+
+
+def check_no_command(programs, _):
+    for p in programs:
+        r = run([p])
+        assert r.returncode == 2 and r.stdout == "", (p, r)
+        assert len(r.stderr.splitlines()) == 1, r.stderr
+        names = commands_of(run([p, "--help"]).stdout)
+        assert len(names) >= 3, names
+        missing = [n for n in names if not re.search(rf"\b{n}\b", r.stderr)]
+        assert not missing, (p, r.stderr, missing)
+
+
+def check_help_blocks(programs, _):
+    for p in programs:
+        text = run([p, "--help"]).stdout
+        blocks = sections(text)
+        for line in blocks.get("Conditions", []):
+            assert re.match(r"^  (--|\s{10,})", line), f"{p}: not an option: {line!r}"
+        described = set(commands_of(text))
+        used = {m.group(1) for line in blocks["Usage"]
+                if (m := re.match(r"^  \S+ (\w+)", line))}
+        assert used and used <= described, (p, used - described)
+
+
+def check_entry_help(_, source):
+    r = run([os.path.join(source, "quillmere"), "--help"])
+    assert r.returncode == 0 and r.stdout.startswith("usage: ./quillmere"), r
+    for word in ("run", "test", "install", "uninstall", "package"):
+        assert re.search(rf"^  {word}\b", r.stdout, re.M), word
+
+
+def check_runtime_dir(programs, _):
+    forecast, log = programs
+    env = {k: v for k, v in os.environ.items() if k != "XDG_RUNTIME_DIR"}
+    with tempfile.TemporaryDirectory() as work:
+        env.update(HOME=work, XDG_CONFIG_HOME=work, QUILLMERE_HOME=work)
+        pdf = os.path.join(work, "p.pdf")
+        for args in ([forecast, "month", "--year", "2024", "--month", "2", "--pdf", pdf],
+                     [forecast, "days", "--from", "2024-01-01"], [log, "list"]):
+            r = run(args, env=env)
+            assert r.returncode == 0 and r.stderr == "", (args, r.stderr)
+
+
+def check_closed_pipe(programs, _):
+    # The shell reports the status of the program before the pipe's end with PIPESTATUS.
+    script = '"$0" "$@" | head -1 > /dev/null; exit ${PIPESTATUS[0]}'
+    r = run(["bash", "-c", script, programs[0]] + CENTURY)
+    assert r.returncode == 0 and r.stderr == "", r
+
+
+def check_streaming(programs, _):
+    with open(os.devnull, "w") as sink:
+        subprocess.run([programs[0]] + CENTURY, stdout=sink, check=True, timeout=300)
+    peak = resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss
+    assert peak < PEAK_LIMIT_KB, f"peak {peak} kB"
+    print(f"peak {peak} kB")
+
+
+CASES = {"version": check_version, "no-command": check_no_command,
+         "help-blocks": check_help_blocks, "entry-help": check_entry_help,
+         "runtime-dir": check_runtime_dir, "closed-pipe": check_closed_pipe,
+         "streaming": check_streaming}
+
+if __name__ == "__main__":
+    if len(sys.argv) != 5 or sys.argv[1] not in CASES:
+        sys.exit(__doc__)
+    CASES[sys.argv[1]](sys.argv[2:4], sys.argv[4])
