@@ -47,8 +47,8 @@ if command -v lintian >/dev/null; then
 fi
 
 # The unpacked programs run from where they lie and find the data unpacked beside them.
-dpkg-deb -x "$deb" "$work/root"
-bin=$work/root/usr/bin
+dpkg-deb -x "$deb" "$work/unpacked"
+bin=$work/unpacked/usr/bin
 mkdir -p "$work/home/runtime"
 chmod 700 "$work/home/runtime"
 export HOME="$work/home" XDG_CONFIG_HOME="$work/home/config" XDG_DATA_HOME="$work/home/data" \
