@@ -182,8 +182,8 @@ std::vector<EventRow> ForecastRun::Events(int year)
         const EventNames& names = NamesOf(e.Of);
         const CivilDate c = JdToCivil(EventDayJD(e.LocalJD));
         const auto i = std::size_t(e.Code - 1);
-        rows.push_back({names.Types[i], Engine.Site.InstantOf(e.LocalJD), EventMinute(e.LocalJD), c.Year,
-                        c.Month, c.Day, names.Captions[i]});
+        rows.push_back({names.Types[i], Engine.Site.InstantOf(e.LocalJD), EventMinute(e.LocalJD),
+                        c.Year, c.Month, c.Day, names.Captions[i]});
     }
     return rows;
 }

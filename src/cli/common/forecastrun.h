@@ -17,7 +17,7 @@ struct ForecastPlace {
     double DstOffsetDays = 0.0;
     bool AmPm = true;
     int HourMinutes = NoonMinutes; // the chosen moment of the day
-    ZoneRules Clock;               // the place's own clock ("Local Clock"); empty: zone and DstOffsetDays
+    ZoneRules Clock; // the place's own clock ("Local Clock"); empty: zone and DstOffsetDays
 };
 
 class ForecastRun {

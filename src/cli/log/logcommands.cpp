@@ -19,8 +19,8 @@
 #include "platform/settingsio.h"
 #include "platform/settingsstore.h"
 #include "platform/systemlocale.h"
-#include "text/timeunits.h"
 #include "platform/timezones.h"
+#include "text/timeunits.h"
 #include "text/version.h"
 
 #include <QDir>

@@ -61,8 +61,8 @@ struct Place {
 
 // 20 June 2024 at Alexandria, standard time, against PyEphem 4.1.4 (no refraction; sunrise and
 // sunset at -0:50 for the centre, twilights at -6, -12, -18; the Moon at -0:34 for the upper
-// limb; the Moon's transit altitude as seen from the place; the illumination at noon): times within 2
-// minutes, angles within half a degree.
+// limb; the Moon's transit altitude as seen from the place; the illumination at noon): times within
+// 2 minutes, angles within half a degree.
 TEST(DoDetails, SummerDayAtAlexandriaAgreesWithEphem)
 {
     Place p(92.42, 31.25, 6, 2024);
