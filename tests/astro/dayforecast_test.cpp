@@ -4,6 +4,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
+#include <fstream>
+#include <string>
 #include <tuple>
 
 namespace {
@@ -263,4 +266,33 @@ TEST(RiseSet, GrazingBodiesNearThePoles)
             }
         }
     }
+}
+
+// A lower transit seconds from local midnight (tools/lower_transit_reference.py, PyEphem): the
+// searches of the two days touching that midnight each interpolate their own positions, and
+// once both claimed it. Exactly one may, and where the reference is clear of the search's
+// tolerance, the one it falls in.
+TEST(LowerTransit, SettledAtMidnight)
+{
+    std::ifstream file(QUILLMERE_LOWER_TRANSIT);
+    ASSERT_TRUE(file) << QUILLMERE_LOWER_TRANSIT;
+    std::string line;
+    int nights = 0;
+    while (std::getline(file, line)) {
+        double lonWest = 0.0, latNorth = 0.0, seconds = 0.0;
+        int zone = 0, year = 0, month = 0, day = 0;
+        if (std::sscanf(line.c_str(), "%*[^,],%lf,%lf,%d,%d-%d-%d,%lf", &lonWest, &latNorth, &zone,
+                        &year, &month, &day, &seconds) != 7)
+            continue;
+        Astronomy a = At(lonWest, latNorth, zone);
+        const double midnight = CivilToJd(year, month, day);
+        const bool before = a.MoonLowerTransitInDay(midnight - 1.0);
+        const bool after = a.MoonLowerTransitInDay(midnight);
+        EXPECT_NE(before, after) << line;
+        if (std::fabs(seconds) > EventTolerance * SecondsPerDay) {
+            EXPECT_EQ(after, seconds > 0.0) << line;
+        }
+        ++nights;
+    }
+    EXPECT_GT(nights, 0);
 }
