@@ -27,6 +27,14 @@ std::string Window(double centre, double halfWidth, bool ampm)
     return " " + FormatClock(0, WrapInto(centre - halfWidth, 24.0), ampm) + " to " +
            FormatClock(0, WrapInto(centre + halfWidth, 24.0), ampm) + " ";
 }
+
+// A moonrise or moonset, and after a slash the day's second one where the Moon grazes the
+// horizon near the poles and comes round again before midnight: "00:21 / 23:48".
+std::string MoonTimes(double first, double later, EventFlag laterFlag, bool ampm)
+{
+    const std::string text = FormatClock(0, first, ampm);
+    return laterFlag == EventFlag::InDay ? text + " / " + FormatClock(0, later, ampm) : text;
+}
 } // namespace
 
 DayPanel DoLabels(const DayForecast& f, double moonAltitude, bool ampm)
@@ -51,8 +59,8 @@ DayPanel DoLabels(const DayForecast& f, double moonAltitude, bool ampm)
     p.Captions[5] = f.Minor2Text;
 
     const MoonEventRecord& m = f.MoonEvents;
-    const std::string rise = FormatClock(0, m.RiseTime, ampm);
-    const std::string set = FormatClock(0, m.SetTime, ampm);
+    const std::string rise = MoonTimes(m.RiseTime, m.LaterRiseTime, m.LaterRiseFlag, ampm);
+    const std::string set = MoonTimes(m.SetTime, m.LaterSetTime, m.LaterSetFlag, ampm);
     std::string first = "Rise", firstTime = rise, second = "Set", secondTime = set;
     if (m.RiseFlag == EventFlag::OtherDay) {
         first = "Set", firstTime = set, second = "Rise", secondTime = "*****";

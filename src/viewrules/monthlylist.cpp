@@ -4,6 +4,8 @@
 #include "calendar/calendar.h"
 #include "text/vbformat.h"
 
+#include <tuple>
+
 const std::array<const char*, 4> MonthlyListHeadings = {
     "            Sun                 Moon ",
     "Day Rise      Set      Rise     Set          Majors             Minors",
@@ -67,6 +69,12 @@ std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD
             PRNFalse(line, f.Minor1Text + "  ");
             PRNFalse(line, f.Minor2Text);
         }
+        // Near the poles the Moon may rise or set again before midnight: after the columns.
+        for (const auto& [name, flag, hours] :
+             {std::tuple{"Rise", m.LaterRiseFlag, m.LaterRiseTime},
+              std::tuple{"Set", m.LaterSetFlag, m.LaterSetTime}})
+            if (flag == EventFlag::InDay)
+                line += std::string(" 2nd ") + name + " " + moon(flag, hours, "");
         lines.push_back(line);
     }
     return lines;

@@ -1,5 +1,8 @@
 #include "viewrules/daypanel.h"
 
+#include "astro/astronomy.h"
+#include "viewrules/monthlylist.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -78,6 +81,27 @@ TEST(DayPanel, ToolTips)
     EXPECT_EQ(LabelToolTip(14, f, false),
               " Transit=12:30 Twilight  Civil=06:00 Nautical=05:30 Astronomical=05:00 ");
     EXPECT_EQ(LabelToolTip(3, f, true), "");
+}
+
+// Tromso, 20 June 2025, summer time: the Moon rises at 00:21 and again at 23:48, and sets at
+// 16:18 (PyEphem's sampled altitude); the panel shows both rises on the rise's line, and the
+// monthly list notes the second after its columns.
+TEST(DayPanel, SecondMoonriseOfAGrazingDayInPanelAndList)
+{
+    Astronomy a;
+    a.Site.SetPlace(-18.96, 69.65, -1);
+    a.Site.DstOffsetDays = -1.0 / 24.0;
+    const double J = CivilToJd(2025, 6, 20);
+    a.ComputeDay(J);
+    const DayPanel p = DoLabels(a.Forecast, 0, false);
+    EXPECT_EQ(p.Captions.at(18), "Rise");
+    EXPECT_EQ(p.Captions.at(19), "00:21 / 23:48");
+    EXPECT_EQ(p.Captions.at(21), "Set");
+    EXPECT_EQ(p.Captions.at(22), "16:18");
+    for (const bool ampm : {false, true}) {
+        const std::string line = MonthlyListLines(a, J, 1, ampm).front();
+        EXPECT_TRUE(line.ends_with(ampm ? "  2nd Rise 11:48 P" : "  2nd Rise 23:48")) << line;
+    }
 }
 
 } // namespace

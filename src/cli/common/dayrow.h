@@ -24,6 +24,8 @@ struct DayRow {
     DayEvent AstronomicalDawn, AstronomicalDusk;
     std::optional<double> DayLength; // hours of the local day with the Sun above the horizon
     DayEvent Moonrise, MoonTransit, Moonset;
+    // Near the poles the Moon can rise or set a second time in one local day.
+    DayEvent Moonrise2, Moonset2;
     DayEvent Major1, Major2, Minor1, Minor2;
     std::string Major1Text, Major2Text, Minor1Text, Minor2Text, SunriseText, SunsetText;
     int IllumPercent = 0, Waxing = 0, Rating = 0, MoonAge = 0;

@@ -140,6 +140,8 @@ DayRow ForecastRun::Day(int year, int month, int day)
     r.Moonrise = Rise(m);
     r.MoonTransit = Transit(m);
     r.Moonset = Set(m);
+    r.Moonrise2 = Crossing(m.LaterRiseFlag, m.LaterRiseTime);
+    r.Moonset2 = Crossing(m.LaterSetFlag, m.LaterSetTime);
     // A day without a transit of its own gets a major from its neighbours' transits (starred
     // in the window); that transit happens on another day.
     r.Major1 = Crossing(m.TransitFlag, f.Major1);

@@ -119,6 +119,9 @@ std::vector<Field> MakeFields()
          [](const DayRow& r) { return std::to_string(-std::lround(r.UtcOffsetHours * 60.0)); }},
     };
     f.insert(f.end(), rest.begin(), rest.end());
+    // Last, so that the columns before keep their places for scripts.
+    AddEvent(f, "moonrise2", &DayRow::Moonrise2);
+    AddEvent(f, "moonset2", &DayRow::Moonset2);
     return f;
 }
 
@@ -178,6 +181,17 @@ std::string Clock24(const DayEvent& e)
     char buf[8];
     std::snprintf(buf, sizeof buf, "%02d:%02d", minutes / 60 % 24, minutes % 60);
     return buf;
+}
+
+// The text table's note of a second moonrise or moonset in the day, before the day's events.
+std::string SecondMoonEvents(const DayRow& r)
+{
+    std::string notes;
+    for (const auto& [name, event] :
+         {std::pair{"2nd moonrise ", &r.Moonrise2}, std::pair{"2nd moonset ", &r.Moonset2}})
+        if (event->Hours)
+            notes += name + Clock24(*event) + "  ";
+    return notes;
 }
 
 } // namespace
@@ -242,7 +256,7 @@ DaysLayout TextDays(const std::string& locationCaption)
                               Clock24(r.Moonset).c_str(), Clock24(r.Major1).c_str(),
                               Clock24(r.Major2).c_str(), Clock24(r.Minor1).c_str(),
                               Clock24(r.Minor2).c_str(), r.IllumPercent);
-                return line + Trimmed(r.Text) + "\n";
+                return line + SecondMoonEvents(r) + Trimmed(r.Text) + "\n";
             },
             [](std::size_t) { return std::string(); }};
 }

@@ -368,3 +368,27 @@ TEST(ForecastRun, EventTimesReadTheSameEverywhere)
     EXPECT_TRUE(shown);
 }
 } // namespace
+
+namespace {
+// Tromso, 20 June 2025 (zone 1, summer time): the Moon grazes the horizon and rises twice in
+// the day. PyEphem's sampled altitude (tools/riseset_sampling_check.py's crossings) has it rise
+// at 00:21.6 and 23:48.4 and set at 16:18.4. The row carries the second rise in a field of its
+// own, after the old ones, and the text table notes it.
+TEST(ForecastRun, SecondMoonriseOfAGrazingDay)
+{
+    ForecastRun run(Place(-18.96, 69.65, -1, -1.0 / 24.0));
+    const DayRow r = run.Day(2025, 6, 20);
+    for (const auto& [event, hours] :
+         {std::pair{r.Moonrise, 0.3604}, {r.Moonrise2, 23.8075}, {r.Moonset, 16.3066}}) {
+        ASSERT_TRUE(event.Hours.has_value()) << hours;
+        EXPECT_NEAR(*event.Hours * 60.0, hours * 60.0, 1.0);
+    }
+    EXPECT_FALSE(r.Moonset2.Hours.has_value());
+    const std::string csv = AllDays(CsvDays(), {r});
+    EXPECT_NE(csv.find(",moonrise2,moonrise2_status,moonset2,moonset2_status\n"),
+              std::string::npos);
+    EXPECT_NE(AllDays(JsonDays(), {r}).find("\"moonrise2_status\": \"ok\", \"moonset2\": null"),
+              std::string::npos);
+    EXPECT_NE(AllDays(TextDays("Tromso"), {r}).find("  2nd moonrise 23:48"), std::string::npos);
+}
+} // namespace
