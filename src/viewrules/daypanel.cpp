@@ -2,6 +2,7 @@
 
 #include "astro/timebase.h"
 
+#include <array>
 #include <cmath>
 
 namespace {
@@ -28,12 +29,34 @@ std::string Window(double centre, double halfWidth, bool ampm)
            FormatClock(0, WrapInto(centre + halfWidth, 24.0), ampm) + " ";
 }
 
-// A moonrise or moonset, and after a slash the day's second one where the Moon grazes the
-// horizon near the poles and comes round again before midnight: "00:21 / 23:48".
-std::string MoonTimes(double first, double later, EventFlag laterFlag, bool ampm)
+// One line of the moon box: "Rise" or "Set" and its time, "*****" for none. Near the poles the
+// Moon can graze the horizon and rise (or set) again before midnight: the second time follows
+// after a slash, "00:21 / 23:48".
+struct MoonLine {
+    std::string Name, Time, Later;
+    std::string Caption() const { return Later.empty() ? Time : Time + " / " + Later; }
+};
+
+MoonLine Line(const char* name, double time, double later, EventFlag laterFlag, bool ampm)
 {
-    const std::string text = FormatClock(0, first, ampm);
-    return laterFlag == EventFlag::InDay ? text + " / " + FormatClock(0, later, ampm) : text;
+    return {name, FormatClock(0, time, ampm),
+            laterFlag == EventFlag::InDay ? FormatClock(0, later, ampm) : ""};
+}
+
+// The moon box's two lines in the order the day has them. A day without a moonrise shows the
+// set first with its time and the rise with "*****"; one without a moonset the set's "*****"
+// first.
+std::array<MoonLine, 2> MoonLines(const MoonEventRecord& m, bool ampm)
+{
+    const MoonLine rise = Line("Rise", m.RiseTime, m.LaterRiseTime, m.LaterRiseFlag, ampm);
+    const MoonLine set = Line("Set", m.SetTime, m.LaterSetTime, m.LaterSetFlag, ampm);
+    if (m.RiseFlag == EventFlag::OtherDay)
+        return {set, MoonLine{"Rise", "*****", {}}};
+    if (m.SetFlag == EventFlag::OtherDay)
+        return {MoonLine{"Set", "*****", {}}, rise};
+    if (m.RiseTime > m.SetTime)
+        return {set, rise};
+    return {rise, set};
 }
 } // namespace
 
@@ -58,21 +81,11 @@ DayPanel DoLabels(const DayForecast& f, double moonAltitude, bool ampm)
     p.Captions[4] = f.Minor1Text;
     p.Captions[5] = f.Minor2Text;
 
-    const MoonEventRecord& m = f.MoonEvents;
-    const std::string rise = MoonTimes(m.RiseTime, m.LaterRiseTime, m.LaterRiseFlag, ampm);
-    const std::string set = MoonTimes(m.SetTime, m.LaterSetTime, m.LaterSetFlag, ampm);
-    std::string first = "Rise", firstTime = rise, second = "Set", secondTime = set;
-    if (m.RiseFlag == EventFlag::OtherDay) {
-        first = "Set", firstTime = set, second = "Rise", secondTime = "*****";
-    } else if (m.SetFlag == EventFlag::OtherDay) {
-        first = "Set", firstTime = "*****", second = "Rise", secondTime = rise;
-    } else if (m.RiseTime > m.SetTime) {
-        first = "Set", firstTime = set, second = "Rise", secondTime = rise;
-    }
-    p.Captions[18] = first;
-    p.Captions[19] = firstTime;
-    p.Captions[21] = second;
-    p.Captions[22] = secondTime;
+    const std::array<MoonLine, 2> moon = MoonLines(f.MoonEvents, ampm);
+    p.Captions[18] = moon[0].Name;
+    p.Captions[19] = moon[0].Caption();
+    p.Captions[21] = moon[1].Name;
+    p.Captions[22] = moon[1].Caption();
     return p;
 }
 
@@ -100,6 +113,13 @@ std::string LabelToolTip(int i, const DayForecast& f, bool ampm)
         return " Twilight  Civil=" + clock(s.Civil.SetTime) +
                " Nautical=" + clock(s.Nautical.SetTime) +
                " Astronomical=" + clock(s.Astronomical.SetTime) + " ";
+    case 19:
+    case 22: {
+        const MoonLine line = MoonLines(f.MoonEvents, ampm)[i == 19 ? 0 : 1];
+        return line.Later.empty() ? std::string()
+                                  : " Moon" + std::string(line.Name == "Rise" ? "rise " : "set ") +
+                                        line.Time + ", and again " + line.Later + " ";
+    }
     default:
         return {};
     }

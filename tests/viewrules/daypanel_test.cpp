@@ -98,6 +98,9 @@ TEST(DayPanel, SecondMoonriseOfAGrazingDayInPanelAndList)
     EXPECT_EQ(p.Captions.at(19), "00:21 / 23:48");
     EXPECT_EQ(p.Captions.at(21), "Set");
     EXPECT_EQ(p.Captions.at(22), "16:18");
+    // The label may be too narrow for both times: its tool tip says them in full.
+    EXPECT_EQ(LabelToolTip(19, a.Forecast, true), " Moonrise 12:21 AM, and again 11:48 PM ");
+    EXPECT_EQ(LabelToolTip(22, a.Forecast, true), "");
     for (const bool ampm : {false, true}) {
         const std::string line = MonthlyListLines(a, J, 1, ampm).front();
         EXPECT_TRUE(line.ends_with(ampm ? "  2nd Rise 11:48 P" : "  2nd Rise 23:48")) << line;
