@@ -21,7 +21,7 @@ void Astronomy::ComputeSunDay(double jd)
     const RiseTransitSet& sun = f.SunEvents.Horizon;
     f.SunriseText = Clock(sun.RiseTime);
     f.SunsetText = Clock(sun.SetTime);
-    f.DayLength = sun.SetTime - sun.RiseTime;
+    f.DayLength = HoursAbove(sun);
 
     const double t = ChosenInstant(jd);
     const SunPlace place = SunPosition(t);

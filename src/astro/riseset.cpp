@@ -145,6 +145,36 @@ RiseTransitSet Astronomy::FindEvents(const EventSearch& s)
     return found;
 }
 
+double HoursAbove(const RiseTransitSet& e)
+{
+    if (e.AboveHorizonState != HorizonState::Crosses)
+        return e.AboveHorizonState == HorizonState::StaysAbove ? 24.0 : 0.0;
+    // The day's crossings in time order, +1 for a rise, -1 for a set.
+    std::vector<std::pair<double, int>> crossings;
+    const auto add = [&](EventFlag flag, double time, int sign) {
+        if (flag == EventFlag::InDay)
+            crossings.emplace_back(time, sign);
+    };
+    add(e.RiseFlag, e.RiseTime, 1);
+    add(e.SetFlag, e.SetTime, -1);
+    add(e.LaterRiseFlag, e.LaterRiseTime, 1);
+    add(e.LaterSetFlag, e.LaterSetTime, -1);
+    if (crossings.empty())
+        return e.TransitAltitude > 0.0 ? 24.0 : 0.0;
+    std::sort(crossings.begin(), crossings.end());
+    // Up at midnight when the first crossing is a set.
+    double hours = 0.0, since = crossings.front().second < 0 ? 0.0 : -1.0;
+    for (const auto& [time, sign] : crossings) {
+        if (sign > 0 && since < 0.0)
+            since = time;
+        else if (sign < 0 && since >= 0.0) {
+            hours += time - since;
+            since = -1.0;
+        }
+    }
+    return since >= 0.0 ? hours + 24.0 - since : hours;
+}
+
 namespace {
 // The altitude is sampled every two hours: it turns twice a day (at the transits), so a turn
 // shows among the samples as one that stands above or below both neighbours.

@@ -37,6 +37,11 @@ struct RiseTransitSet {
     EventFlag LaterSetFlag = EventFlag::OtherDay;
 };
 
+// Hours of the local day the body spends above the events' altitude: 24 or 0 for a body that
+// never crosses it, otherwise the stretches between the day's rises and sets (a day that ends
+// before its set or begins after its rise counts to midnight).
+double HoursAbove(const RiseTransitSet& e);
+
 // The Moon's events of one local day, in local clock hours [0, 24).
 using MoonEventRecord = RiseTransitSet;
 

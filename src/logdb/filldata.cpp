@@ -85,7 +85,7 @@ FieldValues DayRecord(Astronomy& engine, const Calendar& cal, int d)
         {"GraphicType", QVariant(marks.Rating)},
         {"MoonAge", QVariant(marks.MoonAge)},
         {"Waxing", QVariant(f.Waxing)},
-        {"DaylightHours", QVariant(sun.Horizon.SetTime - sun.Horizon.RiseTime)},
+        {"DaylightHours", QVariant(f.DayLength)},
         {"Month", Text(VbFormatDate(T, "m"))},
         {"DayOfWeek_", Text(VbFormatDate(T, "w"))},
         {"Perigee", QVariant(marks.Perigee)}};

@@ -7,6 +7,7 @@
 
 namespace {
 const std::string NoMinor = "*******";
+const std::string NoEvent = "*****";
 
 // A period within an hour of sunrise, the Sun's transit or sunset is highlighted.
 std::uint32_t PeriodColor(double period, const SunEventTable& sun)
@@ -51,9 +52,9 @@ std::array<MoonLine, 2> MoonLines(const MoonEventRecord& m, bool ampm)
     const MoonLine rise = Line("Rise", m.RiseTime, m.LaterRiseTime, m.LaterRiseFlag, ampm);
     const MoonLine set = Line("Set", m.SetTime, m.LaterSetTime, m.LaterSetFlag, ampm);
     if (m.RiseFlag == EventFlag::OtherDay)
-        return {set, MoonLine{"Rise", "*****", {}}};
+        return {set, MoonLine{"Rise", NoEvent, {}}};
     if (m.SetFlag == EventFlag::OtherDay)
-        return {MoonLine{"Set", "*****", {}}, rise};
+        return {MoonLine{"Set", NoEvent, {}}, rise};
     if (m.RiseTime > m.SetTime)
         return {set, rise};
     return {rise, set};
@@ -64,8 +65,10 @@ DayPanel DoLabels(const DayForecast& f, double moonAltitude, bool ampm)
 {
     DayPanel p;
     p.Captions[7] = DayLengthText(f.DayLength);
-    p.Captions[14] = f.SunriseText;
-    p.Captions[16] = f.SunsetText;
+    // Under the midnight sun or the polar night the day has no sunrise or sunset to show.
+    const RiseTransitSet& sun = f.SunEvents.Horizon;
+    p.Captions[14] = sun.RiseFlag == EventFlag::InDay ? f.SunriseText : NoEvent;
+    p.Captions[16] = sun.SetFlag == EventFlag::InDay ? f.SunsetText : NoEvent;
     const bool moonUp = moonAltitude >= 0;
     p.Captions[32] = moonUp ? "Moon is Up" : "Moon has Set";
     p.Colors[32] = moonUp ? Red : Black;

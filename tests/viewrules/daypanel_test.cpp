@@ -85,15 +85,20 @@ TEST(DayPanel, ToolTips)
 
 // Tromso, 20 June 2025, summer time: the Moon rises at 00:21 and again at 23:48, and sets at
 // 16:18 (PyEphem's sampled altitude); the panel shows both rises on the rise's line, and the
-// monthly list notes the second after its columns.
-TEST(DayPanel, SecondMoonriseOfAGrazingDayInPanelAndList)
+// monthly list notes the second after its columns. The Sun stays up: 24 hours of daylight and
+// neither sunrise nor sunset.
+TEST(DayPanel, MidsummerDayNearThePoleInPanelAndList)
 {
     Astronomy a;
     a.Site.SetPlace(-18.96, 69.65, -1);
     a.Site.DstOffsetDays = -1.0 / 24.0;
     const double J = CivilToJd(2025, 6, 20);
+    a.ComputeSunDay(J);
     a.ComputeDay(J);
     const DayPanel p = DoLabels(a.Forecast, 0, false);
+    EXPECT_EQ(p.Captions.at(7), "24:00");
+    EXPECT_EQ(p.Captions.at(14), "*****");
+    EXPECT_EQ(p.Captions.at(16), "*****");
     EXPECT_EQ(p.Captions.at(18), "Rise");
     EXPECT_EQ(p.Captions.at(19), "00:21 / 23:48");
     EXPECT_EQ(p.Captions.at(21), "Set");

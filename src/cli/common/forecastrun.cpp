@@ -32,23 +32,6 @@ DayEvent Set(const RiseTransitSet& e)
     return RiseOrSet(e.SetFlag, e.AboveHorizonState, e.SetTime);
 }
 
-// Hours of the local day with the Sun above the horizon, from the day's own rise and set.
-std::optional<double> DaylightHours(const DayEvent& rise, const DayEvent& set)
-{
-    if (rise.Status == EventStatus::Above)
-        return 24.0;
-    if (rise.Status == EventStatus::Below)
-        return 0.0;
-    if (rise.Hours && set.Hours)
-        return *set.Hours >= *rise.Hours ? *set.Hours - *rise.Hours
-                                         : 24.0 - (*rise.Hours - *set.Hours);
-    if (rise.Hours) // sets after midnight
-        return 24.0 - *rise.Hours;
-    if (set.Hours) // rose before midnight
-        return *set.Hours;
-    return std::nullopt;
-}
-
 DayEvent Period(double hours) { return hours == -1.0 ? DayEvent{} : DayEvent::At(hours); }
 
 double Degrees(double radians) { return radians / DegToRad; }
@@ -136,7 +119,7 @@ DayRow ForecastRun::Day(int year, int month, int day)
     r.NauticalDusk = Set(sun.Nautical);
     r.AstronomicalDawn = Rise(sun.Astronomical);
     r.AstronomicalDusk = Set(sun.Astronomical);
-    r.DayLength = DaylightHours(r.Sunrise, r.Sunset);
+    r.DayLength = f.DayLength;
     r.Moonrise = Rise(m);
     r.MoonTransit = Transit(m);
     r.Moonset = Set(m);

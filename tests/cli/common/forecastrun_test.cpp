@@ -159,6 +159,16 @@ TEST(ForecastRun, EventsThatDoNotHappenSayWhy)
     EXPECT_NEAR(*midsummer.DayLength, 18.0 + 50.0 / 60.0, 5.0 / 60.0); // almanac: 18 h 50 min
 }
 
+// Hours of daylight count every stretch of the local day with the Sun up, from PyEphem 4.1.4's
+// altitude sampled each minute at 70 N 20 E (upper limb 34' below the horizon): on 15 May 2024
+// the Sun rises at 00:14, sets at 23:25 and rises again at 23:46.
+TEST(ForecastRun, DayLengthCountsEveryStretchWithTheSunUp)
+{
+    ForecastRun north(Place(-20.0, 70.0, -1));
+    for (const auto& [day, hours] : {std::pair{9, 20.80}, {15, 23.42}})
+        EXPECT_NEAR(*north.Day(2024, 5, day).DayLength, hours, 2.0 / 60.0) << day;
+}
+
 // With daylight saving the twilights are those of the clock's own day: Oslo (zone -1) on
 // summer time keeps the clock of zone -2 on standard time, so every event must be the same,
 // also the dusks that cross midnight there in summer. Where the Sun grazes a twilight's
