@@ -6,6 +6,7 @@
 #include "logdb/catches.h"
 #include "logdb/catchphotos.h"
 #include "logdb/catchunits.h"
+#include "logdb/queryrun.h"
 #include "support/filledyear.h"
 #include "support/logfixture.h"
 #include "support/testenv.h"
@@ -227,3 +228,51 @@ TEST(CatchUnits, ConversionsFollowTheDefinedFactorsAndTypedValuesAreChecked)
     EXPECT_EQ(why, "\"150\" is not a temperature from -58 to 140 °F");
 }
 
+TEST(CatchConditions, SpeciesNotesAndReleasedPickTheDaysPlainSqlPicks)
+{
+    const QString path = MakeYearFile("catches-query");
+    const QString old = MakeOldYearFile("catches-query-old");
+    std::vector<Catch> catches;
+    for (int i = 0; i < 60; ++i) {
+        Catch c = MakeCatch(QDate(2024, 1, 1).addDays(i * 5).toString(Qt::ISODate), "",
+                            i % 3 == 0 ? "Pike" : "walleye", 1, i % 4 == 0);
+        c.Note = i % 7 == 0 ? "At the DROP-off, 100% sure" : "";
+        catches.push_back(c);
+    }
+    ASSERT_TRUE(AddCatches(path, catches, Now));
+    struct Case {
+        CatchConditions Conditions;
+        QString Where; // over table1, asked of the file in plain SQLite
+        QString OldWhere;
+    };
+    const std::vector<Case> cases = {
+        {{"PIKE", "", false},
+         "JulianDate IN (SELECT JulianDate FROM Catches WHERE lower(Species) = 'pike')",
+         "0"},
+        {{"", "", true}, "JulianDate IN (SELECT JulianDate FROM Catches WHERE Released = 1)", "0"},
+        {{"Walleye", "", true},
+         "JulianDate IN (SELECT JulianDate FROM Catches WHERE Released = 1 AND Species = "
+         "'walleye')",
+         "0"},
+        {{"", "drop-OFF", false},
+         "JulianDate IN (SELECT JulianDate FROM Catches WHERE instr(lower(Note), 'drop-off'))",
+         "0"},
+        {{"", "ROW-01", false}, "instr(Notes, 'row-01')", "instr(Notes, 'row-01')"},
+        {{"", "0% s", false},
+         "JulianDate IN (SELECT JulianDate FROM Catches WHERE instr(Note, '0% s'))",
+         "0"},
+        {{"", "w_0", false}, "0", "0"}, // "_" stands for itself
+    };
+    for (const Case& k : cases) {
+        for (const auto& [file, where] : {std::pair{path, k.Where}, std::pair{old, k.OldWhere}}) {
+            QueryForm form;
+            form.Catches = k.Conditions;
+            const Selection s = SelectDataWhere(file, form, 1);
+            EXPECT_TRUE(s.Refused.isEmpty()) << s.Refused.join('|').toStdString();
+            EXPECT_EQ(
+                RecordIds(file, s.RecordSource),
+                PlainIds(file, "SELECT DBID FROM table1 WHERE " + where + " ORDER BY JulianDate"))
+                << where.toStdString();
+        }
+    }
+}
