@@ -100,12 +100,11 @@ CatchFact FactOfRow(const QSqlQuery& q)
 
 DbResult ReadCatchFacts(const QString& path, std::vector<CatchFact>& facts)
 {
-    int version = 0;
-    if (DbResult read = CatchSchemaOf(path, version); !read || version == 0)
-        return read;
     Database db;
     if (DbResult opened = db.Open(path); !opened)
         return opened;
+    if (!db.Tables().contains(QLatin1String(CatchTableName)))
+        return DbResult::Success(); // a file without catches
     QSqlQuery q(db.Connection());
     q.setForwardOnly(true);
     if (!q.exec(QStringLiteral(
