@@ -18,11 +18,15 @@ constexpr int MillisecondsPerSecond = 1000;
 // The local clock Julian day at 0h of the day that holds the local instant.
 double DayStart(double local) { return std::floor(local - 0.5) + 0.5; }
 
+// The locale's short clock; the C locale's would show seconds, which reminders never have.
 QString LocaleClock(const std::string& clock24)
 {
-    return QLocale().toString(
-        QTime::fromString(QString::fromStdString(clock24), QStringLiteral("HH:mm")),
-        QLocale::ShortFormat);
+    const QLocale locale;
+    const QString format = locale.language() == QLocale::C
+                               ? QStringLiteral("HH:mm")
+                               : locale.timeFormat(QLocale::ShortFormat);
+    return locale.toString(
+        QTime::fromString(QString::fromStdString(clock24), QStringLiteral("HH:mm")), format);
 }
 } // namespace
 

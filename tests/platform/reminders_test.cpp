@@ -165,7 +165,8 @@ TEST(ReminderNotifications, ADayOfRemindersArrivesOnTimeWithTheirTexts)
 }
 
 // Under a German or Spanish locale the program's translation is installed and the reminders
-// read in that language with the locale's 24-hour clock; English needs none.
+// read in that language with the locale's clock; English needs none, and the C locale's
+// clock shows no seconds.
 TEST(ReminderNotifications, TextsFollowTheLocalesLanguageAndClock)
 {
     DueReminder major;
@@ -178,7 +179,9 @@ TEST(ReminderNotifications, TextsFollowTheLocalesLanguageAndClock)
           {"es_MX", true, "Periodo mayor a las 17:05",
            "Bad Tölz: de 17:05 a 19:05\nValoración del día: Óptimo"},
           {"en_US", false, "Major period at 5:05 PM",
-           "Bad Tölz: from 5:05 PM to 7:05 PM\nDay rating: Best"}}) {
+           "Bad Tölz: from 5:05 PM to 7:05 PM\nDay rating: Best"},
+          {"C", false, "Major period at 17:05",
+           "Bad Tölz: from 17:05 to 19:05\nDay rating: Best"}}) {
         EXPECT_EQ(InstallTranslations(*QCoreApplication::instance(), QLocale(locale)), installed);
         const Notification n = ReminderService::Text(major, QStringLiteral("Bad Tölz"));
         EXPECT_EQ(n.Summary, QString::fromUtf8(summary)) << locale;
