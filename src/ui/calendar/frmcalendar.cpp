@@ -799,7 +799,13 @@ bool FrmCalendar::eventFilter(QObject* watched, QEvent* event)
     return QMainWindow::eventFilter(watched, event);
 }
 
-void FrmCalendar::mnuexit_Click() { close(); }
+// Exit ends the program even where the tray would keep it running after a close.
+void FrmCalendar::mnuexit_Click()
+{
+    Exiting = true;
+    if (!close())
+        Exiting = false;
+}
 
 void FrmCalendar::RecordPosition()
 {
@@ -832,7 +838,7 @@ void FrmCalendar::closeEvent(QCloseEvent* event)
         return;
     }
     event->accept();
-    emit Closed();
+    emit Closed(Exiting);
 }
 
 void FrmCalendar::Reminders_Click()

@@ -135,8 +135,9 @@ public:
     int DetailCell = -1;         // the cell it shows
 
 signals:
-    // The window has saved the settings and closed; whoever runs it decides whether to quit.
-    void Closed();
+    // The window has saved the settings and closed; whoever runs it decides whether to quit
+    // (always when `exiting`, through Exit).
+    void Closed(bool exiting);
     // A location's reminder options were changed.
     void RemindersChanged();
 
@@ -148,6 +149,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool Exiting = false; // Exit was chosen
+
     void BuildControls();
     void BuildDetailsPanel(QWidget* central);
     void BuildMenus();

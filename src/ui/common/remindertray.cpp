@@ -31,10 +31,10 @@ bool ReminderTray::KeepsRunning() const
 
 void ReminderTray::Refresh() { Icon.setVisible(KeepsRunning()); }
 
-void ReminderTray::WindowClosed()
+void ReminderTray::WindowClosed(bool exiting)
 {
     Refresh();
-    if (Quitting || !KeepsRunning())
+    if (exiting || Quitting || !KeepsRunning())
         QApplication::quit();
 }
 

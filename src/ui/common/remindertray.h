@@ -19,8 +19,9 @@ public:
 
     // Shows the icon while the desktop has a tray and reminders are on; hides it otherwise.
     void Refresh();
-    // The main window has closed: the program quits unless the tray keeps it running.
-    void WindowClosed();
+    // The main window has closed: the program quits when `exiting` (Exit was chosen) or
+    // unless the tray keeps it running.
+    void WindowClosed(bool exiting);
     void Open_Click();
     void Quit_Click();
 
