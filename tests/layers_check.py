@@ -25,7 +25,8 @@ LAYERS = [
     (["db"], {"QtCore", "QtSql"}),
     (["logdb"], {"QtCore", "QtSql"}),
     (["pages"], {"QtCore", "QtSql", "QtGui"}),
-    (["platform"], {"QtCore", "QtGui"}),
+    # The desktop's notification service is reached over D-Bus from here only.
+    (["platform"], {"QtCore", "QtGui", "QtDBus"}),
     (["ui/common"], {"QtCore", "QtSql", "QtGui", "QtWidgets", "QtPrintSupport"}),
     (["ui/views", "ui/log", "ui/locations"],
      {"QtCore", "QtSql", "QtGui", "QtWidgets", "QtPrintSupport", "QtCharts"}),

@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""A program's manual page and bash completion, made from its --help text, so neither can
-drift from what the program says of itself.
+"""A program's manual page and its bash and zsh completions, made from its --help text, so
+none can drift from what the program says of itself.
 
   cli_docs.py man PROGRAM VERSION OUT.1            the help of `PROGRAM --help`
   cli_docs.py man --text HELP.txt VERSION OUT.1    a help text kept in a file
   cli_docs.py bash PROGRAM OUT                     a bash completion for PROGRAM
+  cli_docs.py zsh PROGRAM OUT                      a zsh completion for PROGRAM (_PROGRAM)
 
 The help's layout: a first line "name: what it is", blocks under headings ending in ':',
 each item two spaces in ("  term   what it does", longer descriptions on deeper-indented
@@ -106,11 +107,14 @@ def takes_value(word, following):
         following.strip("[]")[:1].isupper() or "|" in following or following[:1].isdigit())
 
 
-def bash_completion(help_text, program):
+def completion_model(help_text, program):
+    """What a shell completes, from the help: the first words, each command's options, the
+    option values it names, the options taking a file or another value, and the commands that
+    take files."""
     usages = command_usages(help_text, program)
     groups = {"LOCATION": section_options(help_text, "Location"),
               "CONDITIONS": section_options(help_text, "Conditions")}
-    options, choices, file_values, file_commands, valued = {}, [], [], [], set()
+    options, choices, file_values, file_commands, valued = {}, {}, [], [], set()
     for command, words in usages.items():
         own = {"--help"}
         for i, word in enumerate(words):
@@ -121,7 +125,7 @@ def bash_completion(help_text, program):
                 if takes_value(bare, following):
                     valued.add(opt)
                     if "|" in following:
-                        choices.append(f'    "{command} {opt}") words="{following.replace("|", " ")}" ;;')
+                        choices[f"{command} {opt}"] = following.replace("|", " ")
                     elif following.startswith("FILE"):
                         file_values.append(f'"{command} {opt}"')
             own.update(groups.get(bare, []))
@@ -135,29 +139,63 @@ def bash_completion(help_text, program):
                 words = term.split()
                 valued.update(w for i, w in enumerate(words) if OPTION.fullmatch(w) and
                               takes_value(w, words[i + 1] if i + 1 < len(words) else ""))
-    function = "_" + re.sub(r"\W", "_", program)
-    top = sorted(usages) + ["--help", "--version", "-V"]
-    lines = [f"# bash completion for {program}, made from its --help by tools/cli_docs.py",
-             f"{function}() {{",
+    return {"program": program, "function": "_" + re.sub(r"\W", "_", program),
+            "top": sorted(usages) + ["--help", "--version", "-V"], "options": options,
+            "choices": choices, "file_values": file_values, "file_commands": file_commands,
+            "valued": sorted(valued)}
+
+
+def bash_completion(m):
+    lines = [f"# bash completion for {m['program']}, made from its --help by tools/cli_docs.py",
+             f"{m['function']}() {{",
              "  local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD-1]} words=",
              '  if [ "$COMP_CWORD" -eq 1 ]; then',
-             f'    COMPREPLY=($(compgen -W "{" ".join(top)}" -- "$cur"))',
+             f'    COMPREPLY=($(compgen -W "{" ".join(m["top"])}" -- "$cur"))',
              "    return",
              "  fi",
              "  local command=${COMP_WORDS[1]}",
              '  case "$command $prev" in']
-    lines += choices
-    if file_values:
-        lines.append(f'    {"|".join(file_values)}) COMPREPLY=($(compgen -f -- "$cur")); return ;;')
-    if valued:
-        lines.append(f'    {"|".join(f"*{chr(34)} {o}{chr(34)}" for o in sorted(valued))}) return ;;')
+    lines += [f'    "{key}") words="{values}" ;;' for key, values in m["choices"].items()]
+    if m["file_values"]:
+        lines.append(f'    {"|".join(m["file_values"])}) COMPREPLY=($(compgen -f -- "$cur")); return ;;')
+    if m["valued"]:
+        lines.append(f'    {"|".join(f"*{chr(34)} {o}{chr(34)}" for o in m["valued"])}) return ;;')
     lines += ["    *)", '      case "$command" in']
-    lines += [f'        {c}) words="{" ".join(o)}" ;;' for c, o in sorted(options.items())]
+    lines += [f'        {c}) words="{" ".join(o)}" ;;' for c, o in sorted(m["options"].items())]
     lines += ["      esac ;;", "  esac", '  COMPREPLY=($(compgen -W "$words" -- "$cur"))']
-    if file_commands:
-        lines += [f'  case "$command" in {"|".join(file_commands)})',
+    if m["file_commands"]:
+        lines += [f'  case "$command" in {"|".join(m["file_commands"])})',
                   '    [[ $cur != -* ]] && COMPREPLY+=($(compgen -f -- "$cur")) ;;', "  esac"]
-    lines += ["}", f"complete -F {function} {program}", ""]
+    lines += ["}", f"complete -F {m['function']} {m['program']}", ""]
+    return "\n".join(lines)
+
+
+def zsh_completion(m):
+    """The same choices as bash's, for zsh's completion system (compadd filters by what is
+    typed)."""
+    lines = [f"#compdef {m['program']}",
+             f"# zsh completion for {m['program']}, made from its --help by tools/cli_docs.py",
+             f"{m['function']}() {{",
+             "  local cur=${words[CURRENT]} prev=${words[CURRENT-1]}",
+             "  local -a offer",
+             "  if (( CURRENT == 2 )); then",
+             f"    compadd -- {' '.join(m['top'])}",
+             "    return",
+             "  fi",
+             "  local command=${words[2]}",
+             '  case "$command $prev" in']
+    lines += [f'    "{key}") compadd -- {values}; return ;;' for key, values in m["choices"].items()]
+    if m["file_values"]:
+        lines.append(f'    {"|".join(m["file_values"])}) _files; return ;;')
+    if m["valued"]:
+        lines.append(f'    {"|".join(f"*{chr(34)} {o}{chr(34)}" for o in m["valued"])}) return ;;')
+    lines += ["  esac", '  case "$command" in']
+    lines += [f'    {c}) offer=({" ".join(o)}) ;;' for c, o in sorted(m["options"].items())]
+    lines += ["  esac", "  compadd -- $offer"]
+    if m["file_commands"]:
+        lines += [f'  case "$command" in {"|".join(m["file_commands"])})',
+                  "    [[ $cur == -* ]] || _files ;;", "  esac"]
+    lines += ["}", f'{m["function"]} "$@"', ""]
     return "\n".join(lines)
 
 
@@ -166,8 +204,10 @@ def main(argv):
         text = open(argv[2]).read() if argv[1] == "--text" else help_of(argv[1])
         version, out = argv[-2:]
         open(out, "w").write(man_page(text, version))
-    elif len(argv) == 3 and argv[0] == "bash":
-        open(argv[2], "w").write(bash_completion(help_of(argv[1]), os.path.basename(argv[1])))
+    elif len(argv) == 3 and argv[0] in ("bash", "zsh"):
+        model = completion_model(help_of(argv[1]), os.path.basename(argv[1]))
+        make = bash_completion if argv[0] == "bash" else zsh_completion
+        open(argv[2], "w").write(make(model))
     else:
         sys.exit(__doc__)
 

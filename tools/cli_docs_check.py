@@ -4,7 +4,8 @@
   cli_docs_check.py manuals MAN_DIR
       every page renders through groff and man without a warning, with its sections
   cli_docs_check.py completion COMPLETION_DIR PROGRAM...
-      bash, given the completion, offers every command and every option the program's
+      bash and zsh, given the completions (COMPLETION_DIR/PROGRAM and
+      COMPLETION_DIR/zsh/_PROGRAM), offer every command and every option the program's
       --help names, and each command's own options after it
 """
 import glob
@@ -30,26 +31,41 @@ def check_manuals(man_dir):
             assert re.search(rf"^{section}$", shown.stdout, re.M), (page, section)
 
 
-def offered(completion, program, words):
+def offered_bash(completion_dir, program, words):
     """What bash offers after `program words...` (the last word is the one being typed)."""
     script = (f'source "$0"; COMP_WORDS=({program} "$@"); COMP_CWORD={len(words)}; '
               f'_{re.sub(r"[^A-Za-z0-9]", "_", program)}; printf "%s\\n" "${{COMPREPLY[@]}}"')
-    out = subprocess.run(["bash", "-c", script, completion] + words, capture_output=True,
-                         text=True, check=True).stdout
+    out = subprocess.run(["bash", "-c", script, os.path.join(completion_dir, program)] + words,
+                         capture_output=True, text=True, check=True).stdout
     return set(out.split())
 
 
+def offered_zsh(completion_dir, program, words):
+    """What zsh's completion function adds after `program words...`, kept to those that begin
+    with the word being typed as zsh keeps them; compadd and _files print what they are given."""
+    script = ('compadd() { while [[ $1 != -- ]]; do shift; done; shift; print -l -- "$@"; }; '
+              '_files() { print -- "<files>"; }; words=("$@"); CURRENT=$#; source "$0"')
+    completion = os.path.join(completion_dir, "zsh", "_" + program)
+    out = subprocess.run(["zsh", "-f", "-c", script, completion, program] + words,
+                         capture_output=True, text=True, check=True).stdout
+    return {w for w in out.split() if w.startswith(words[-1])}
+
+
 def check_completion(completion_dir, programs):
+    for offered in (offered_bash, offered_zsh):
+        check_shell(offered, completion_dir, programs)
+
+
+def check_shell(offered, completion_dir, programs):
     for path in programs:
         program = os.path.basename(path)
-        completion = os.path.join(completion_dir, program)
         help_text = subprocess.run([path, "--help"], capture_output=True, text=True).stdout
         commands = re.findall(r"^  (\w+)\s", help_text.split("\nCommands:\n")[1], re.M)
-        top = offered(completion, program, [""])
+        top = offered(completion_dir, program, [""])
         assert set(commands) | {"--help", "--version", "-V"} <= top, (program, top)
         everything = set(top)
         for command in commands:
-            own = offered(completion, program, [command, "--"])
+            own = offered(completion_dir, program, [command, "--"])
             usage = [l for l in help_text.splitlines() if l.startswith(f"  {program} {command} ")]
             named = {o for l in usage for o in OPTION.findall(l)}
             assert named <= own, (program, command, named - own)
@@ -57,7 +73,7 @@ def check_completion(completion_dir, programs):
         missing = set(OPTION.findall(help_text)) - everything
         assert not missing, (program, sorted(missing))
     # A closed set of values is offered after its option.
-    assert offered(os.path.join(completion_dir, "quillmere-forecast"), "quillmere-forecast",
+    assert offered(completion_dir, "quillmere-forecast",
                    ["days", "--format", ""]) == {"text", "csv", "json", "ics"}
 
 

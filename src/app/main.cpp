@@ -1,9 +1,12 @@
 // Quillmere: a fishing calendar. It takes --reset, --help and --version; anything else is
 // refused with a usage line, and touches nothing.
 #include "app/startup.h"
+#include "platform/reminderservice.h"
 #include "platform/singleinstance.h"
+#include "platform/translations.h"
 #include "ui/calendar/frmcalendar.h"
 #include "ui/common/appstate.h"
+#include "ui/common/remindertray.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -25,6 +28,7 @@ int main(int argc, char** argv)
     if (request.What != Kind::Run && request.What != Kind::Reset)
         return AnswerStartRequest(request, std::cout, std::cerr);
     QApplication::setApplicationName(QStringLiteral("Quillmere"));
+    InstallTranslations(qapp);
     // The desktop matches the windows to the installed launcher and its icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.quillmere.Quillmere"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("io.github.quillmere.Quillmere")));
@@ -39,6 +43,15 @@ int main(int argc, char** argv)
         break;
     }
     FrmCalendar window(app);
+    // The reminders go out while the program runs; the tray keeps it running for them when
+    // the window is closed, and quits it otherwise.
+    Notifier notifier;
+    ReminderService reminders(app.Config, notifier);
+    reminders.Start();
+    ReminderTray tray(window, [&app] { return AnyReminders(app.Config); });
+    QApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(&window, &FrmCalendar::Closed, &tray, &ReminderTray::WindowClosed);
+    QObject::connect(&window, &FrmCalendar::RemindersChanged, &tray, &ReminderTray::Refresh);
     window.show();
     return QApplication::exec();
 }

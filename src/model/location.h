@@ -3,6 +3,8 @@
 // may also name its zone of the tz database, whose offsets the "Local Clock" mode follows.
 #pragma once
 
+#include "model/reminder.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -15,6 +17,9 @@ struct Location {
     double Latitude = 0.0;
     std::int16_t TimeZone = 0;
     std::string TzName; // "America/Chicago"; empty for a whole-hour zone only
+    ReminderOption Reminder;
+
+    friend bool operator==(const Location&, const Location&) = default;
 };
 
 constexpr int LocationCount = 10;

@@ -99,6 +99,42 @@ std::int16_t ZoneHours(const std::string& key, const std::string& text)
 
 std::string K(const QString& key) { return key.toStdString(); }
 
+std::string BoolText(bool b) { return b ? "True" : "False"; }
+
+// A location's reminders; files written before reminders existed have none.
+ReminderOption ReadReminder(const SettingsStore& store, int n)
+{
+    ReminderOption r;
+    const auto flag = [&](const char* field) {
+        const QString key = Key("Usr", n, field);
+        return ToBool(K(key), Read(store, key, "False"));
+    };
+    r.Majors = flag("RemindMajor");
+    r.Minors = flag("RemindMinor");
+    r.SunEvents = flag("RemindSun");
+    r.BestDaysOnly = flag("RemindBest");
+    const QString lead = Key("Usr", n, "RemindLead");
+    r.LeadMinutes = ToInt<std::int16_t>(
+        K(lead), Read(store, lead, std::to_string(DefaultReminderLead).c_str()));
+    if (r.LeadMinutes < ShortestReminderLead || r.LeadMinutes > LongestReminderLead)
+        throw SettingError{K(lead), std::to_string(r.LeadMinutes),
+                           "minutes from " + std::to_string(ShortestReminderLead) + " to " +
+                               std::to_string(LongestReminderLead)};
+    return r;
+}
+
+void WriteReminder(SettingsStore& store, int n, const ReminderOption& r)
+{
+    const auto write = [&](const char* field, const std::string& text) {
+        store.Write(Key("Usr", n, field), QString::fromStdString(text));
+    };
+    write("RemindMajor", BoolText(r.Majors));
+    write("RemindMinor", BoolText(r.Minors));
+    write("RemindSun", BoolText(r.SunEvents));
+    write("RemindBest", BoolText(r.BestDaysOnly));
+    write("RemindLead", std::to_string(r.LeadMinutes));
+}
+
 } // namespace
 
 std::string LongitudeText(double degrees) { return VbFormat(degrees, "###.00"); }
@@ -130,6 +166,7 @@ void LoadSettings(Settings& s, const SettingsStore& store)
         loc.Name = Read(store, name, d.Name);
         // Files written before locations had zones have no such key: no zone.
         loc.TzName = Read(store, zone, "");
+        loc.Reminder = ReadReminder(store, n);
     }
 }
 
@@ -145,6 +182,7 @@ bool SaveSettings(const Settings& s, SettingsStore& store)
         write(Key("Usr", n, "TZ"), TimeZoneText(loc.TimeZone));
         write(Key("Usr", n, "Name"), loc.Name);
         write(Key("Usr", n, "Zone"), loc.TzName);
+        WriteReminder(store, n, loc.Reminder);
     }
     write("FormTop", s.FormTop);
     write("FormLeft", std::to_string(s.FormLeft));
@@ -153,7 +191,7 @@ bool SaveSettings(const Settings& s, SettingsStore& store)
     write("DefLoc", s.DefLoc);
     write("AMPM", s.AMPM);
     write("Graphic", std::to_string(s.Graphic));
-    write("MouseClick", s.MouseClick ? "True" : "False");
+    write("MouseClick", BoolText(s.MouseClick));
     write("ParallacticAngle", s.ParallacticAngle);
     write("TimeFormats", std::to_string(s.TimeFormats));
     return store.Flush();

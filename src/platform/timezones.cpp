@@ -10,12 +10,12 @@ namespace {
 // Julian day of the Unix epoch, 1970-01-01 0h UT.
 constexpr double UnixEpochJD = 2440587.5;
 constexpr double SecondsPerDay = 86400.0;
+} // namespace
 
-double JulianDayOf(const QDateTime& utc)
+double InstantJulianDay(const QDateTime& utc)
 {
     return UnixEpochJD + double(utc.toSecsSinceEpoch()) / SecondsPerDay;
 }
-} // namespace
 
 bool ZoneKnown(const std::string& name)
 {
@@ -62,8 +62,8 @@ ZoneRules LoadZoneRules(const std::string& name, int fromYear, int toYear)
     const QTimeZone zone(QByteArray::fromStdString(name));
     const QDateTime from(QDate(fromYear, 1, 1), QTime(0, 0), Qt::UTC);
     const QDateTime to(QDate(toYear + 1, 1, 1), QTime(0, 0), Qt::UTC);
-    rules.Offsets.push_back({JulianDayOf(from), zone.offsetFromUtc(from) / 60});
+    rules.Offsets.push_back({InstantJulianDay(from), zone.offsetFromUtc(from) / 60});
     for (const QTimeZone::OffsetData& t : zone.transitions(from, to))
-        rules.Offsets.push_back({JulianDayOf(t.atUtc), t.offsetFromUtc / 60});
+        rules.Offsets.push_back({InstantJulianDay(t.atUtc), t.offsetFromUtc / 60});
     return rules;
 }

@@ -8,6 +8,10 @@
 #include <string>
 #include <vector>
 
+class QDateTime;
+
+// The UT Julian day of an instant, to the second.
+double InstantJulianDay(const QDateTime& t);
 // Whether the system knows the zone name ("Europe/Oslo").
 bool ZoneKnown(const std::string& name);
 // Every zone name the system knows, sorted.

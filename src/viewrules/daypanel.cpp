@@ -98,13 +98,15 @@ std::string LabelToolTip(int i, const DayForecast& f, bool ampm)
     auto clock = [ampm](double h) { return FormatClock(0, h, ampm); };
     switch (i) {
     case 0:
-        return Window(f.Major1, 1.0, ampm);
+        return Window(f.Major1, MajorHalfHours, ampm);
     case 2:
-        return Window(f.Major2, 1.0, ampm);
+        return Window(f.Major2, MajorHalfHours, ampm);
     case 4:
-        return f.Minor1Text.rfind("**", 0) == 0 ? " ****** " : Window(f.Minor1, 0.58, ampm);
+        return f.Minor1Text.rfind("**", 0) == 0 ? " ****** "
+                                                : Window(f.Minor1, MinorHalfHours, ampm);
     case 5:
-        return f.Minor2Text.rfind("**", 0) == 0 ? " ****** " : Window(f.Minor2, 0.58, ampm);
+        return f.Minor2Text.rfind("**", 0) == 0 ? " ****** "
+                                                : Window(f.Minor2, MinorHalfHours, ampm);
     case 7:
         return " Length of day, Sunrise to Sunset ";
     case 14:

@@ -14,6 +14,10 @@ struct DayPanel {
     std::map<int, std::uint32_t> Colors; // Label(i) -> 0x00BBGGRR; absent: left as it was
 };
 
+// Half the width of a major and of a minor period, in hours: the windows the tool tips give.
+constexpr double MajorHalfHours = 1.0;
+constexpr double MinorHalfHours = 0.58;
+
 constexpr std::uint32_t Black = 0x000000;
 constexpr std::uint32_t Red = 0x0000FF;
 constexpr std::uint32_t Yellow = 0x00FFFF;

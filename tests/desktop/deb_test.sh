@@ -32,7 +32,9 @@ id=io.github.quillmere.Quillmere
 for path in bin/quillmere bin/quillmere-forecast bin/quillmere-log share/man/man1/quillmere.1.gz \
             share/man/man1/quillmere-forecast.1.gz share/man/man1/quillmere-log.1.gz \
             share/bash-completion/completions/quillmere-forecast \
-            share/bash-completion/completions/quillmere-log share/applications/$id.desktop \
+            share/bash-completion/completions/quillmere-log \
+            share/zsh/site-functions/_quillmere-forecast share/zsh/site-functions/_quillmere-log \
+            share/applications/$id.desktop \
             share/metainfo/$id.metainfo.xml share/icons/hicolor/256x256/apps/$id.png \
             share/quillmere/seed/Encdb.MDB share/quillmere/default_schema.sql \
             share/doc/quillmere/copyright share/doc/quillmere/changelog.gz; do

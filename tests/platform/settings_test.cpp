@@ -48,7 +48,10 @@ TEST(Settings, StoredTextFormsRoundTrip)
     LoadSettings(s, store);
     EXPECT_DOUBLE_EQ(s.Locations[1].Longitude, 92.42);
     EXPECT_DOUBLE_EQ(s.Locations[3].Latitude, -0.5);
+    EXPECT_FALSE(s.Locations[2].Reminder.Any()); // files from before reminders have none
     s.Locations[5].Longitude = 0.5;
+    s.Locations[2].Reminder = {
+        .Minors = true, .SunEvents = true, .LeadMinutes = 45, .BestDaysOnly = true};
     EXPECT_TRUE(SaveSettings(s, store));
     EXPECT_EQ(store.Read("Usr1Long", ""), "92.42");
     EXPECT_EQ(store.Read("Usr2Long", ""), "80.20");
@@ -64,6 +67,10 @@ TEST(Settings, StoredTextFormsRoundTrip)
     EXPECT_DOUBLE_EQ(again.Locations[5].Longitude, 0.5);
     EXPECT_EQ(again.Locations[4].TimeZone, -3);
     EXPECT_FALSE(again.MouseClick);
+    EXPECT_EQ(store.Read("Usr2RemindLead", ""), "45");
+    EXPECT_EQ(store.Read("Usr2RemindMajor", ""), "False");
+    EXPECT_TRUE(again.Locations[2].Reminder == s.Locations[2].Reminder);
+    EXPECT_TRUE(again.Locations[3].Reminder == ReminderOption{});
 }
 
 TEST(Settings, FirstStartValuesDifferFromTheDefaultsInThreePlaces)
@@ -134,7 +141,10 @@ TEST(Settings, HandWrittenFileIsReadWholeAndRangeChecked)
                                     {"Usr3Lat=-90.5", "Usr3Lat"},
                                     {"Usr2Long=180.01", "Usr2Long"},
                                     {"Usr1TZ=30000", "Usr1TZ"},
-                                    {"Usr10TZ=-13", "Usr10TZ"}}) {
+                                    {"Usr10TZ=-13", "Usr10TZ"},
+                                    {"Usr4RemindLead=0", "Usr4RemindLead"},
+                                    {"Usr4RemindLead=721", "Usr4RemindLead"},
+                                    {"Usr5RemindSun=sometimes", "Usr5RemindSun"}}) {
         writeFile(QByteArray(line) + "\n");
         try {
             LoadSettings(s, store);
@@ -143,7 +153,7 @@ TEST(Settings, HandWrittenFileIsReadWholeAndRangeChecked)
             EXPECT_EQ(e.Key, key);
         }
     }
-    writeFile("Usr1Lat=-90\nUsr2Long=-180\nUsr1TZ=-12\nUsr2TZ=12\n");
+    writeFile("Usr1Lat=-90\nUsr2Long=-180\nUsr1TZ=-12\nUsr2TZ=12\nUsr4RemindLead=720\n");
     EXPECT_NO_THROW(LoadSettings(s, store));
 }
 

@@ -14,6 +14,7 @@
 #include "ui/calendar/daycellwidget.h"
 #include "ui/calendar/frmabout.h"
 #include "ui/calendar/frmprint.h"
+#include "ui/calendar/frmreminders.h"
 #include "ui/calendar/frmyearcal.h"
 #include "ui/calendar/helpwindow.h"
 #include "ui/common/appstate.h"
@@ -258,6 +259,8 @@ void FrmCalendar::BuildMenus()
     pan->setObjectName(QStringLiteral("Pan"));
     Pangle[0] = Item(pan, QStringLiteral("Parallactic Off"), QStringLiteral("Pangle0"), true);
     Pangle[1] = Item(pan, QStringLiteral("Parallactic On"), QStringLiteral("Pangle1"), true);
+    Reminders = Item(options, QStringLiteral("Reminders..."), QStringLiteral("Reminders"));
+    connect(Reminders, &QAction::triggered, this, &FrmCalendar::Reminders_Click);
     for (int i = 0; i < 3; ++i)
         connect(DST[std::size_t(i)], &QAction::triggered, this, [this, i] { DST_Click(i); });
     for (int i = 0; i < 2; ++i) {
@@ -796,7 +799,13 @@ bool FrmCalendar::eventFilter(QObject* watched, QEvent* event)
     return QMainWindow::eventFilter(watched, event);
 }
 
-void FrmCalendar::mnuexit_Click() { close(); }
+// Exit ends the program even where the tray would keep it running after a close.
+void FrmCalendar::mnuexit_Click()
+{
+    Exiting = true;
+    if (!close())
+        Exiting = false;
+}
 
 void FrmCalendar::RecordPosition()
 {
@@ -829,7 +838,14 @@ void FrmCalendar::closeEvent(QCloseEvent* event)
         return;
     }
     event->accept();
-    QApplication::quit();
+    emit Closed(Exiting);
+}
+
+void FrmCalendar::Reminders_Click()
+{
+    FrmReminders options(App.Config, this);
+    if (options.exec() == QDialog::Accepted)
+        emit RemindersChanged();
 }
 
 void FrmCalendar::PrintCalendar_Click()

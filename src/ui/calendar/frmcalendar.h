@@ -53,6 +53,8 @@ public:
     void DST_Click(int index);
     void Mouse_Click(int index);
     void Pangle_Click(int index);
+    // "Reminders...": the reminder options of the ten locations.
+    void Reminders_Click();
     void DLoc_Click(int index);
     // "Edit A Location": the location editor on location index, the main window out of view.
     void Loc_Click(int index);
@@ -104,6 +106,7 @@ public:
     std::array<QAction*, 3> DST{}; // "Daylight Savings", "Standard", "Local Clock"
     std::array<QAction*, 2> Mouse{};
     std::array<QAction*, 2> Pangle{};
+    QAction* Reminders = nullptr;
     std::array<QAction*, 11> DLoc{}; // 1..10
     std::array<QAction*, 11> Loc{};  // 1..10
     QAction* HelpContents = nullptr;
@@ -131,6 +134,13 @@ public:
     FrmDetail* Detail = nullptr; // the day detail window, made on the first double click
     int DetailCell = -1;         // the cell it shows
 
+signals:
+    // The window has saved the settings and closed; whoever runs it decides whether to quit
+    // (always when `exiting`, through Exit).
+    void Closed(bool exiting);
+    // A location's reminder options were changed.
+    void RemindersChanged();
+
 protected:
     // Each time the window is shown (at start and when it comes back from a window that hid
     // it), it activates: the selected day at noon at the current location.
@@ -139,6 +149,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool Exiting = false; // Exit was chosen
+
     void BuildControls();
     void BuildDetailsPanel(QWidget* central);
     void BuildMenus();

@@ -1,0 +1,196 @@
+// The reminders as the desktop receives them: a session bus of the test's own (dbus-daemon
+// --session), a notification service on it that records what it is sent, and the program's
+// reminder service stepped through a day on the fake clock.
+#include "platform/reminderservice.h"
+
+#include "astro/astronomy.h"
+#include "calendar/calendar.h"
+#include "model/currentlocation.h"
+#include "platform/timezones.h"
+#include "platform/translations.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDateTime>
+#include <QElapsedTimer>
+#include <QLocale>
+#include <QProcess>
+#include <QTranslator>
+
+#include <gtest/gtest.h>
+
+namespace {
+// The desktop's notification service, as far as a sender sees it.
+class FakeNotifications : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+public:
+    struct Received {
+        QString App, Icon, Summary, Body;
+        QVariantMap Hints;
+        int Expiry = 0;
+        QDateTime At; // the fake clock when it arrived
+    };
+    std::vector<Received> Got;
+
+public slots:
+    uint Notify(const QString& app, uint, const QString& icon, const QString& summary,
+                const QString& body, const QStringList&, const QVariantMap& hints, int expiry)
+    {
+        const QDateTime at =
+            QDateTime::fromString(qEnvironmentVariable("QUILLMERE_NOW"), Qt::ISODate);
+        Got.push_back({app, icon, summary, body, hints, expiry, at});
+        return uint(Got.size());
+    }
+};
+
+// A session bus of the test's own, so nothing reaches the desktop the tests run on.
+class PrivateBus {
+public:
+    PrivateBus()
+    {
+        Daemon.start(QStringLiteral("dbus-daemon"),
+                     {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                      QStringLiteral("--print-address=1")});
+        if (Daemon.waitForStarted() && Daemon.waitForReadyRead())
+            Address = QString::fromUtf8(Daemon.readLine()).trimmed();
+    }
+    ~PrivateBus()
+    {
+        Daemon.kill();
+        Daemon.waitForFinished();
+    }
+    QDBusConnection Connect(const QString& name) const
+    {
+        return QDBusConnection::connectToBus(Address, name);
+    }
+    QString Address;
+
+private:
+    QProcess Daemon;
+};
+
+// Lets the bus deliver until the service holds `count` notifications or a few seconds pass.
+void AwaitCount(const FakeNotifications& service, std::size_t count)
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (service.Got.size() < count && waited.elapsed() < 5000)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+}
+} // namespace
+
+// Stepped five minutes at a time through 12 March 2024 at Alexandria on its own clock (CDT),
+// each reminder arrives within the step after it falls due, lead minutes before its event,
+// with the program's texts, and only once.
+TEST(ReminderNotifications, ADayOfRemindersArrivesOnTimeWithTheirTexts)
+{
+    PrivateBus bus;
+    ASSERT_FALSE(bus.Address.isEmpty());
+    FakeNotifications service;
+    QDBusConnection server = bus.Connect(QStringLiteral("notification-service"));
+    ASSERT_TRUE(server.registerService(QStringLiteral("org.freedesktop.Notifications")));
+    ASSERT_TRUE(server.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &service,
+                                      QDBusConnection::ExportAllSlots));
+    Notifier notifier(bus.Connect(QStringLiteral("quillmere")));
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+
+    Settings s;
+    s.TimeFormats = LocalClockMode;
+    constexpr int lead = 30;
+    s.Locations[1] = {"Alexandria, LA",
+                      92.42,
+                      31.25,
+                      6,
+                      "America/Chicago",
+                      {.Majors = true, .Minors = true, .SunEvents = true, .LeadMinutes = lead}};
+    ReminderService reminders(s, notifier);
+
+    const QDateTime start = QDateTime::fromString("2024-03-12T00:00:00-05:00", Qt::ISODate);
+    constexpr int stepMinutes = 5;
+    for (int minute = 0; minute < MinutesPerDay; minute += stepMinutes) {
+        const QDateTime now = start.addSecs(qint64(minute) * SecondsPerMinute);
+        qputenv("QUILLMERE_NOW", now.toString(Qt::ISODateWithMs).toUtf8());
+        const std::size_t before = service.Got.size();
+        AwaitCount(service, before + std::size_t(reminders.Check()));
+    }
+    qunsetenv("QUILLMERE_NOW");
+
+    // What the engine's forecast asks for, due within the day.
+    Astronomy engine;
+    CurrentLocation here;
+    ApplyLocationValues(s, here, engine.Site, LocationClock(s.Locations[1]));
+    Calendar cal;
+    const std::vector<DueReminder> planned = ScheduleReminders(
+        {ReminderDayAt(engine, cal, 0, 2024, 3, 12), ReminderDayAt(engine, cal, 0, 2024, 3, 13)},
+        s.Locations[1].Reminder);
+    std::vector<DueReminder> expected;
+    const double dayStartUT = InstantJulianDay(start);
+    for (const DueReminder& r : planned) {
+        const double at = engine.Site.InstantOf(r.At);
+        if (at > dayStartUT - 30.0 / SecondsPerDay && at < dayStartUT + 1.0)
+            expected.push_back(r);
+    }
+    ASSERT_EQ(service.Got.size(), expected.size());
+    EXPECT_GE(expected.size(), 6u);
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        const auto& got = service.Got[i];
+        const double arrived = InstantJulianDay(got.At),
+                     due = engine.Site.InstantOf(expected[i].At);
+        EXPECT_GE(arrived, due - 1e-6) << i;
+        EXPECT_LT(arrived, due + stepMinutes / double(MinutesPerDay)) << i;
+        const Notification text = ReminderService::Text(expected[i], "Alexandria, LA");
+        EXPECT_EQ(got.Summary, text.Summary) << i;
+        EXPECT_EQ(got.Body, text.Body) << i;
+        EXPECT_EQ(got.App, "Quillmere");
+        EXPECT_EQ(got.Icon, "io.github.quillmere.Quillmere");
+        EXPECT_EQ(got.Hints.value("desktop-entry").toString(), "io.github.quillmere.Quillmere");
+        EXPECT_EQ(got.Expiry, -1);
+    }
+    // Sunrise and sunset as PyEphem gives them for the place and day (07:21:26 and 19:17:27
+    // CDT) to the engine's minute, each told the lead time before, within a step.
+    for (const auto& [event, ephem] : {std::pair{QStringLiteral("Sunrise at "), QTime(7, 21, 26)},
+                                       {QStringLiteral("Sunset at "), QTime(19, 17, 27)}}) {
+        const auto sun = std::find_if(service.Got.begin(), service.Got.end(), [&](const auto& got) {
+            return got.Summary.startsWith(event);
+        });
+        ASSERT_NE(sun, service.Got.end()) << event.toStdString();
+        const QTime shown = QLocale().toTime(sun->Summary.mid(event.size()), QLocale::ShortFormat);
+        EXPECT_LE(std::abs(shown.secsTo(ephem)), 90) << sun->Summary.toStdString();
+        EXPECT_EQ(sun->Body, "Alexandria, LA\nDay rating: Best");
+        const int told = sun->At.time().secsTo(shown);
+        EXPECT_GT(told, (lead - stepMinutes) * SecondsPerMinute) << sun->Summary.toStdString();
+        EXPECT_LE(told, lead * SecondsPerMinute) << sun->Summary.toStdString();
+    }
+}
+
+// Under a German or Spanish locale the program's translation is installed and the reminders
+// read in that language with the locale's clock; English needs none, and the C locale's
+// clock shows no seconds.
+TEST(ReminderNotifications, TextsFollowTheLocalesLanguageAndClock)
+{
+    DueReminder major;
+    major.StartClock = "17:05";
+    major.EndClock = "19:05";
+    major.Rating = BestDayRating;
+    for (const auto& [locale, installed, summary, body] :
+         {std::tuple{"de_DE", true, "Hauptbeißzeit um 17:05",
+                     "Bad Tölz: von 17:05 bis 19:05\nTageswertung: Ausgezeichnet"},
+          {"es_MX", true, "Periodo mayor a las 17:05",
+           "Bad Tölz: de 17:05 a 19:05\nValoración del día: Óptimo"},
+          {"en_US", false, "Major period at 5:05 PM",
+           "Bad Tölz: from 5:05 PM to 7:05 PM\nDay rating: Best"},
+          {"C", false, "Major period at 17:05",
+           "Bad Tölz: from 17:05 to 19:05\nDay rating: Best"}}) {
+        EXPECT_EQ(InstallTranslations(*QCoreApplication::instance(), QLocale(locale)), installed);
+        const Notification n = ReminderService::Text(major, QStringLiteral("Bad Tölz"));
+        EXPECT_EQ(n.Summary, QString::fromUtf8(summary)) << locale;
+        EXPECT_EQ(n.Body, QString::fromUtf8(body)) << locale;
+        for (QTranslator* t : QCoreApplication::instance()->findChildren<QTranslator*>()) {
+            QCoreApplication::removeTranslator(t);
+            delete t;
+        }
+    }
+}
+
+#include "reminders_test.moc"
