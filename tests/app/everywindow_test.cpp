@@ -132,8 +132,8 @@ const std::vector<Window> Windows = {
      144}, // ui27forms
     {"table", [](Program& p) -> Opener { return [&p] { p.Main->ShowList_Click(); }; }, 0},
     {"databasefunctions", [](Program& p) { return p.Show<FrmSelectDB>(); }, 0},
-    {"recordbrowser", [](Program& p) { return p.Browser(); }, 96},       // ui27forms
-    {"grid", [](Program& p) { return p.Show<frmTable2>(AllDays); }, 96}, // ui27forms
+    {"recordbrowser", [](Program& p) { return p.Browser(); }, 0},
+    {"grid", [](Program& p) { return p.Show<frmTable2>(AllDays); }, 0},
     {"report", [](Program& p) { return p.Show<frmReport>(AllDays, true); }, 0},
     {"statistics", [](Program& p) { return p.Show<FrmStatistics>(p.YearFile); }, 96}, // ui27forms
     {"backups", [](Program& p) { return p.Show<FrmBackups>(p.YearFile); }, 0},
