@@ -137,8 +137,7 @@ const std::vector<Window> Windows = {
     {"report", [](Program& p) { return p.Show<frmReport>(AllDays, true); }, 0},
     {"statistics", [](Program& p) { return p.Show<FrmStatistics>(p.YearFile); }, 96}, // ui27forms
     {"backups", [](Program& p) { return p.Show<FrmBackups>(p.YearFile); }, 0},
-    {"locationeditor", [](Program& p) -> Opener { return [&p] { p.Main->Loc_Click(1); }; },
-     144}, // ui27forms
+    {"locationeditor", [](Program& p) -> Opener { return [&p] { p.Main->Loc_Click(1); }; }, 0},
     {"cityeditor",
      [](Program& p) -> Opener {
          return [&p] {
@@ -147,7 +146,7 @@ const std::vector<Window> Windows = {
              p.Opened.back()->show();
          };
      },
-     96}, // ui27forms
+     0},
 };
 
 class EveryWindow : public ::testing::TestWithParam<int> {};
