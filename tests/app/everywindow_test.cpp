@@ -128,8 +128,7 @@ const std::vector<Window> Windows = {
     {"glance", [](Program& p) -> Opener { return [&p] { p.Main->AtAGlance_Click(); }; }, 0},
     {"help", [](Program& p) -> Opener { return [&p] { p.Main->HelpContents_Click(); }; }, 0},
     {"about", [](Program& p) -> Opener { return [&p] { p.Main->MnuAbout_Click(); }; }, 0},
-    {"detail", [](Program& p) -> Opener { return [&p] { p.Main->txtpic_DblClick(10); }; },
-     144}, // ui27forms
+    {"detail", [](Program& p) -> Opener { return [&p] { p.Main->txtpic_DblClick(10); }; }, 0},
     {"table", [](Program& p) -> Opener { return [&p] { p.Main->ShowList_Click(); }; }, 0},
     {"databasefunctions", [](Program& p) { return p.Show<FrmSelectDB>(); }, 0},
     {"recordbrowser", [](Program& p) { return p.Browser(); }, 0},
