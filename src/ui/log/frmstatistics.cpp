@@ -20,6 +20,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -89,6 +91,7 @@ FrmStatistics::FrmStatistics(const LogContext& context, const QString& yearFile,
     setWindowTitle(QStringLiteral("Catch Statistics"));
     BuildControls();
     ScopeCombo_Click();
+    OpenWithinScreen();
 }
 
 void FrmStatistics::BuildControls()
@@ -107,6 +110,7 @@ void FrmStatistics::BuildControls()
     Summary->setFont(bigger);
 
     Tabs = new QTabWidget(this);
+    Tabs->tabBar()->setUsesScrollButtons(false); // every tab's caption whole, none hidden
     for (size_t i = 0; i < Stats.Groupings.size(); ++i) {
         auto* view = new QChartView(Tabs);
         view->setRenderHint(QPainter::Antialiasing);
@@ -132,7 +136,6 @@ void FrmStatistics::BuildControls()
     layout->addLayout(top);
     layout->addWidget(Summary);
     layout->addWidget(Tabs, 1);
-    resize(900, 600);
 
     connect(ScopeCombo, &QComboBox::activated, this, &FrmStatistics::ScopeCombo_Click);
     connect(CmdCopy, &QPushButton::clicked, this, &FrmStatistics::CmdCopy_Click);
@@ -211,6 +214,16 @@ void FrmStatistics::FillTable()
 void FrmStatistics::CmdCopy_Click()
 {
     QGuiApplication::clipboard()->setText(Text(CatchTableText(Stats)));
+}
+
+// The charts' customary size, or wider when the tabs need it, within the screen.
+void FrmStatistics::OpenWithinScreen()
+{
+    constexpr QSize ChartRoom(900, 600);
+    QSize size = ChartRoom.expandedTo(minimumSizeHint());
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        size = size.boundedTo(screen->availableGeometry().size());
+    resize(size);
 }
 
 void ShowStatistics(const LogContext& context, const QString& yearFile, QWidget* parent)
