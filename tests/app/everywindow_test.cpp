@@ -20,6 +20,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QScreen>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -149,6 +150,18 @@ const std::vector<Window> Windows = {
      0},
 };
 
+// The screenshots of a dark or enlarged run (QUILLMERE_TEST_DARK, a larger offscreen screen)
+// are kept apart from the plain ones.
+QString Look()
+{
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    QString look =
+        qEnvironmentVariableIsSet("QUILLMERE_TEST_DARK") ? QStringLiteral("_dark") : QString();
+    return screen == QSize(800, 800)
+               ? look
+               : look + QStringLiteral("_%1x%2").arg(screen.width()).arg(screen.height());
+}
+
 class EveryWindow : public ::testing::TestWithParam<int> {};
 
 TEST_P(EveryWindow, ShowsEveryTextWholeAndEveryChildInside)
@@ -158,7 +171,7 @@ TEST_P(EveryWindow, ShowsEveryTextWholeAndEveryChildInside)
     Program program;
     for (const Window& window : Windows) {
         const QString shot =
-            QStringLiteral("everywindow_%1_%2dpi").arg(window.Name).arg(GetParam());
+            QStringLiteral("everywindow_%1_%2dpi%3").arg(window.Name).arg(GetParam()).arg(Look());
         const QStringList faults =
             FaultsOfWindowOpenedBy(window.Open(program), shot, program.Main.get());
         const bool known = window.KnownClippedFrom != 0 && GetParam() >= window.KnownClippedFrom;

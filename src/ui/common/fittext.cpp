@@ -26,3 +26,9 @@ void FitToText(QLineEdit* box, const QStringList& widest)
     box->setMinimumWidth(
         box->style()->sizeFromContents(QStyle::CT_LineEdit, &option, inner, box).width());
 }
+
+void FixToText(QLineEdit* box, const QStringList& widest)
+{
+    FitToText(box, widest);
+    box->setMaximumWidth(box->minimumWidth());
+}

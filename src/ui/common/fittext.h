@@ -7,3 +7,5 @@
 class QLineEdit;
 
 void FitToText(QLineEdit* box, const QStringList& widest);
+// FitToText, and no wider: for boxes of values with a known widest form (times, numbers).
+void FixToText(QLineEdit* box, const QStringList& widest);

@@ -225,15 +225,15 @@ QWidget* frmTable1::BuildDayPanel()
     Label7 = new QLabel(panel);
     Label7->setObjectName(QStringLiteral("Label7"));
     for (QLineEdit* box : FakeTextBox)
-        FitToText(box, ClockTexts);
+        FixToText(box, ClockTexts);
     for (int i : {7, 8, 11, 12})
-        FitToText(txtFields[std::size_t(i)], ClockTexts);
+        FixToText(txtFields[std::size_t(i)], ClockTexts);
     for (int i : {4, 5, 6})
-        FitToText(txtFields[std::size_t(i)], TwilightTexts);
-    FitToText(txtFields[1], {QStringLiteral("00/00/0000")});
-    FitToText(Text4, {QStringLiteral("00.0000000000000")});
+        FixToText(txtFields[std::size_t(i)], TwilightTexts);
+    FixToText(txtFields[1], {QStringLiteral("00/00/0000")});
+    FixToText(Text4, {QStringLiteral("00.0000000000000")});
     for (QLineEdit* box : {txtFields[0], txtFields[13], txtFields[14], txtFields[15], Text3, Text5})
-        FitToText(box, {QStringLiteral("00000")});
+        FixToText(box, {QStringLiteral("00000")});
 
     const auto pair = [grid, panel](int row, int column, const QString& caption, QWidget* box,
                                     int span = 1) {

@@ -65,7 +65,7 @@ QWidget* frmTable1::BuildQueryPanel()
     for (std::size_t b = 0; b < Text6.size(); ++b) {
         Text6[b] = new QLineEdit(panel);
         Text6[b]->setObjectName(QStringLiteral("Text6%1").arg(b));
-        FitToText(Text6[b],
+        FixToText(Text6[b],
                   b >= 10 ? QStringList{QStringLiteral("00:00 AM"), QStringLiteral("00:00 PM")}
                           : QStringList{QStringLiteral("Fri-Sun")});
         OnClick(Text6[b], [this, b] { Text6_Click(int(b)); });
@@ -75,7 +75,7 @@ QWidget* frmTable1::BuildQueryPanel()
     Text2 = new QLineEdit(panel);
     Text2->setObjectName(QStringLiteral("Text2"));
     for (QLineEdit* clock : {Text1, Text2})
-        FitToText(clock, {QStringLiteral("00:00 AM"), QStringLiteral("00:00 PM")});
+        FixToText(clock, {QStringLiteral("00:00 AM"), QStringLiteral("00:00 PM")});
     // Typed clock times are shown as the list writes them ("7:30 PM").
     for (QLineEdit* clock : {Text1, Text2, Text6[10], Text6[11]}) {
         connect(clock, &QLineEdit::editingFinished, this, [clock] {
