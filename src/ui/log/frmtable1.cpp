@@ -321,6 +321,7 @@ QWidget* frmTable1::BuildCatchPanel()
     PeakTimeCombo->setInsertPolicy(QComboBox::NoInsert);
     Text7 = new QPlainTextEdit(catchBox);
     Text7->setObjectName(QStringLiteral("Text7"));
+    Text7->setTabChangesFocus(true); // Tab leaves the notes for the next control
     txtFields[17]->setParent(catchBox);
     txtFields[18]->setParent(catchBox);
     // The column holds 255 characters; the box takes no more and says so when it refuses.
@@ -356,6 +357,13 @@ QWidget* frmTable1::BuildCatchPanel()
     grid->addWidget(cmdUpdate, 6, 1);
     grid->setRowStretch(4, 1);
 
+    // The catch entries in the order they are filled in, then the two buttons.
+    QWidget* previous = txtFields[17];
+    for (QWidget* next :
+         std::initializer_list<QWidget*>{txtFields[18], PeakTimeCombo, Text7, cmdEdit, cmdUpdate}) {
+        setTabOrder(previous, next);
+        previous = next;
+    }
     connect(cmdEdit, &QPushButton::clicked, this, &frmTable1::cmdEdit_Click);
     connect(cmdUpdate, &QPushButton::clicked, this, &frmTable1::cmdUpdate_Click);
     connect(Combo4, &QComboBox::activated, this, &frmTable1::Combo4_Click);
