@@ -41,6 +41,7 @@ void AddDayCounts(QChart* chart, QBarSeries* series, const CatchGrouping& groupi
         const CatchGroup& g = grouping.Groups[i];
         auto* item = new QGraphicsSimpleTextItem(QString::number(g.DaysFished), chart);
         item->setZValue(10);
+        item->setBrush(chart->titleBrush()); // the theme's text colour
         counts.emplace_back(item, QPointF(double(i), g.PerDay()));
     }
     QObject::connect(chart, &QChart::plotAreaChanged, chart, [chart, series, counts] {
@@ -52,9 +53,14 @@ void AddDayCounts(QChart* chart, QBarSeries* series, const CatchGrouping& groupi
     });
 }
 
-QChart* BarChart(const CatchGrouping& grouping)
+// A chart in the dark theme on a dark window, so that its texts and grid read there too.
+QChart* BarChart(const CatchGrouping& grouping, const QPalette& palette)
 {
+    constexpr int DarkWindow = 128;
     auto* chart = new QChart;
+    chart->setTheme(palette.color(QPalette::Window).lightness() < DarkWindow
+                        ? QChart::ChartThemeDark
+                        : QChart::ChartThemeLight);
     chart->setTitle(Text(grouping.Title));
     chart->legend()->hide();
     auto* rates = new QBarSet(QStringLiteral("Fish per day fished"));
@@ -179,7 +185,7 @@ void FrmStatistics::ShowFigures()
     Summary->setText(Text(CatchSummary(Stats)));
     for (size_t i = 0; i < Charts.size(); ++i) {
         QChart* old = Charts[i]->chart();
-        Charts[i]->setChart(BarChart(Stats.Groupings[i]));
+        Charts[i]->setChart(BarChart(Stats.Groupings[i], palette()));
         delete old;
         Tabs->setTabText(int(i), Text(Stats.Groupings[i].Title));
     }
