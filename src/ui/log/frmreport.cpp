@@ -46,6 +46,7 @@ frmReport::frmReport(const LogContext& context, const QString& recordSource, boo
     mnuPrint->setObjectName(QStringLiteral("mnuPrint"));
     mnuExit = bar->addAction(QStringLiteral("&Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
+    mnuExit->setShortcut(QKeySequence::Close);
     R1 = new QPlainTextEdit(this);
     R1->setObjectName(QStringLiteral("R1"));
     R1->setReadOnly(true);

@@ -181,6 +181,7 @@ void frmTable1::BuildControls()
     auto* bar = new QMenuBar(this);
     mnuExit = bar->addAction(QStringLiteral("&Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
+    mnuExit->setShortcut(QKeySequence::Close);
     connect(mnuExit, &QAction::triggered, this, &frmTable1::mnuExit_Click);
     BuildQueryMenus(bar);
     bar->addAction("&Statistics", this,

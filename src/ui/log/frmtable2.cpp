@@ -58,6 +58,7 @@ frmTable2::frmTable2(const LogContext& context, const QString& recordSource, QWi
     auto* bar = new QMenuBar(this);
     mnuExit = bar->addAction(QStringLiteral("&Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
+    mnuExit->setShortcut(QKeySequence::Close);
     DBGrid1 = new QTableView(this);
     DBGrid1->setObjectName(QStringLiteral("DBGrid1"));
     DBGrid1->setEditTriggers(QAbstractItemView::NoEditTriggers);
