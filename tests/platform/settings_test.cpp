@@ -44,11 +44,14 @@ TEST(Settings, StoredTextFormsRoundTrip)
     store.Write("Usr4TZ", "-3");
     store.Write("Graphic", "7");
     store.Write("MouseClick", "False");
+    store.Write("Units", "Imperial");
     Settings s;
     LoadSettings(s, store);
     EXPECT_DOUBLE_EQ(s.Locations[1].Longitude, 92.42);
     EXPECT_DOUBLE_EQ(s.Locations[3].Latitude, -0.5);
+    EXPECT_TRUE(s.ImperialUnits);
     s.Locations[5].Longitude = 0.5;
+    s.ImperialUnits = false;
     EXPECT_TRUE(SaveSettings(s, store));
     EXPECT_EQ(store.Read("Usr1Long", ""), "92.42");
     EXPECT_EQ(store.Read("Usr2Long", ""), "80.20");
@@ -59,6 +62,7 @@ TEST(Settings, StoredTextFormsRoundTrip)
     EXPECT_EQ(store.Read("Graphic", ""), "7"); // kept although nothing uses it
     EXPECT_EQ(store.Read("MouseClick", ""), "False");
     EXPECT_EQ(store.Read("TimeFormats", ""), "1");
+    EXPECT_EQ(store.Read("Units", ""), "Metric");
     Settings again;
     LoadSettings(again, store);
     EXPECT_DOUBLE_EQ(again.Locations[5].Longitude, 0.5);
@@ -134,7 +138,8 @@ TEST(Settings, HandWrittenFileIsReadWholeAndRangeChecked)
                                     {"Usr3Lat=-90.5", "Usr3Lat"},
                                     {"Usr2Long=180.01", "Usr2Long"},
                                     {"Usr1TZ=30000", "Usr1TZ"},
-                                    {"Usr10TZ=-13", "Usr10TZ"}}) {
+                                    {"Usr10TZ=-13", "Usr10TZ"},
+                                    {"Units=furlongs", "Units"}}) {
         writeFile(QByteArray(line) + "\n");
         try {
             LoadSettings(s, store);

@@ -20,6 +20,7 @@
 #include "ui/common/busypointer.h"
 #include "ui/locations/frmlocation.h"
 #include "ui/log/frmselectdb.h"
+#include "ui/log/unitsmenu.h"
 #include "ui/views/daygraph.h"
 #include "ui/views/frmdetail.h"
 #include "ui/views/frmglance.h"
@@ -258,6 +259,7 @@ void FrmCalendar::BuildMenus()
     pan->setObjectName(QStringLiteral("Pan"));
     Pangle[0] = Item(pan, QStringLiteral("Parallactic Off"), QStringLiteral("Pangle0"), true);
     Pangle[1] = Item(pan, QStringLiteral("Parallactic On"), QStringLiteral("Pangle1"), true);
+    AddUnitsMenu(options, App.Config.ImperialUnits);
     for (int i = 0; i < 3; ++i)
         connect(DST[std::size_t(i)], &QAction::triggered, this, [this, i] { DST_Click(i); });
     for (int i = 0; i < 2; ++i) {
@@ -752,7 +754,8 @@ void FrmCalendar::RunDataBase_Click()
                              App.Config.DaylightBias,
                              std::uint32_t(App.Config.MoonColor),
                              App.Cal.CurYear,
-                             ProgramFolder::Path()};
+                             ProgramFolder::Path(),
+                             UnitsOf(App.Config.ImperialUnits)};
     hide();
     FrmSelectDB selectDB(context, this);
     selectDB.exec();
