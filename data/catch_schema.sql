@@ -3,6 +3,7 @@
 -- Lengths are whole millimetres, weights whole grams, temperatures degrees Celsius; the
 -- windows convert for imperial units. Times are HH:MM:SS of the day the catch belongs to.
 -- PRAGMA user_version records the layout: 0 a file without catches' tables, 1 this one.
+-- A year file gains these tables, in one transaction after a backup, with its first catch.
 CREATE TABLE Catches (
     CatchID INTEGER PRIMARY KEY AUTOINCREMENT,
     JulianDate DATE NOT NULL,

@@ -100,9 +100,7 @@ QDateTime BackupTime(const QString& backup)
     return QDateTime::fromString(name.mid(5, TimeFormat.size()), TimeFormat);
 }
 
-namespace {
-
-DbResult BackUpUnlocked(const QString& yearFile, const QDateTime& now)
+DbResult BackUpHoldingLock(const QString& yearFile, const QDateTime& now)
 {
     if (!QFileInfo::exists(yearFile))
         return DbResult::Success(); // a deleted year being restored: nothing to keep
@@ -116,14 +114,12 @@ DbResult BackUpUnlocked(const QString& yearFile, const QDateTime& now)
     return BackUpBytes(yearFile, current, now);
 }
 
-} // namespace
-
 // Under the year's lock, so that the copy is never taken in the middle of another program's
 // write.
 DbResult BackUpIfChanged(const QString& yearFile, const QDateTime& now)
 {
     const YearFileLock lock(yearFile);
-    return lock.Held() ? BackUpUnlocked(yearFile, now) : DbResult::Failure(lock.Message());
+    return lock.Held() ? BackUpHoldingLock(yearFile, now) : DbResult::Failure(lock.Message());
 }
 
 DbResult RestoreBackup(const QString& yearFile, const QString& backup, const QDateTime& now)
@@ -135,7 +131,7 @@ DbResult RestoreBackup(const QString& yearFile, const QString& backup, const QDa
     QByteArray restored;
     if (DbResult read = ReadAll(backup, restored); !read)
         return read;
-    if (DbResult kept = BackUpUnlocked(yearFile, now); !kept)
+    if (DbResult kept = BackUpHoldingLock(yearFile, now); !kept)
         return DbResult::Failure(kept.Message + QStringLiteral(" Nothing was restored."));
     return WriteWhole(yearFile, restored);
 }

@@ -25,6 +25,8 @@ QDateTime BackupTime(const QString& backup);
 // Copies the year file into the backups folder unless the newest backup holds the same bytes,
 // then deletes the oldest copies beyond ten.
 DbResult BackUpIfChanged(const QString& yearFile, const QDateTime& now);
+// The same, for a writer that already holds the year's lock.
+DbResult BackUpHoldingLock(const QString& yearFile, const QDateTime& now);
 
 // Puts the backup in the place of the year file. The current file is backed up first (unless
 // the newest backup already holds it), so a restore can itself be undone; the year file is replaced

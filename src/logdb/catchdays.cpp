@@ -1,6 +1,8 @@
 #include "logdb/catchdays.h"
 
 #include "db/storedforms.h"
+#include "logdb/catches.h"
+#include "logdb/catchtally.h"
 
 #include <QDate>
 #include <QFileInfo>
@@ -68,5 +70,61 @@ DbResult CatchStatisticsOf(const QStringList& paths, CatchStatistics& stats)
             return DbResult::Failure(
                 QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), read.Message));
     stats = ComputeCatchStatistics(days);
+    return DbResult::Success();
+}
+
+namespace {
+
+CatchFact FactOfRow(const QSqlQuery& q)
+{
+    CatchFact c;
+    c.Species = q.value(0).toString().toStdString();
+    c.Spot = q.value(1).toString().toStdString();
+    c.Count = q.value(2).toInt();
+    c.Released = q.value(3).toInt() != 0;
+    c.Hour = HoursOfStoredTime(q.value(4));
+    if (const std::optional<double> water = NumberOf(q.value(5)))
+        c.WaterTemp = water;
+    for (int column : {6, 7})
+        if (const std::optional<double> hours = HoursOfStoredTime(q.value(column)))
+            c.Majors.push_back(*hours);
+    for (int column : {8, 9})
+        if (const std::optional<double> hours = NumberOf(q.value(column)); hours && *hours >= 0)
+            c.Minors.push_back(*hours);
+    c.SunRise = HoursOfStoredTime(q.value(10));
+    c.SunSet = HoursOfStoredTime(q.value(11));
+    return c;
+}
+
+} // namespace
+
+DbResult ReadCatchFacts(const QString& path, std::vector<CatchFact>& facts)
+{
+    Database db;
+    if (DbResult opened = db.Open(path); !opened)
+        return opened;
+    if (!db.Tables().contains(QLatin1String(CatchTableName)))
+        return DbResult::Success(); // a file without catches
+    QSqlQuery q(db.Connection());
+    q.setForwardOnly(true);
+    if (!q.exec(QStringLiteral(
+            "SELECT c.Species, c.Spot, c.FishCount, c.Released, c.CatchTime, c.WaterTemp, "
+            "t.Major1, t.Major2, t.Minor1, t.Minor2, t.SunRise, t.SunSet FROM Catches c "
+            "LEFT JOIN table1 t ON t.JulianDate = c.JulianDate")))
+        return DbResult::Failure(ErrorText(q.lastError()));
+    while (q.next())
+        facts.push_back(FactOfRow(q));
+    return q.lastError().isValid() ? DbResult::Failure(ErrorText(q.lastError()))
+                                   : DbResult::Success();
+}
+
+DbResult CatchBreakdownOf(const QStringList& paths, CatchBreakdown& breakdown)
+{
+    std::vector<CatchFact> facts;
+    for (const QString& path : paths)
+        if (DbResult read = ReadCatchFacts(path, facts); !read)
+            return DbResult::Failure(
+                QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), read.Message));
+    breakdown = ComputeCatchBreakdown(facts);
     return DbResult::Success();
 }

@@ -14,7 +14,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -25,7 +24,7 @@ inline constexpr auto CatchPhotoTableName = "CatchPhotos";
 inline constexpr int MostFishPerCatch = 1000;
 
 struct Catch {
-    std::int64_t Id = 0; // CatchID; 0 until stored
+    qint64 Id = 0; // CatchID; 0 until stored
     QString Date;        // the day's JulianDate, "2024-03-10"
     QString Time;        // "HH:MM:SS"; empty when not known
     QString Species;
@@ -48,6 +47,9 @@ struct Catch {
     bool operator==(const Catch&) const = default;
 };
 
+// Makes the catches' tables in the open file and records their layout's version.
+DbResult CreateCatchTables(Database& db);
+
 // The layout version the file records: 0 for a file without the catches' tables.
 DbResult CatchSchemaOf(const QString& yearFile, int& version);
 
@@ -69,9 +71,14 @@ DbResult AddCatch(const QString& yearFile, Catch& c, const QDateTime& now);
 DbResult UpdateCatch(const QString& yearFile, const Catch& c, const QDateTime& now);
 // Removes the catch and its photos' entries (the photo files stay in the folder). When the
 // day's last catch goes, its TotalTaken is emptied: the total followed the catches.
-DbResult RemoveCatch(const QString& yearFile, std::int64_t id, const QDateTime& now);
+DbResult RemoveCatch(const QString& yearFile, qint64 id, const QDateTime& now);
 // Adds the catches, each for its own day, in one transaction, as an import does.
 DbResult AddCatches(const QString& yearFile, std::vector<Catch>& catches, const QDateTime& now);
+
+// Inside the caller's transaction on the open file, which holds the year's lock and has been
+// backed up: the day's catches become the given ones (each given its Id), the catches' tables
+// made first when the file lacks them; the day's total follows.
+DbResult ReplaceDayCatches(Database& db, const QString& date, std::vector<Catch>& catches);
 
 // The species named in the catches of every year file of the folder, each once (as first
 // written, ignoring case), in alphabetical order: the completion list of the catch editor.

@@ -13,3 +13,7 @@ struct CsvRecord {
 
 // Every record of the text; blank lines are skipped. A quote left open runs to the end.
 std::vector<CsvRecord> ReadCsv(std::string_view text);
+
+// The fields as one CSV line (RFC 4180: a field holding a comma, quote or line break is
+// quoted, quotes doubled), ended by CR LF.
+std::string CsvLine(const std::vector<std::string>& fields);

@@ -1,6 +1,7 @@
 #include "logdb/logimport.h"
 
 #include "db/storedforms.h"
+#include "logdb/catchexport.h"
 #include "logdb/catchvalues.h"
 #include "logdb/csvread.h"
 #include "logdb/logfiles.h"
@@ -22,7 +23,8 @@ const QStringList CatchColumns = {QStringLiteral("TotalTaken"), QStringLiteral("
 // Where each column the import reads sits in the file's header.
 struct Header {
     int Date = -1;
-    std::vector<std::pair<QString, int>> Catch; // column name, field index
+    std::vector<std::pair<QString, int>> Catch;   // column name, field index
+    std::vector<std::pair<QString, int>> Catches; // the catches' columns, field index
     size_t Width = 0;
 };
 
@@ -41,6 +43,8 @@ Header ReadHeader(const CsvRecord& first, const std::vector<ColumnInfo>& known,
         else if (const auto c = std::find_if(CatchColumns.begin(), CatchColumns.end(), same);
                  c != CatchColumns.end())
             header.Catch.emplace_back(*c, int(i));
+        else if (IsCatchExportColumn(name))
+            header.Catches.emplace_back(name, int(i));
         else if (std::none_of(known.begin(), known.end(),
                               [&](const ColumnInfo& k) { return same(k.Name); }))
             issues.push_back(
@@ -51,9 +55,15 @@ Header ReadHeader(const CsvRecord& first, const std::vector<ColumnInfo>& known,
 
 bool HasValue(const QVariant& v) { return !v.isNull() && !v.toString().trimmed().isEmpty(); }
 
-// Date (stored form) -> whether the record holds an entry, for every record of the file.
+// Date (stored form) -> whether the record holds an entry or catches, for every record of
+// the file.
 DbResult ReadEntries(Database& db, std::map<QString, bool>& holdsEntry)
 {
+    std::vector<Catch> catches;
+    if (DbResult read = ReadYearCatches(db.Path(), catches); !read)
+        return read;
+    for (const Catch& c : catches)
+        holdsEntry[c.Date] = true;
     QSqlQuery q(db.Connection());
     if (!q.exec(QStringLiteral("SELECT JulianDate, ") + CatchColumns.join(", ") +
                 QStringLiteral(" FROM table1")))
@@ -62,7 +72,7 @@ DbResult ReadEntries(Database& db, std::map<QString, bool>& holdsEntry)
         bool held = false;
         for (int i = 1; i <= CatchColumns.size(); ++i)
             held = held || HasValue(q.value(i));
-        holdsEntry[q.value(0).toString()] = held;
+        holdsEntry[q.value(0).toString()] |= held;
     }
     return DbResult::Success();
 }
@@ -73,6 +83,23 @@ struct RowCheck {
     const std::map<QString, bool>& HoldsEntry;
     std::set<QString> Seen;
 };
+
+// The catch the row's catch cells hold, if any; false with the issue added when they cannot
+// be read.
+bool ReadRowCatch(const CsvRecord& record, const Header& head, const QString& date,
+                  std::optional<Catch>& c, std::vector<ImportIssue>& issues)
+{
+    std::vector<QString> columns, cells;
+    for (const auto& [column, index] : head.Catches) {
+        columns.push_back(column);
+        cells.push_back(QString::fromStdString(record.Fields[size_t(index)]));
+    }
+    QString why;
+    c = CatchOfCells(date, columns, cells, why);
+    if (!why.isEmpty())
+        issues.push_back({record.Line, why});
+    return why.isEmpty();
+}
 
 // The row to write, or nothing with the row's problems added to the issues.
 std::optional<ImportRow> CheckRow(const CsvRecord& record, RowCheck& check,
@@ -103,11 +130,21 @@ std::optional<ImportRow> CheckRow(const CsvRecord& record, RowCheck& check,
     const auto held = check.HoldsEntry.find(row.Date);
     if (held == check.HoldsEntry.end())
         return problem(QStringLiteral("the year file has no record for %1").arg(dateText));
-    if (!check.Seen.insert(row.Date).second)
+    std::optional<Catch> caught;
+    if (!ReadRowCatch(record, check.Head, row.Date, caught, issues))
+        return std::nullopt;
+    if (caught)
+        row.Catches.push_back(*caught);
+    if (!check.Seen.insert(row.Date).second) {
+        if (caught) // one more catch of a day already read
+            return row;
         return problem(
             QStringLiteral("%1 comes a second time; this line is left out").arg(dateText));
-    bool any = false, bad = false;
+    }
+    bool any = caught.has_value(), bad = false;
     for (const auto& [column, index] : check.Head.Catch) {
+        if (caught && column == QLatin1String("TotalTaken"))
+            continue; // the day's total follows its catches
         QString why;
         const auto value =
             CatchValue(column, QString::fromStdString(record.Fields[size_t(index)]), why);
@@ -153,11 +190,12 @@ DbResult ReadImportFile(const QString& path, QByteArray& bytes)
     return DbResult::Success();
 }
 
-DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, ImportPlan& plan)
+namespace {
+
+DbResult PlanRecords(const QString& yearFile, int year, const std::vector<CsvRecord>& records,
+                     ImportPlan& plan)
 {
     plan = {};
-    const std::vector<CsvRecord> records =
-        ReadCsv(std::string_view(csv.constData(), size_t(csv.size())));
     if (records.empty())
         return DbResult::Failure(QStringLiteral("The file holds no lines."));
     Database db;
@@ -171,10 +209,38 @@ DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, Im
     if (DbResult read = ReadEntries(db, holdsEntry); !read)
         return read;
     RowCheck check{header, year, holdsEntry, {}};
-    for (size_t i = 1; i < records.size(); ++i)
-        if (std::optional<ImportRow> row = CheckRow(records[i], check, plan.Issues))
-            plan.Rows.push_back(std::move(*row));
+    std::map<QString, size_t> rowOfDate;
+    for (size_t i = 1; i < records.size(); ++i) {
+        std::optional<ImportRow> row = CheckRow(records[i], check, plan.Issues);
+        if (!row)
+            continue;
+        if (const auto known = rowOfDate.find(row->Date); known != rowOfDate.end()) {
+            auto& catches = plan.Rows[known->second].Catches;
+            catches.insert(catches.end(), row->Catches.begin(), row->Catches.end());
+            continue;
+        }
+        if (row->Fields.empty() && !check.Head.Catch.empty())
+            continue; // more catches of a day whose first line was left out, as its issue says
+        rowOfDate[row->Date] = plan.Rows.size();
+        plan.Rows.push_back(std::move(*row));
+    }
     return DbResult::Success();
+}
+
+} // namespace
+
+DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, ImportPlan& plan)
+{
+    return PlanRecords(yearFile, year,
+                       ReadCsv(std::string_view(csv.constData(), size_t(csv.size()))), plan);
+}
+
+DbResult PlanJsonImport(const QString& yearFile, int year, const QByteArray& json, ImportPlan& plan)
+{
+    std::vector<CsvRecord> records;
+    if (DbResult read = RecordsOfJson(json, records); !read)
+        return read;
+    return PlanRecords(yearFile, year, records, plan);
 }
 
 namespace {
@@ -191,15 +257,34 @@ bool HoldsEntryNow(const QSqlDatabase& link, const QString& date)
     if (q.exec() && q.next())
         for (int i = 0; i < CatchColumns.size(); ++i)
             held = held || HasValue(q.value(i));
-    return held;
+    QSqlQuery caught(link); // fails, holding nothing, in a file without catches
+    caught.prepare(QStringLiteral("SELECT COUNT(*) FROM Catches WHERE JulianDate = ?"));
+    caught.addBindValue(date);
+    return held || (caught.exec() && caught.next() && caught.value(0).toInt() > 0);
 }
 
-DbResult WriteRow(const QSqlDatabase& link, const ImportRow& row, int& written)
+// The row's catches in place of the day's, after its entry so that the total follows them.
+DbResult WriteCatches(Database& db, const ImportRow& row)
 {
+    std::vector<Catch> catches = row.Catches;
+    if (catches.empty())
+        return DbResult::Success();
+    if (DbResult caught = ReplaceDayCatches(db, row.Date, catches); !caught)
+        return DbResult::Failure(
+            QStringLiteral("Line %1: %2. Nothing was imported.").arg(row.Line).arg(caught.Message));
+    return DbResult::Success();
+}
+
+DbResult WriteRow(Database& db, const ImportRow& row, int& written)
+{
+    if (row.Fields.empty()) {
+        ++written;
+        return WriteCatches(db, row);
+    }
     QStringList sets;
     for (const auto& field : row.Fields)
         sets << QuotedName(field.first) + QStringLiteral(" = ?");
-    QSqlQuery q(link);
+    QSqlQuery q(db.Connection());
     q.prepare(QStringLiteral("UPDATE table1 SET ") + sets.join(", ") +
               QStringLiteral(" WHERE JulianDate = ?"));
     for (const auto& field : row.Fields)
@@ -210,7 +295,7 @@ DbResult WriteRow(const QSqlDatabase& link, const ImportRow& row, int& written)
                                      .arg(row.Line)
                                      .arg(ErrorText(q.lastError())));
     written += q.numRowsAffected();
-    return DbResult::Success();
+    return WriteCatches(db, row);
 }
 
 } // namespace
@@ -232,7 +317,7 @@ DbResult ApplyImport(const QString& yearFile, const ImportPlan& plan, ImportChoi
                 count.GainedEntry += row.Occupied ? 0 : 1;
                 continue;
             }
-            if (DbResult wrote = WriteRow(link, row, count.Written); !wrote)
+            if (DbResult wrote = WriteRow(db, row, count.Written); !wrote)
                 return wrote;
         }
         return DbResult::Success();

@@ -1,10 +1,12 @@
 // Bringing catches in from a CSV file with the columns of the log's export: the date
-// (JulianDate), TotalTaken, TakenWith, PeakTime and Notes; the forecast's columns are ignored.
+// (JulianDate), TotalTaken, TakenWith, PeakTime and Notes, and the catches' columns (one line
+// per catch, a day's lines one after another); the forecast's columns are ignored.
 // Every problem is found, line by line, before anything is written; then the good rows go
 // into the year's records by date in one transaction.
 #pragma once
 
 #include "db/database.h"
+#include "logdb/catches.h"
 
 #include <vector>
 
@@ -15,9 +17,10 @@ struct ImportIssue {
 
 struct ImportRow {
     int Line = 0;
-    QString Date;          // stored form, "2024-03-10"
-    FieldValues Fields;    // the catch columns the file has, in stored form; empty cells NULL
-    bool Occupied = false; // the day's record already holds an entry
+    QString Date;               // stored form, "2024-03-10"
+    FieldValues Fields;         // the catch columns the file has, in stored form; empty cells NULL
+    bool Occupied = false;      // the day's record already holds an entry or catches
+    std::vector<Catch> Catches; // in place of the day's catches, when there are any
 };
 
 struct ImportPlan {
@@ -38,6 +41,10 @@ DbResult ReadImportFile(const QString& path, QByteArray& bytes);
 
 // Reads the CSV text and checks it against the year file of the given year.
 DbResult PlanImport(const QString& yearFile, int year, const QByteArray& csv, ImportPlan& plan);
+// The same for the log's JSON export, each day's catches nested in it: a day stands for a
+// line, counted from 2.
+DbResult PlanJsonImport(const QString& yearFile, int year, const QByteArray& json,
+                        ImportPlan& plan);
 
 struct ImportCount {
     int Written = 0;     // records changed

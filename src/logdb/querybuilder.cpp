@@ -286,6 +286,43 @@ void PickDayOfWeek(QueryForm& form, int box, int entry)
         other = picked;
 }
 
+std::vector<BoundStep> CatchConditionSteps(const CatchConditions& conditions, bool catchTables)
+{
+    std::vector<BoundStep> steps;
+    const bool species = !Trimmed(conditions.Species).empty();
+    if (species || conditions.ReleasedOnly) {
+        BoundStep step{"DELETE FROM Table3", {}};
+        if (catchTables) {
+            step.Statement += " WHERE JulianDate NOT IN (SELECT JulianDate FROM Catches WHERE 1";
+            if (species) {
+                step.Statement += " AND Species = ?";
+                step.Parameters.emplace_back(Trimmed(conditions.Species));
+            }
+            step.Statement += conditions.ReleasedOnly ? " AND Released = 1)" : ")";
+        }
+        steps.push_back(std::move(step));
+    }
+    if (!conditions.Text.empty()) {
+        // LIKE ignores case; the text's own % _ and \ are escaped to stand for themselves.
+        std::string pattern = "%";
+        for (const char c : conditions.Text) {
+            if (c == '%' || c == '_' || c == '\\')
+                pattern += '\\';
+            pattern += c;
+        }
+        pattern += '%';
+        const std::string like = " LIKE ? ESCAPE '\\'";
+        BoundStep step{"DELETE FROM Table3 WHERE NOT (coalesce(Notes, '')" + like + ")", {pattern}};
+        if (catchTables) {
+            step.Statement +=
+                " AND JulianDate NOT IN (SELECT JulianDate FROM Catches WHERE Note" + like + ")";
+            step.Parameters.push_back(pattern);
+        }
+        steps.push_back(std::move(step));
+    }
+    return steps;
+}
+
 SelectionPlan PlanSelection(const QueryForm& form)
 {
     SelectionPlan plan;

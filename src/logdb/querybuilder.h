@@ -21,10 +21,23 @@ inline constexpr int Text1Box = 12;
 inline constexpr int Text2Box = 13;
 inline constexpr int ConditionCount = 14;
 
+// The conditions on a day's catches, beside the fourteen; each left empty or false adds none.
+// Their texts reach the statements only as bound parameters.
+struct CatchConditions {
+    std::string Species;       // "Species is": a catch of this species, ignoring case
+    std::string Text;          // "Notes contain": in the day's notes or a catch's, ignoring case
+    bool ReleasedOnly = false; // "Released only": a released catch (of that species, if named)
+};
+
+inline constexpr std::string_view SpeciesIsCaption = "Species is";
+inline constexpr std::string_view NotesContainCaption = "Notes contain";
+inline constexpr std::string_view ReleasedOnlyCaption = "Released only";
+
 struct QueryForm {
     std::array<bool, ConditionCount> Checked{};      // Check1(0) to Check1(13)
     std::array<std::string, ValueBoxCount> Values{}; // as typed or picked
-    QueryForm();                                     // month boxes "1" and "12", others empty
+    CatchConditions Catches;
+    QueryForm(); // month boxes "1" and "12", others empty
 };
 
 struct ConditionBox {
@@ -59,11 +72,22 @@ void PickDayOfWeek(QueryForm& form, int box, int entry);
 // it is not a clock time.
 std::optional<std::string> ClockBoxText(std::string_view typed);
 
+// A statement whose "?" marks take the parameters in order.
+struct BoundStep {
+    std::string Statement;
+    std::vector<std::string> Parameters;
+};
+
 struct SelectionPlan {
     std::string Error;              // what the user must correct; no step runs when set
     std::vector<std::string> Steps; // select-into statements making Table2, in order
     bool Ok() const { return Error.empty(); }
 };
+
+// The SQLite statements that, after the steps, delete from Table3 the days the catch
+// conditions leave out, for a file with or without the catches' tables (without them no day
+// has a catch).
+std::vector<BoundStep> CatchConditionSteps(const CatchConditions& conditions, bool catchTables);
 
 // The checks and statements of "Select Data Where". The first step always reads table1 for
 // the months (empty month boxes read as 1 and 12); each checked condition adds a step over

@@ -15,7 +15,8 @@ DbResult Remake(Database& db, const QString& table, const QString& statement)
 
 } // namespace
 
-QStringList RunSelectionSteps(const QString& path, const std::vector<std::string>& steps)
+QStringList RunSelectionSteps(const QString& path, const std::vector<std::string>& steps,
+                              const CatchConditions& catches)
 {
     QStringList refused;
     Database db;
@@ -32,6 +33,15 @@ QStringList RunSelectionSteps(const QString& path, const std::vector<std::string
             if (!made)
                 refused << made.Message;
         }
+    }
+    const bool catchTables = db.Tables().contains(QStringLiteral("Catches"));
+    for (const BoundStep& step : CatchConditionSteps(catches, catchTables)) {
+        QSqlQuery q(db.Connection());
+        q.prepare(QStringOf(step.Statement));
+        for (const std::string& parameter : step.Parameters)
+            q.addBindValue(QString::fromStdString(parameter));
+        if (!q.exec())
+            refused << ErrorText(q.lastError());
     }
     if (!chain.exec(QStringLiteral("RELEASE selection")))
         refused << ErrorText(chain.lastError());
@@ -53,7 +63,7 @@ Selection SelectDataWhere(const QString& path, const QueryForm& form, int sortIn
         selection.Error = QString::fromStdString(plan.Error);
         return selection;
     }
-    selection.Refused = RunSelectionSteps(path, plan.Steps);
+    selection.Refused = RunSelectionSteps(path, plan.Steps, form.Catches);
     const Ordering& order = OrderingOf(sortIndex);
     selection.RecordSource = QStringOf(order.RecordSource);
     selection.Caption = QStringOf(order.Caption);

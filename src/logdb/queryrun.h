@@ -21,7 +21,9 @@ inline QString QStringOf(std::string_view text)
 // and made as a copy of Table2, so Table3 holds the records that passed every step so far.
 // A step the engine refuses is passed over and the chain goes on; the engine's words for each
 // refused step are returned (a missing work table to drop is expected and not reported).
-QStringList RunSelectionSteps(const QString& path, const std::vector<std::string>& steps);
+// Then the catch conditions narrow Table3, in the same transaction.
+QStringList RunSelectionSteps(const QString& path, const std::vector<std::string>& steps,
+                              const CatchConditions& catches = {});
 
 // Table3 made again as a copy of the whole of table1, as after "All Records".
 DbResult CopyAllRecordsToWorkTable(const QString& path);

@@ -8,12 +8,15 @@
 //   logcrash_child save PATH TAG      (as edit, through the browser's locked save, with
 //                                      Notes "TAG N"; other programs change the file meanwhile)
 //   logcrash_child restore PATH BACKUP  (the Backups window's restore of that copy)
+//   logcrash_child catch PATH   (prints "ready", then adds 3 fish on 4 July, upgrading a
+//                                file made without the catches' tables)
 //
 // KILL_DAY is the day of the fill at which to die (0: none); KILL_STEP the file step
 // (remove, copy, sync, rename) before which to die (0: none).
 #include "cli/common/forecastrun.h"
 #include "db/datacontrol.h"
 #include "logdb/backups.h"
+#include "logdb/catches.h"
 #include "logdb/filldata.h"
 #include "logdb/logfiles.h"
 #include "logdb/yearlock.h"
@@ -113,6 +116,18 @@ int EditEveryDay(const QString& path, const QString& tag,
     return 0;
 }
 
+int AddOneCatch(const QString& path)
+{
+    Catch c;
+    c.Date = QStringLiteral("2024-07-04");
+    c.Time = QStringLiteral("06:30:00");
+    c.Species = QStringLiteral("Walleye");
+    c.Count = 3;
+    std::printf("ready\n"); // the test times its kill from here
+    std::fflush(stdout);
+    return AddCatch(path, c, QDateTime::currentDateTime()) ? 0 : 3;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -130,6 +145,8 @@ int main(int argc, char** argv)
         return EditEveryDay(a[2], a[3], UpdateUnderLock);
     if (a.size() == 4 && a[1] == "restore")
         return RestoreBackup(a[2], a[3], QDateTime::currentDateTime()) ? 0 : 3;
-    std::fprintf(stderr, "usage: logcrash_child create|compact|edit|save|restore ...\n");
+    if (a.size() == 3 && a[1] == "catch")
+        return AddOneCatch(a[2]);
+    std::fprintf(stderr, "usage: logcrash_child create|compact|edit|save|restore|catch ...\n");
     return 2;
 }

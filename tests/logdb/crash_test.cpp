@@ -2,6 +2,7 @@
 // code and is killed with SIGKILL at many points; the folder must then hold no year file or a
 // whole one with every saved entry, and the program must open it.
 #include "db/datacontrol.h"
+#include "logdb/catches.h"
 #include "logdb/logfiles.h"
 #include "support/filledyear.h"
 #include "support/logfixture.h"
@@ -15,7 +16,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <csignal>
+#include <iostream>
 
 using namespace logtest;
 
@@ -227,4 +230,60 @@ TEST(CrashSafety, AYearLeftBehindAsCopiesIsOfferedBackNotDeleted)
     ASSERT_TRUE(RestoreYearFile(folder, backup[0]));
     ExpectEveryOriginalNote(path, "restored from the backup");
     EXPECT_TRUE(QFile::exists(QDir(folder).filePath("2024.BAK")));
+}
+
+namespace {
+
+// Starts the child's catch and kills it `killAfterUs` microseconds after it said "ready"
+// (never when negative); the microseconds from "ready" to its end.
+qint64 AddCatchKilledAfter(const QString& path, qint64 killAfterUs)
+{
+    QProcess child;
+    child.start(QStringLiteral(LOGCRASH_CHILD), {"catch", path});
+    EXPECT_TRUE(child.waitForStarted());
+    EXPECT_TRUE(child.waitForReadyRead(30000));
+    QElapsedTimer clock;
+    clock.start();
+    if (killAfterUs >= 0) {
+        while (clock.nsecsElapsed() / 1000 < killAfterUs) {
+        }
+        child.kill();
+    }
+    child.waitForFinished(30000);
+    return clock.nsecsElapsed() / 1000;
+}
+
+} // namespace
+
+TEST(CrashSafety, UpgradeKilledAtAnyMomentLeavesTheOldFileOrTheNewOneWithEveryEntry)
+{
+    const QString made = MakeYearFile("crash-upgrade-source"); // without the catches' tables
+    qint64 whole = 0;
+    std::array<int, 2> seen{}; // files found old, upgraded
+    for (int i = 0; i < 20; ++i) {
+        const QString folder = testenv::FreshDir("crash-upgrade");
+        const QString path = QDir(folder).filePath("2024.mdb");
+        ASSERT_TRUE(QFile::copy(made, path));
+        const qint64 us = i == 0 ? -1 : QRandomGenerator::global()->bounded(whole + 1);
+        const qint64 took = AddCatchKilledAfter(path, us);
+        whole = i == 0 ? took : whole;
+        const std::string where = "killed after " + std::to_string(us) + " us";
+        ASSERT_TRUE(CheckYearFileWholeOrAbsent(folder, where));
+        ExpectEveryOriginalNote(path, where);
+        int version = -1;
+        ASSERT_TRUE(CatchSchemaOf(path, version)) << where;
+        ++seen[version == 0 ? 0 : 1];
+        const QVariant total =
+            PlainColumn(path, "SELECT TotalTaken FROM table1 WHERE JulianDate = '2024-07-04'")[0];
+        if (version == 0) {
+            EXPECT_TRUE(total.isNull()) << where;
+            continue;
+        }
+        EXPECT_EQ(version, CatchSchemaVersion) << where;
+        EXPECT_EQ(PlainColumn(path, "SELECT SUM(FishCount) FROM Catches")[0], 3) << where;
+        EXPECT_EQ(total.toInt(), 3) << where;
+    }
+    std::cout << "upgrade runs " << whole << " us; files found old " << seen[0] << ", upgraded "
+              << seen[1] << "\n";
+    EXPECT_GE(seen[1], 1); // the unkilled first run at least
 }

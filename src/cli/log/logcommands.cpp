@@ -6,6 +6,10 @@
 #include "cli/log/logquery.h"
 #include "db/datacontrol.h"
 #include "logdb/backups.h"
+#include "logdb/catchdays.h"
+#include "logdb/catchexport.h"
+#include "logdb/catchtally.h"
+#include "logdb/csvread.h"
 #include "logdb/filldata.h"
 #include "logdb/logexport.h"
 #include "logdb/logfiles.h"
@@ -45,10 +49,12 @@ Usage:
   quillmere-log compact --year YYYY
   quillmere-log repair --year YYYY
   quillmere-log restore --year YYYY
-  quillmere-log export --year YYYY [--format csv|json]
+  quillmere-log export --year YYYY [--format csv|json] [--catches]
   quillmere-log query --year YYYY [CONDITIONS] [--sort S] [--format text|csv|json]
+                     [--catches]
   quillmere-log report --year YYYY [CONDITIONS] [--sort S] [--pdf FILE]
-  quillmere-log import --year YYYY FILE.csv [--skip|--overwrite]
+  quillmere-log import --year YYYY FILE.csv|FILE.json [--skip|--overwrite]
+  quillmere-log stats --year YYYY | --all
   quillmere-log --version | -V
 
 Commands:
@@ -62,19 +68,31 @@ Commands:
            YYYY.BAK the year's file again, when YYYY.mdb is missing.
   export   every record of YYYY.mdb in date order, every column; dates as mm/dd/yyyy,
            times as the browser shows them; an hour of an event the day does not have
-           (moonrise, moonset, minor) is empty.
+           (moonrise, moonset, minor) is empty. With --catches, each catch as well:
+           in CSV one line per catch after its day's columns (a day without catches one
+           line), in JSON nested in its day under "Catches"; the catch's values as stored
+           (CatchTime hh:mm:ss, LengthMm, WeightG, WaterTemp and AirTemp in degrees
+           Celsius, Released 1 or 0, Photos joined by "|").
   query    the days of YYYY.mdb that meet the conditions, as the record browser's "Select
            Data Where" finds them (the result is left in the file's Table3): as text (the
-           order, the report's heading and one line a day), or every column as CSV or JSON.
+           order, the report's heading and one line a day), or every column as CSV or JSON,
+           with --catches each day's catches too, as export --catches writes them.
   report   the report of those days as printed: pages of 58 lines under the title, the
            column heading and a dash line; with --pdf, printed to that PDF file.
   import   the catch entries of a CSV file with the columns of export (JulianDate,
            TotalTaken, TakenWith, PeakTime, Notes; the others are ignored) into the days of
-           YYYY.mdb, all in one step, after a copy of the file goes to backups/. Every line
+           YYYY.mdb, all in one step, after a copy of the file goes to backups/; the
+           catches of export --catches too, in place of a day's catches (a file whose name
+           ends in .json is read as JSON, any other as CSV). Every line
            that cannot be imported (a date outside the year, an unknown column, a bad number
            or time) and every day that already holds an entry is listed first; when there
            is any, nothing is written unless --skip (keep those entries, import the rest)
            or --overwrite (replace them) says what to do.
+  stats    the catches counted by species, by where their time lay (in a major period,
+           in a minor one, within an hour of sunrise or sunset, other), by clock hour,
+           by spot and by water temperature (5 degree Celsius bands), over YYYY.mdb or
+           with --all every year file of the folder: tab-separated lines of catches,
+           fish and fish released under each grouping's title.
 
 Conditions (query and report; each narrows the days, in this order):
   --months M-M           months between, 1-12 (default: the whole year)
@@ -91,6 +109,9 @@ Conditions (query and report; each narrows the days, in this order):
   --waxing, --waning     the moon waxing / waning
   --perigee              the day of lunar perigee
   --rated                every rated day
+  --species NAME         a catch of that species (any case)
+  --text TEXT            TEXT in the day's notes or a catch's note (any case)
+  --released             a released catch (of that species, with --species)
   --sort S               date (default), major1, weekday, rating or taken
 
 Location (create only; default: the default one of your ten stored locations):
@@ -109,6 +130,8 @@ Options:
   --pdf FILE       report only: print the report into FILE
   --skip           import: leave the days that hold an entry, import the other lines
   --overwrite      import: replace the entries of those days too
+  --catches        export, and query as CSV or JSON: the catches too
+  --all            stats: every year file of the folder
   --help           this text
   --version, -V    the program's version
 
@@ -334,8 +357,6 @@ std::string TableAsJson(const LogTable& table)
 
 int Export(const LogRequest& r, const Streams& io)
 {
-    if (!YearFileThere(r.Year, io))
-        return 1;
     LogTable table;
     if (const DbResult read =
             ExportLogTable(io.YearPath(r.Year), StoredSettings(io.Err).AmPm(), table);
@@ -345,6 +366,26 @@ int Export(const LogRequest& r, const Streams& io)
     io.Out << (format != r.Options.end() && format->second == "json" ? TableAsJson(table)
                                                                      : TableAsCsv(table));
     return 0;
+}
+
+int ExportCatches(const LogRequest& r, const Streams& io)
+{
+    CatchLogTable table;
+    if (const DbResult read =
+            ExportCatchTable(io.YearPath(r.Year), StoredSettings(io.Err).AmPm(), table);
+        !read)
+        return io.Fail("cannot read " + Std(io.YearPath(r.Year)) + ": " + Std(read.Message));
+    const auto format = r.Options.find("--format");
+    io.Out << (format != r.Options.end() && format->second == "json" ? CatchTableAsJson(table)
+                                                                     : CatchTableAsCsv(table));
+    return 0;
+}
+
+int ExportYear(const LogRequest& r, const Streams& io)
+{
+    if (!YearFileThere(r.Year, io))
+        return 1;
+    return r.Options.count("--catches") ? ExportCatches(r, io) : Export(r, io);
 }
 
 // The conditions and order of a query or report, run on the year's file; nothing when the
@@ -405,10 +446,19 @@ int Query(const LogRequest& r, const Streams& io)
         io.Out << QueryText(report, *selection);
         return 0;
     }
+    const bool json = format->second == "json";
+    if (r.Options.count("--catches")) {
+        CatchLogTable table;
+        if (const DbResult read = ExportCatchTable(path, ampm, table, selection->RecordSource);
+            !read)
+            return io.Fail("cannot read the selected days: " + Std(read.Message));
+        io.Out << (json ? CatchTableAsJson(table) : CatchTableAsCsv(table));
+        return 0;
+    }
     LogTable table;
     if (const DbResult read = ExportLogTable(path, ampm, table, selection->RecordSource); !read)
         return io.Fail("cannot read the selected days: " + Std(read.Message));
-    io.Out << (format->second == "json" ? TableAsJson(table) : TableAsCsv(table));
+    io.Out << (json ? TableAsJson(table) : TableAsCsv(table));
     return 0;
 }
 
@@ -467,7 +517,10 @@ int Import(const LogRequest& r, const Streams& io)
     if (const DbResult read = ReadImportFile(source, csv); !read)
         return io.Fail(Std(read.Message) + "; nothing was imported");
     ImportPlan plan;
-    if (const DbResult planned = PlanImport(path, r.Year, csv, plan); !planned)
+    const bool json = source.endsWith(QStringLiteral(".json"), Qt::CaseInsensitive);
+    if (const DbResult planned =
+            json ? PlanJsonImport(path, r.Year, csv, plan) : PlanImport(path, r.Year, csv, plan);
+        !planned)
         return io.Fail("cannot import " + Std(source) + ": " + Std(planned.Message) +
                        "; nothing was imported");
     for (const QString& line : IssueLines(plan))
@@ -488,6 +541,25 @@ int Import(const LogRequest& r, const Streams& io)
     return 0;
 }
 
+// The catches counted, over one year file or all of the folder's.
+int Stats(const LogRequest& r, const Streams& io)
+{
+    QStringList paths;
+    if (r.Options.count("--all")) {
+        for (const QString& name : ListYearFiles(io.Folder))
+            paths << QDir(io.Folder).filePath(name);
+    } else if (YearFileThere(r.Year, io)) {
+        paths << io.YearPath(r.Year);
+    } else {
+        return 1;
+    }
+    CatchBreakdown breakdown;
+    if (const DbResult read = CatchBreakdownOf(paths, breakdown); !read)
+        return io.Fail("cannot read the catches: " + Std(read.Message));
+    io.Out << BreakdownText(breakdown);
+    return 0;
+}
+
 struct LogCommand {
     const char* Name;
     std::vector<std::string> Options; // besides --help
@@ -504,18 +576,19 @@ const std::vector<LogCommand>& Commands()
         {"compact", {"--year"}, Compact},
         {"repair", {"--year"}, Repair},
         {"restore", {"--year"}, Restore},
-        {"export", {"--year", "--format"}, Export},
-        {"query", WithConditions({"--year", "--format"}), Query},
+        {"export", {"--year", "--format", "--catches"}, ExportYear},
+        {"query", WithConditions({"--year", "--format", "--catches"}), Query},
         {"report", WithConditions({"--year", "--pdf"}), Report},
         {"import", {"--year", "FILE", "--skip", "--overwrite"}, Import},
+        {"stats", {"--year", "--all"}, Stats},
     };
     return commands;
 }
 
 bool IsFlag(const std::string& option)
 {
-    return option == "--dst" || option == "--help" || option == "--skip" ||
-           option == "--overwrite" || IsQueryFlag(option);
+    return option == "--dst" || option == "--help" || option == "--skip" || option == "--catches" ||
+           option == "--all" || option == "--overwrite" || IsQueryFlag(option);
 }
 
 // The options of the command line, each allowed by the command and given once.
@@ -550,6 +623,8 @@ std::optional<std::string> CheckRequest(const LogCommand& command, LogRequest& r
     const auto& own = command.Options;
     if (std::find(own.begin(), own.end(), "--year") != own.end()) {
         const auto year = r.Options.find("--year");
+        if (year == r.Options.end() && r.Options.count("--all"))
+            return std::nullopt;
         if (year == r.Options.end())
             return std::string(command.Name) + " needs --year YYYY";
         const std::string& text = year->second;
@@ -563,6 +638,11 @@ std::optional<std::string> CheckRequest(const LogCommand& command, LogRequest& r
         return std::string(command.Name) + " needs the FILE.csv to read";
     if (r.Options.count("--skip") && r.Options.count("--overwrite"))
         return "choose one of --skip and --overwrite";
+    if (r.Options.count("--year") && r.Options.count("--all"))
+        return "choose one of --year and --all";
+    if (r.Command == "query" && r.Options.count("--catches") &&
+        (!r.Options.count("--format") || r.Options.at("--format") == "text"))
+        return "--catches needs --format csv or json";
     if (const auto f = r.Options.find("--format"); f != r.Options.end() && f->second != "csv" &&
                                                    f->second != "json" &&
                                                    (r.Command != "query" || f->second != "text"))
@@ -573,25 +653,6 @@ std::optional<std::string> CheckRequest(const LogCommand& command, LogRequest& r
 
 } // namespace
 
-std::string CsvLine(const std::vector<std::string>& fields)
-{
-    std::string line;
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        const std::string& f = fields[i];
-        if (i > 0)
-            line += ',';
-        if (f.find_first_of(",\"\r\n") == std::string::npos) {
-            line += f;
-            continue;
-        }
-        line += '"';
-        for (const char c : f)
-            line += c == '"' ? std::string("\"\"") : std::string(1, c);
-        line += '"';
-    }
-    return line + "\r\n";
-}
-
 int RunLogCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
 {
     const auto usage = [&err](const std::string& message) {
@@ -600,7 +661,7 @@ int RunLogCommand(const std::vector<std::string>& args, std::ostream& out, std::
     };
     if (args.empty())
         return usage("no command given: list, create, compact, repair, restore, export, import, "
-                     "query or report (see --help)");
+                     "query, report or stats (see --help)");
     if (args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
         out << LogUsageText;
         return 0;

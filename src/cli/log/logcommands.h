@@ -13,7 +13,3 @@ extern const char* const LogUsageText;
 // and a one-line message to err. Returns the exit status: 0 done, 1 the operation failed,
 // 2 bad input.
 int RunLogCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
-
-// The fields as one CSV line (RFC 4180: a field holding a comma, quote or line break is
-// quoted, quotes doubled), ended by CR LF.
-std::string CsvLine(const std::vector<std::string>& fields);

@@ -74,7 +74,7 @@ const std::vector<std::string>& QueryOptionNames()
             n.emplace_back(o.Name);
         for (const RangeOption& o : FlagOptions)
             n.emplace_back(o.Name);
-        n.emplace_back("--sort");
+        n.insert(n.end(), {"--species", "--text", "--released", "--sort"});
         return n;
     }();
     return names;
@@ -82,7 +82,8 @@ const std::vector<std::string>& QueryOptionNames()
 
 bool IsQueryFlag(const std::string& option)
 {
-    return std::any_of(FlagOptions.begin(), FlagOptions.end(),
+    return option == "--released" ||
+           std::any_of(FlagOptions.begin(), FlagOptions.end(),
                        [&](const RangeOption& o) { return option == o.Name; });
 }
 
@@ -101,6 +102,16 @@ std::optional<std::string> ReadQueryOptions(const std::map<std::string, std::str
     }
     for (const RangeOption& o : FlagOptions)
         request.Form.Checked[std::size_t(o.Condition)] = options.count(o.Name) > 0;
+    CatchConditions& catches = request.Form.Catches;
+    if (const auto species = options.find("--species"); species != options.end())
+        catches.Species = species->second;
+    if (const auto text = options.find("--text"); text != options.end())
+        catches.Text = text->second;
+    catches.ReleasedOnly = options.count("--released") > 0;
+    if (options.count("--species") && catches.Species.find_first_not_of(' ') == std::string::npos)
+        return std::string("--species needs a name");
+    if (options.count("--text") && catches.Text.empty())
+        return std::string("--text needs something to look for");
     if (const auto sort = options.find("--sort"); sort != options.end()) {
         const auto at = std::find(SortNames.begin(), SortNames.end(), Lower(sort->second));
         if (at == SortNames.end())

@@ -2,17 +2,20 @@
 // back by Python's strict CSV and JSON readers and compared with the file through Python's
 // own SQLite module.
 #include "logdb/backups.h"
+#include "logdb/catches.h"
 #include "logdb/logfiles.h"
 #include "support/filledyear.h"
 #include "support/pdftext.h"
 #include "support/testenv.h"
 
+#include <QDate>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <QTime>
 
 #include <gtest/gtest.h>
 
@@ -461,4 +464,86 @@ TEST(LogCommand, FailuresNameTheirCause)
         EXPECT_TRUE(run.Err.contains(c.Said)) << c.Name << ": " << run.Err.toStdString();
         EXPECT_EQ(testenv::FileBytes(YearPath(home)), year) << c.Name;
     }
+}
+
+namespace {
+
+// 1,000 catches over the year: up to five a day, untimed ones, names and notes with commas,
+// quotes, line breaks and letters beyond ASCII, decimals that have no short binary form,
+// places west and south, photos.
+std::vector<Catch> ThousandCatches()
+{
+    const QStringList species = {"Pike", "Walleye", "Bluegill, hybrid", "Æsche \"grayling\"",
+                                 "Perch"};
+    std::vector<Catch> catches;
+    for (int i = 0; i < 1000; ++i) {
+        Catch c;
+        c.Date =
+            QDate(2024, 1, 1).addDays(i * 366 / 1000 + (i % 5 == 0 ? 1 : 0)).toString(Qt::ISODate);
+        if (i % 13 != 0)
+            c.Time = QTime(0, 0).addSecs(i * 6121 % 86400).toString("HH:mm:ss");
+        c.Species = species[i % species.size()];
+        c.Count = 1 + i % 3;
+        c.Released = i % 2 == 0;
+        if (i % 4 != 0)
+            c.LengthMm = 200 + i % 700;
+        if (i % 6 != 0)
+            c.WeightG = 150 + i * 7 % 9000;
+        c.Bait = i % 3 == 0 ? "Jig, chartreuse" : "";
+        c.Method = i % 7 == 0 ? "Trolling" : "Casting";
+        c.Spot = QString("Spot %1").arg(i % 9);
+        if (i % 5 == 1) {
+            c.Latitude = -33.1 - i / 1000.0;
+            c.Longitude = -70.3 + i / 700.0;
+        }
+        if (i % 3 != 2)
+            c.WaterTemp = 4.1 + (i % 80) / 3.0;
+        c.AirTemp = -5.5 + (i % 60) * 0.7;
+        c.Wind = i % 2 == 0 ? "NW 15 km/h" : "";
+        c.Sky = "Overcast";
+        c.Note = i % 10 == 0 ? QString("line one\nline \"two\", %1").arg(i) : "";
+        if (i % 50 == 0)
+            c.Photos = {QString("photos/2024/c%1.jpg").arg(i),
+                        QString("photos/2024/d%1.jpg").arg(i)};
+        catches.push_back(c);
+    }
+    return catches;
+}
+
+} // namespace
+
+TEST(LogCommand, ExportedCatchesImportIntoAFreshYearByteForByte)
+{
+    const QString from = CreatedYear("log-catches-from");
+    std::vector<Catch> catches = ThousandCatches();
+    ASSERT_TRUE(AddCatches(YearPath(from), catches, QDateTime::currentDateTime()));
+    for (const QString format : {"csv", "json"}) {
+        const LogRun first =
+            RunLog(from, {"export", "--year", "2024", "--catches", "--format", format});
+        ASSERT_EQ(first.Status, 0) << first.Err.toStdString();
+        const QString into = CreatedYear("log-catches-into-" + format);
+        const QString file = QDir(into).filePath("catches." + format);
+        testenv::WriteFile(file, first.Out.toUtf8());
+        const LogRun imported = RunLog(into, {"import", "--year", "2024", file});
+        ASSERT_EQ(imported.Status, 0) << imported.Err.toStdString() << imported.Out.toStdString();
+        EXPECT_EQ(logtest::PlainColumn(YearPath(into), "SELECT COUNT(*) FROM Catches")[0], 1000);
+        const LogRun again =
+            RunLog(into, {"export", "--year", "2024", "--catches", "--format", format});
+        ASSERT_EQ(again.Status, 0) << again.Err.toStdString();
+        EXPECT_TRUE(again.Out == first.Out) << format.toStdString();
+        EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(YearPath(from)))
+            << format.toStdString();
+    }
+    // CSV: one record per catch, and one per day without catches, after the header.
+    const LogRun csv = RunLog(from, {"export", "--year", "2024", "--catches"});
+    const int quiet =
+        logtest::PlainColumn(YearPath(from), "SELECT COUNT(*) FROM table1 WHERE JulianDate NOT IN "
+                                             "(SELECT JulianDate FROM Catches)")[0]
+            .toInt();
+    EXPECT_EQ(PythonCheck("import csv, io, sys\n"
+                          "rows = list(csv.reader(io.StringIO(sys.stdin.read(), newline=''), "
+                          "strict=True))\n"
+                          "assert len(rows) == int(sys.argv[1]), len(rows)\n",
+                          csv.Out, {QString::number(1 + 1000 + quiet)}),
+              "");
 }

@@ -1,0 +1,278 @@
+// The per-catch records of a year file, checked past the program's own layer with plain SQL:
+// several species on one day, a night trip across midnight, released and kept fish, photos,
+// the day's total following its catches, the upgrade of a file made before catches were kept,
+// and the unit conversions against their defined factors.
+#include "logdb/backups.h"
+#include "logdb/catches.h"
+#include "logdb/catchphotos.h"
+#include "logdb/catchunits.h"
+#include "logdb/queryrun.h"
+#include "support/filledyear.h"
+#include "support/logfixture.h"
+#include "support/testenv.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+using namespace logtest;
+
+namespace {
+
+const QDateTime Now = QDateTime::fromString("2026-11-24T03:00:00", Qt::ISODate);
+
+Catch MakeCatch(const QString& date, const QString& time, const QString& species, int count,
+                bool released)
+{
+    Catch c;
+    c.Date = date;
+    c.Time = time;
+    c.Species = species;
+    c.Count = count;
+    c.Released = released;
+    return c;
+}
+
+// A year file made before catches were kept; a new year is made the same way and gains the
+// catches' tables with its first catch.
+QString MakeOldYearFile(const QString& folderName) { return MakeYearFile(folderName); }
+
+QVariant TotalOf(const QString& path, const QString& date)
+{
+    return PlainColumn(path, "SELECT TotalTaken FROM table1 WHERE JulianDate = '" + date + "'")
+        .at(0);
+}
+
+} // namespace
+
+TEST(Catches, ADayOfSeveralSpeciesAndANightTripAreKeptWithTheirTotals)
+{
+    const QString path = MakeYearFile("catches-day");
+    const QString folder = QFileInfo(path).absolutePath();
+    Catch pike = MakeCatch("2024-07-04", "06:10:00", "Pike", 1, false);
+    pike.LengthMm = 812;
+    pike.WeightG = 4350;
+    pike.Bait = "Spinnerbait";
+    pike.Method = "Casting";
+    pike.Spot = "North weed bed";
+    pike.Latitude = 46.5125;
+    pike.Longitude = -94.25;
+    pike.WaterTemp = 18.5;
+    pike.AirTemp = 21.0;
+    pike.Wind = "SW 10 km/h";
+    pike.Sky = "Overcast";
+    pike.Note = "Took it at the drop-off";
+    testenv::WriteFile(QDir(folder).filePath("pike.jpg"), "not really a jpeg");
+    QString stored;
+    ASSERT_TRUE(AddPhoto(path, QDir(folder).filePath("pike.jpg"), stored));
+    pike.Photos = {stored};
+    std::vector<Catch> day = {pike, MakeCatch("2024-07-04", "23:40:00", "Walleye", 3, false),
+                              MakeCatch("2024-07-04", "", "perch", 12, true),
+                              MakeCatch("2024-07-05", "00:20:00", "Walleye", 2, true)};
+    for (Catch& c : day)
+        ASSERT_TRUE(AddCatch(path, c, Now)) << c.Species.toStdString();
+
+    std::vector<Catch> read;
+    ASSERT_TRUE(ReadDayCatches(path, "2024-07-04", read));
+    ASSERT_EQ(read.size(), 3u);
+    EXPECT_EQ(read[0], day[2]); // untimed first, then by time
+    EXPECT_EQ(read[1], day[0]);
+    EXPECT_EQ(read[2], day[1]);
+    EXPECT_EQ(TotalOf(path, "2024-07-04").toInt(), 16);
+    EXPECT_EQ(TotalOf(path, "2024-07-05").toInt(), 2);
+    EXPECT_EQ(PlainColumn(path, "SELECT SUM(FishCount) FROM Catches WHERE Released = 1")[0], 14);
+
+    // Moving the night's catch to the next day moves its fish; removing the last catch of a
+    // day empties the total it followed; a day never given catches keeps its own entry.
+    day[1].Date = "2024-07-05";
+    ASSERT_TRUE(UpdateCatch(path, day[1], Now));
+    EXPECT_EQ(TotalOf(path, "2024-07-04").toInt(), 13);
+    EXPECT_EQ(TotalOf(path, "2024-07-05").toInt(), 5);
+    ASSERT_TRUE(RemoveCatch(path, day[3].Id, Now));
+    ASSERT_TRUE(RemoveCatch(path, day[1].Id, Now));
+    EXPECT_TRUE(TotalOf(path, "2024-07-05").isNull());
+    EXPECT_EQ(PlainColumn(path, "SELECT COUNT(*) FROM CatchPhotos")[0], 1);
+    EXPECT_EQ(PlainColumn(path, "SELECT Notes FROM table1 WHERE JulianDate = '2024-07-06'")[0],
+              "row-188");
+
+    QStringList species;
+    ASSERT_TRUE(SpeciesList(folder, species));
+    EXPECT_EQ(species, QStringList({"perch", "Pike"}));
+}
+
+TEST(Catches, WhatCannotBeKeptIsRefusedAndNothingIsWritten)
+{
+    const QString path = MakeYearFile("catches-refused");
+    const QByteArray before = testenv::FileBytes(path);
+    struct Case {
+        const char* Name;
+        std::function<void(Catch&)> Spoil;
+        const char* Says;
+    };
+    const std::vector<Case> cases = {
+        {"no such day", [](Catch& c) { c.Date = "2023-12-31"; }, "has no day 2023-12-31"},
+        {"bad date", [](Catch& c) { c.Date = "07/04/2024"; }, "not a date"},
+        {"bad time", [](Catch& c) { c.Time = "25:00:00"; }, "not a time"},
+        {"no fish", [](Catch& c) { c.Count = 0; }, "1 to 1000 fish"},
+        {"long", [](Catch& c) { c.LengthMm = 5001; }, "5001 mm"},
+        {"cold", [](Catch& c) { c.WaterTemp = -51; }, "temperature"},
+        {"half a place", [](Catch& c) { c.Latitude = 45; }, "latitude"},
+    };
+    for (const Case& k : cases) {
+        Catch c = MakeCatch("2024-07-04", "06:00:00", "Pike", 1, false);
+        k.Spoil(c);
+        const DbResult refused = AddCatch(path, c, Now);
+        EXPECT_FALSE(refused) << k.Name;
+        EXPECT_TRUE(refused.Message.contains(k.Says))
+            << k.Name << ": " << refused.Message.toStdString();
+    }
+    EXPECT_EQ(testenv::FileBytes(path), before);
+}
+
+TEST(Catches, AnOlderYearFileOpensUnchangedAndGainsTheTablesWithItsFirstCatch)
+{
+    const QString path = MakeOldYearFile("catches-upgrade");
+    const auto rowsBefore = PlainRows(path, "SELECT * FROM table1 ORDER BY DBID");
+    const QByteArray old = testenv::FileBytes(path);
+    int version = -1;
+    ASSERT_TRUE(CatchSchemaOf(path, version));
+    EXPECT_EQ(version, 0);
+    std::vector<Catch> none;
+    ASSERT_TRUE(ReadDayCatches(path, "2024-07-04", none));
+    EXPECT_TRUE(none.empty());
+    EXPECT_EQ(testenv::FileBytes(path), old);
+
+    Catch bass = MakeCatch("2024-07-04", "19:30:00", "Bass", 2, false);
+    ASSERT_TRUE(AddCatch(path, bass, Now));
+    ASSERT_TRUE(CatchSchemaOf(path, version));
+    EXPECT_EQ(version, CatchSchemaVersion);
+    EXPECT_EQ(PlainColumn(path, "PRAGMA user_version")[0], CatchSchemaVersion);
+    const QStringList backups = ListBackups(path);
+    ASSERT_EQ(backups.size(), 1);
+    EXPECT_EQ(testenv::FileBytes(backups[0]), old);
+    // Every record as it was, but the day's total, which now follows its catch.
+    auto rowsAfter = PlainRows(path, "SELECT * FROM table1 ORDER BY DBID");
+    const int total = 21; // TotalTaken's column
+    const int july4 = 185;
+    EXPECT_EQ(rowsAfter[july4][total].toInt(), 2);
+    rowsAfter[july4][total] = rowsBefore[july4][total];
+    EXPECT_EQ(rowsAfter, rowsBefore);
+}
+
+TEST(CatchPhotos, CopiesKeepTheirOwnNamesAndAMissingFileIsReported)
+{
+    const QString path = MakeYearFile("catches-photos");
+    const QDir folder = QFileInfo(path).absoluteDir();
+    const QString source = testenv::FreshDir("camera");
+    testenv::WriteFile(source + "/pike.jpg", "first");
+    ASSERT_TRUE(QDir(source).mkdir("other"));
+    testenv::WriteFile(source + "/other/pike.jpg", "second");
+    QString first, again, second;
+    ASSERT_TRUE(AddPhoto(path, source + "/pike.jpg", first));
+    ASSERT_TRUE(AddPhoto(path, source + "/pike.jpg", again));
+    ASSERT_TRUE(AddPhoto(path, source + "/other/pike.jpg", second));
+    EXPECT_EQ(first, "photos/2024/pike.jpg");
+    EXPECT_EQ(again, first); // the same picture is not copied twice
+    EXPECT_EQ(second, "photos/2024/pike_2.jpg");
+    EXPECT_EQ(testenv::FileBytes(folder.filePath(second)), "second");
+    EXPECT_EQ(QDir(folder.filePath("photos/2024")).entryList(QDir::Files),
+              QStringList({"pike.jpg", "pike_2.jpg"})); // and no temporaries
+
+    const PhotoFile there = LookUpPhoto(path, first);
+    EXPECT_FALSE(there.Missing);
+    EXPECT_EQ(there.Path, folder.filePath(first));
+    ASSERT_TRUE(QFile::remove(folder.filePath(first)));
+    for (const QString& gone : {first, QString("../camera/pike.jpg")}) {
+        const PhotoFile missing = LookUpPhoto(path, gone);
+        EXPECT_TRUE(missing.Missing) << gone.toStdString();
+        EXPECT_EQ(missing.Message, "The photo " + gone + " is missing.");
+    }
+    QString refused;
+    EXPECT_FALSE(AddPhoto(path, source + "/none.jpg", refused));
+}
+
+TEST(CatchUnits, ConversionsFollowTheDefinedFactorsAndTypedValuesAreChecked)
+{
+    EXPECT_DOUBLE_EQ(InchesToCm(1), 2.54);
+    EXPECT_DOUBLE_EQ(PoundsToKg(1), 0.45359237);
+    EXPECT_DOUBLE_EQ(CelsiusToFahrenheit(100), 212);
+    EXPECT_DOUBLE_EQ(FahrenheitToCelsius(-40), -40);
+    EXPECT_DOUBLE_EQ(CmToInches(InchesToCm(17.3)), 17.3);
+    EXPECT_DOUBLE_EQ(KgToPounds(PoundsToKg(9.75)), 9.75);
+    struct Case {
+        const char* Typed;
+        UnitSystem Units;
+        std::optional<int> Stored;
+        const char* Why;
+    };
+    std::string why;
+    for (const Case& k : std::vector<Case>{
+             {"31.5", UnitSystem::Metric, 315, ""},
+             {" 12.5 ", UnitSystem::Imperial, 318, ""},
+             {"", UnitSystem::Imperial, std::nullopt, ""},
+             {"-3", UnitSystem::Metric, std::nullopt, "\"-3\" is not a length from 0 to 500 cm"},
+             {"12in", UnitSystem::Imperial, std::nullopt,
+              "\"12in\" is not a length from 0 to 196.9 in"}}) {
+        EXPECT_EQ(LengthFromText(k.Typed, k.Units, why), k.Stored) << k.Typed;
+        EXPECT_EQ(why, k.Why) << k.Typed;
+    }
+    EXPECT_EQ(WeightFromText("2.2", UnitSystem::Imperial, why), 998);
+    EXPECT_EQ(WeightText(998, UnitSystem::Imperial), "2.20");
+    EXPECT_EQ(LengthText(318, UnitSystem::Imperial), "12.5");
+    EXPECT_NEAR(*TemperatureFromText("65", UnitSystem::Imperial, why), 18.3333, 1e-4);
+    EXPECT_EQ(TemperatureText(18.5, UnitSystem::Imperial), "65.3");
+    EXPECT_FALSE(TemperatureFromText("150", UnitSystem::Imperial, why));
+    EXPECT_EQ(why, "\"150\" is not a temperature from -58 to 140 °F");
+}
+
+TEST(CatchConditions, SpeciesNotesAndReleasedPickTheDaysPlainSqlPicks)
+{
+    const QString path = MakeYearFile("catches-query");
+    const QString old = MakeOldYearFile("catches-query-old");
+    std::vector<Catch> catches;
+    for (int i = 0; i < 60; ++i) {
+        Catch c = MakeCatch(QDate(2024, 1, 1).addDays(i * 5).toString(Qt::ISODate), "",
+                            i % 3 == 0 ? "Pike" : "walleye", 1, i % 4 == 0);
+        c.Note = i % 7 == 0 ? "At the DROP-off, 100% sure" : "";
+        catches.push_back(c);
+    }
+    ASSERT_TRUE(AddCatches(path, catches, Now));
+    struct Case {
+        CatchConditions Conditions;
+        QString Where; // over table1, asked of the file in plain SQLite
+        QString OldWhere;
+    };
+    const std::vector<Case> cases = {
+        {{"PIKE", "", false},
+         "JulianDate IN (SELECT JulianDate FROM Catches WHERE lower(Species) = 'pike')",
+         "0"},
+        {{"", "", true}, "JulianDate IN (SELECT JulianDate FROM Catches WHERE Released = 1)", "0"},
+        {{"Walleye", "", true},
+         "JulianDate IN (SELECT JulianDate FROM Catches WHERE Released = 1 AND Species = "
+         "'walleye')",
+         "0"},
+        {{"", "drop-OFF", false},
+         "JulianDate IN (SELECT JulianDate FROM Catches WHERE instr(lower(Note), 'drop-off'))",
+         "0"},
+        {{"", "ROW-01", false}, "instr(Notes, 'row-01')", "instr(Notes, 'row-01')"},
+        {{"", "0% s", false},
+         "JulianDate IN (SELECT JulianDate FROM Catches WHERE instr(Note, '0% s'))",
+         "0"},
+        {{"", "w_0", false}, "0", "0"}, // "_" stands for itself
+    };
+    for (const Case& k : cases) {
+        for (const auto& [file, where] : {std::pair{path, k.Where}, std::pair{old, k.OldWhere}}) {
+            QueryForm form;
+            form.Catches = k.Conditions;
+            const Selection s = SelectDataWhere(file, form, 1);
+            EXPECT_TRUE(s.Refused.isEmpty()) << s.Refused.join('|').toStdString();
+            EXPECT_EQ(
+                RecordIds(file, s.RecordSource),
+                PlainIds(file, "SELECT DBID FROM table1 WHERE " + where + " ORDER BY JulianDate"))
+                << where.toStdString();
+        }
+    }
+}
