@@ -12,6 +12,7 @@
 #include "ui/common/busypointer.h"
 #include "ui/common/databar.h"
 #include "ui/common/messageservice.h"
+#include "ui/log/catchlist.h"
 #include "ui/log/controlstate.h"
 #include "ui/log/frmstatistics.h"
 
@@ -312,7 +313,12 @@ QWidget* frmTable1::BuildCatchPanel()
         b->setAutoDefault(false);
     grid->addWidget(cmdEdit, 5, 0);
     grid->addWidget(cmdUpdate, 5, 1);
+    CatchesList = new CatchList(Ctx, panel);
+    CatchesList->setObjectName(QStringLiteral("CatchesList"));
+    grid->addWidget(CatchesList, 6, 0, 1, 3);
     grid->setRowStretch(4, 1);
+    grid->setRowStretch(6, 2);
+    connect(CatchesList, &CatchList::CatchesChanged, this, &frmTable1::ReloadDay);
 
     connect(cmdEdit, &QPushButton::clicked, this, &frmTable1::cmdEdit_Click);
     connect(cmdUpdate, &QPushButton::clicked, this, &frmTable1::cmdUpdate_Click);
@@ -446,6 +452,17 @@ void frmTable1::Data1_Reposition()
     ShowTimes();
     ShowNotes();
     ShowMoon();
+    CatchesList->ShowDay(Data1.DatabaseName(), Data1.Field("JulianDate").toString());
+}
+
+void frmTable1::ReloadDay()
+{
+    const QVariant id = Data1.Field(QStringLiteral("DBID"));
+    DbResult reloaded = Data1.Refresh();
+    if (reloaded && !id.isNull())
+        reloaded = Data1.FindFirst(QStringLiteral("dbid = ") + QString::number(id.toInt()));
+    if (!reloaded)
+        Data1_Error(reloaded.Message);
 }
 
 void frmTable1::ShowTimes()
@@ -525,6 +542,7 @@ void frmTable1::SetBrowsing(bool browsing)
     set(mnuExit, browsing);
     set(Command1, browsing);
     set(mnutableview, browsing);
+    set(CatchesList, browsing); // catches are written on their own, not within the day's edit
     for (QWidget* w : std::initializer_list<QWidget*>{cmdUpdate, txtFields[17], txtFields[18],
                                                       Combo4, PeakTimeCombo, Text7})
         set(w, !browsing);

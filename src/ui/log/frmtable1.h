@@ -13,6 +13,7 @@
 #include <memory>
 #include <vector>
 
+class CatchList;
 class DataBar;
 class QAction;
 class QCheckBox;
@@ -95,6 +96,7 @@ public:
     QComboBox* Combo4 = nullptr;
     QPushButton* cmdEdit = nullptr;
     QPushButton* cmdUpdate = nullptr;
+    CatchList* CatchesList = nullptr; // the day's catches
     QAction* mnuExit = nullptr;
     QAction* mnutableview = nullptr;
     std::int16_t SortIndex = 1;
@@ -138,6 +140,8 @@ private:
     void ShowTimes();
     void ShowNotes();
     void ShowMoon();
+    // After a catch was written: the day's record again, with the total its catches make.
+    void ReloadDay();
     // The query builder's controls and menus (frmtable1query.cpp).
     QWidget* BuildQueryPanel();
     void BuildQueryMenus(QMenuBar* bar);

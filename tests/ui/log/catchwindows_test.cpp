@@ -1,0 +1,266 @@
+// The catch editor driven by key events on the real window, and the record browser's catch
+// list after adds, edits and removals, checked against the year file read in plain SQL.
+#include "logdb/catches.h"
+#include "logdb/catchphotos.h"
+#include "support/filledyear.h"
+#include "support/logfixture.h"
+#include "ui/log/catcheditor.h"
+#include "ui/log/catchlist.h"
+#include "ui/log/frmstatistics.h"
+#include "ui/log/frmtable1.h"
+#include "ui/log/logwindowenv.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCompleter>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPalette>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <gtest/gtest.h>
+
+using namespace logtest;
+
+namespace {
+
+constexpr auto FirstDay = "2024-01-01";
+
+// A small picture file of its own colour, as a camera's would be found on disk.
+QString TestPhoto(const QString& folder, const QString& name, Qt::GlobalColor colour)
+{
+    QImage image(320, 240, QImage::Format_RGB32);
+    image.fill(colour);
+    QPainter(&image).fillRect(40, 40, 120, 60, Qt::white);
+    const QString path = QDir(folder).filePath(name);
+    EXPECT_TRUE(image.save(path));
+    return path;
+}
+
+void Type(QWidget* box, const QString& text)
+{
+    box->setFocus();
+    QTest::keyClicks(box, text);
+}
+
+QVariant SqlValue(const QString& path, const QString& sql)
+{
+    const auto column = PlainColumn(path, sql);
+    return column.empty() ? QVariant() : column.front();
+}
+
+} // namespace
+
+// What the angler types is what the file keeps, in the chosen units, or the message under the
+// fields says why not and nothing is written.
+TEST(CatchEditor, TypedEntriesAreStoredOrRefusedWithTheirMessage)
+{
+    struct Case {
+        UnitSystem Units;
+        const char* Field; // the editor's box
+        const char* Typed;
+        const char* Column;  // the stored column
+        QVariant Stored;     // as SQLite holds it; null when refused
+        const char* Message; // what the editor says, when it refuses
+    };
+    const std::vector<Case> cases = {
+        {UnitSystem::Metric, "LengthBox", "52.5", "LengthMm", 525, ""},
+        {UnitSystem::Imperial, "LengthBox", "20.5", "LengthMm", 521, ""}, // 520.7 mm
+        {UnitSystem::Imperial, "WeightBox", "3.5", "WeightG", 1588, ""},  // 1587.57 g
+        {UnitSystem::Imperial, "WaterBox", "68", "WaterTemp", 20.0, ""},
+        {UnitSystem::Metric, "TimeBox", "7:30 pm", "CatchTime", "19:30:00", ""},
+        {UnitSystem::Metric, "TimeBox", "06:05", "CatchTime", "06:05:00", ""},
+        {UnitSystem::Metric, "LengthBox", "-3", "LengthMm", {}, "\"-3\" is not a length"},
+        {UnitSystem::Imperial, "LengthBox", "long", "LengthMm", {}, "\"long\" is not a length"},
+        {UnitSystem::Metric, "TimeBox", "25:00", "CatchTime", {}, "\"25:00\" is not a time"},
+        {UnitSystem::Metric, "LatitudeBox", "95", "Latitude", {}, "\"95\" is not a latitude"},
+    };
+    int n = 0;
+    for (const Case& c : cases) {
+        const QString label = QStringLiteral("%1 %2").arg(c.Field, c.Typed);
+        const QString path = MakeYearFile(QStringLiteral("catch-typing-%1").arg(n++), 3);
+        LogWindowEnv env(QFileInfo(path).absolutePath(), path);
+        LogContext context = env.Context();
+        context.Units = c.Units;
+        PhotoThumbnails thumbnails(48);
+        Catch fresh;
+        fresh.Date = FirstDay;
+        CatchEditor editor(context, path, fresh, thumbnails);
+        editor.show();
+        editor.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
+        Type(editor.SpeciesBox, QStringLiteral("Walleye"));
+        Type(editor.findChild<QWidget*>(QLatin1String(c.Field)), QLatin1String(c.Typed));
+        QTest::mouseClick(editor.cmdOK, Qt::LeftButton);
+        const QString count =
+            QStringLiteral("SELECT count(*) FROM sqlite_master WHERE name = 'Catches'");
+        if (c.Stored.isNull()) {
+            EXPECT_TRUE(editor.isVisible()) << label.toStdString();
+            EXPECT_TRUE(editor.Message->text().startsWith(QLatin1String(c.Message)))
+                << label.toStdString() << ": " << editor.Message->text().toStdString();
+            EXPECT_EQ(QApplication::focusWidget(),
+                      editor.findChild<QWidget*>(QLatin1String(c.Field)))
+                << label.toStdString();
+            const bool tables = SqlValue(path, count).toInt() == 1;
+            EXPECT_TRUE(!tables || SqlValue(path, "SELECT count(*) FROM Catches").toInt() == 0)
+                << label.toStdString();
+            continue;
+        }
+        EXPECT_FALSE(editor.isVisible())
+            << label.toStdString() << editor.Message->text().toStdString();
+        const QVariant stored =
+            SqlValue(path, QStringLiteral("SELECT %1 FROM Catches WHERE Species = 'Walleye' AND "
+                                          "JulianDate = '%2'")
+                               .arg(QLatin1String(c.Column), QLatin1String(FirstDay)));
+        EXPECT_EQ(stored.toString(), c.Stored.toString()) << label.toStdString();
+    }
+}
+
+// The species list of the folder's year files completes what the angler begins to type.
+TEST(CatchEditor, SpeciesCompleteFromTheFolder)
+{
+    const QString path = MakeYearFile(QStringLiteral("catch-species"), 3);
+    for (const char* name : {"Northern Pike", "Walleye", "Nile Perch"}) {
+        Catch c;
+        c.Date = FirstDay;
+        c.Species = QLatin1String(name);
+        ASSERT_TRUE(AddCatch(path, c, QDateTime::currentDateTime()));
+    }
+    LogWindowEnv env(QFileInfo(path).absolutePath(), path);
+    PhotoThumbnails thumbnails(48);
+    Catch fresh;
+    fresh.Date = FirstDay;
+    CatchEditor editor(env.Context(), path, fresh, thumbnails);
+    editor.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&editor));
+    Type(editor.SpeciesBox, QStringLiteral("n"));
+    QCompleter* completer = editor.SpeciesBox->completer();
+    ASSERT_TRUE(completer->popup()->isVisible());
+    EXPECT_EQ(completer->completionCount(), 2); // Nile Perch, Northern Pike
+    QTest::keyClicks(editor.SpeciesBox, QStringLiteral("or"));
+    EXPECT_EQ(completer->completionCount(), 1);
+    QTest::keyClick(completer->popup(), Qt::Key_Down);
+    QTest::keyClick(completer->popup(), Qt::Key_Return);
+    EXPECT_EQ(editor.SpeciesBox->text(), "Northern Pike");
+}
+
+// Add, edit and remove through the browser: the list shows what the file holds, and the
+// day's Total Taken follows its catches.
+TEST(CatchList, ShowsTheDaysCatchesAsTheFileHoldsThem)
+{
+    const QString path = MakeYearFile(QStringLiteral("catch-browser"), 3);
+    const QString folder = QFileInfo(path).absolutePath();
+    LogWindowEnv env(folder, path);
+    frmTable1 browser(env.Context());
+    browser.Form_Activate();
+    CatchList& list = *browser.CatchesList;
+    const QString photo = TestPhoto(folder, QStringLiteral("pike.png"), Qt::darkGreen);
+    // Each editor run types a species and a count, adds a photo to the first and saves.
+    std::vector<std::pair<QString, int>> typed = {{"Pike", 2}, {"Perch", 5}, {"Zander", 1}};
+    list.RunEditor = [&typed, &photo](CatchEditor& editor) {
+        editor.SpeciesBox->clear();
+        Type(editor.SpeciesBox, typed.front().first);
+        editor.CountBox->setValue(typed.front().second);
+        if (typed.front().first == "Pike")
+            editor.AddPhotoFiles({photo});
+        typed.erase(typed.begin());
+        editor.cmdOK_Click();
+        return editor.result();
+    };
+    const auto sqlSpecies = [&path] {
+        QStringList names;
+        for (const QVariant& v : PlainColumn(path, QStringLiteral("SELECT Species FROM Catches "
+                                                                  "WHERE JulianDate = '2024-01-01' "
+                                                                  "ORDER BY CatchID")))
+            names << v.toString();
+        return names;
+    };
+    const auto shownSpecies = [&list] {
+        QStringList names;
+        for (int i = 0; i < list.Catches->topLevelItemCount(); ++i)
+            names << list.Catches->topLevelItem(i)->text(1);
+        return names;
+    };
+    const auto sqlTotal = [&path] {
+        return SqlValue(path, "SELECT TotalTaken FROM table1 WHERE JulianDate = '2024-01-01'")
+            .toString();
+    };
+
+    list.cmdAddCatch_Click();
+    list.cmdAddCatch_Click();
+    EXPECT_EQ(shownSpecies(), sqlSpecies());
+    EXPECT_EQ(sqlSpecies(), (QStringList{"Pike", "Perch"}));
+    EXPECT_EQ(sqlTotal(), "7");
+    EXPECT_EQ(browser.txtFields[17]->text(), sqlTotal());
+    const QString stored =
+        SqlValue(path, "SELECT Photo FROM CatchPhotos JOIN Catches USING (CatchID) "
+                       "WHERE Species = 'Pike'")
+            .toString();
+    EXPECT_TRUE(QFileInfo::exists(QDir(folder).filePath(stored))) << stored.toStdString();
+    EXPECT_TRUE(list.Notice->isHidden());
+
+    list.Catches->setCurrentItem(list.Catches->topLevelItem(1));
+    list.cmdEditCatch_Click(); // Perch becomes Zander, one fish
+    EXPECT_EQ(sqlSpecies(), (QStringList{"Pike", "Zander"}));
+    EXPECT_EQ(shownSpecies(), sqlSpecies());
+    EXPECT_EQ(browser.txtFields[17]->text(), "3");
+
+    // A photo file that went missing is reported under the list, and the day still shows.
+    ASSERT_TRUE(QFile::remove(QDir(folder).filePath(stored)));
+    browser.Data1.MoveNext();
+    browser.Data1.MovePrevious();
+    EXPECT_FALSE(list.Notice->isHidden());
+    EXPECT_TRUE(list.Notice->text().contains(stored)) << list.Notice->text().toStdString();
+
+    env.Answers = {MsgResult::Yes};
+    list.Catches->setCurrentItem(list.Catches->topLevelItem(0));
+    list.cmdRemoveCatch_Click();
+    EXPECT_EQ(sqlSpecies(), (QStringList{"Zander"}));
+    EXPECT_EQ(shownSpecies(), sqlSpecies());
+    EXPECT_EQ(browser.txtFields[17]->text(), "1");
+    EXPECT_EQ(browser.txtFields[17]->text(), sqlTotal());
+}
+
+// Moving the browser to a day of 20 catches with 20 photos reads the day and draws its
+// thumbnails from the cache: well within 50 ms once each photo has been seen.
+TEST(CatchList, ADayOfTwentyCatchesAndPhotosShowsWithin50Ms)
+{
+    const QString path = MakeYearFile(QStringLiteral("catch-speed"), 3);
+    const QString folder = QFileInfo(path).absolutePath();
+    std::vector<Catch> catches;
+    for (int i = 0; i < 20; ++i) {
+        Catch c;
+        c.Date = FirstDay;
+        c.Time = QStringLiteral("%1:00:00").arg(i + 2, 2, 10, QLatin1Char('0'));
+        c.Species = QStringLiteral("Species %1").arg(i);
+        QString relative;
+        ASSERT_TRUE(AddPhoto(
+            path,
+            TestPhoto(folder, QStringLiteral("p%1.png").arg(i), i % 2 ? Qt::darkBlue : Qt::darkRed),
+            relative));
+        c.Photos << relative;
+        catches.push_back(c);
+    }
+    ASSERT_TRUE(AddCatches(path, catches, QDateTime::currentDateTime()));
+    LogWindowEnv env(folder, path);
+    CatchList list(env.Context());
+    list.ShowDay(path, FirstDay); // the first sight of each photo decodes it
+    ASSERT_EQ(list.Catches->topLevelItemCount(), 20);
+    QElapsedTimer clock;
+    clock.start();
+    list.ShowDay(path, "2024-01-02");
+    list.ShowDay(path, FirstDay);
+    const qint64 ms = clock.elapsed();
+    std::printf("a day of 20 catches and 20 photos shown in %lld ms\n", ms);
+    EXPECT_LT(ms, 50);
+    EXPECT_EQ(list.Catches->topLevelItemCount(), 20);
+}
