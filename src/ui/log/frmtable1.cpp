@@ -174,8 +174,13 @@ void frmTable1::BuildControls()
     layout->setMenuBar(bar);
     layout->addWidget(BuildDayPanel(), 0, 0);
     layout->addWidget(BuildCatchPanel(), 0, 1);
-    layout->addWidget(BuildQueryPanel(), 0, 2, 2, 1);
-    layout->addWidget(Data1Bar, 1, 0, 1, 2);
+    layout->addWidget(BuildQueryPanel(), 0, 2, 3, 1);
+    // The day's catches lie under its fields, across the day's and the entries' panels.
+    CatchesList = new CatchList(Ctx, this);
+    CatchesList->setObjectName(QStringLiteral("CatchesList"));
+    layout->addWidget(CatchesList, 1, 0, 1, 2);
+    layout->addWidget(Data1Bar, 2, 0, 1, 2);
+    connect(CatchesList, &CatchList::CatchesChanged, this, &frmTable1::ReloadDay);
     layout->setColumnStretch(0, 3);
     layout->setColumnStretch(1, 2);
     layout->setColumnStretch(2, 2);
@@ -313,12 +318,7 @@ QWidget* frmTable1::BuildCatchPanel()
         b->setAutoDefault(false);
     grid->addWidget(cmdEdit, 5, 0);
     grid->addWidget(cmdUpdate, 5, 1);
-    CatchesList = new CatchList(Ctx, panel);
-    CatchesList->setObjectName(QStringLiteral("CatchesList"));
-    grid->addWidget(CatchesList, 6, 0, 1, 3);
     grid->setRowStretch(4, 1);
-    grid->setRowStretch(6, 2);
-    connect(CatchesList, &CatchList::CatchesChanged, this, &frmTable1::ReloadDay);
 
     connect(cmdEdit, &QPushButton::clicked, this, &frmTable1::cmdEdit_Click);
     connect(cmdUpdate, &QPushButton::clicked, this, &frmTable1::cmdUpdate_Click);

@@ -52,6 +52,31 @@ void Type(QWidget* box, const QString& text)
     QTest::keyClicks(box, text);
 }
 
+// The window's picture in the test's palette and in a dark one, named for the screen's dpi.
+void Shots(QWidget& window, const QString& name)
+{
+    const QString dpi = QStringLiteral("-%1dpi").arg(window.logicalDpiY());
+    Screenshot(window, name + dpi);
+    const QPalette light = window.palette();
+    QPalette dark = light;
+    for (const auto& [role, colour] : {std::pair{QPalette::Window, QColor(53, 53, 53)},
+                                       {QPalette::WindowText, Qt::white},
+                                       {QPalette::Base, QColor(35, 35, 35)},
+                                       {QPalette::AlternateBase, QColor(66, 66, 66)},
+                                       {QPalette::Text, Qt::white},
+                                       {QPalette::Button, QColor(53, 53, 53)},
+                                       {QPalette::ButtonText, Qt::white},
+                                       {QPalette::Highlight, QColor(42, 130, 218)},
+                                       {QPalette::HighlightedText, Qt::black},
+                                       {QPalette::PlaceholderText, Qt::gray}})
+        dark.setColor(role, colour);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(QPalette::Disabled, role, Qt::gray);
+    window.setPalette(dark);
+    Screenshot(window, name + dpi + QStringLiteral("-dark"));
+    window.setPalette(light);
+}
+
 QVariant SqlValue(const QString& path, const QString& sql)
 {
     const auto column = PlainColumn(path, sql);
@@ -163,15 +188,23 @@ TEST(CatchList, ShowsTheDaysCatchesAsTheFileHoldsThem)
     frmTable1 browser(env.Context());
     browser.Form_Activate();
     CatchList& list = *browser.CatchesList;
-    const QString photo = TestPhoto(folder, QStringLiteral("pike.png"), Qt::darkGreen);
-    // Each editor run types a species and a count, adds a photo to the first and saves.
-    std::vector<std::pair<QString, int>> typed = {{"Pike", 2}, {"Perch", 5}, {"Zander", 1}};
-    list.RunEditor = [&typed, &photo](CatchEditor& editor) {
+    const QString pike = TestPhoto(folder, QStringLiteral("pike.png"), Qt::darkGreen);
+    const QString perch = TestPhoto(folder, QStringLiteral("perch.png"), Qt::darkYellow);
+    // Each editor run types a species and a count, adds its photos and saves.
+    struct Typed {
+        QString Species;
+        int Count;
+        QStringList Photos;
+    };
+    std::vector<Typed> typed = {
+        {"Pike", 2, {pike}}, {"Perch", 5, {perch, pike}}, {"Bass", 1, {}}, {"Zander", 1, {}}};
+    list.RunEditor = [&typed](CatchEditor& editor) {
         editor.SpeciesBox->clear();
-        Type(editor.SpeciesBox, typed.front().first);
-        editor.CountBox->setValue(typed.front().second);
-        if (typed.front().first == "Pike")
-            editor.AddPhotoFiles({photo});
+        Type(editor.SpeciesBox, typed.front().Species);
+        editor.CountBox->setValue(typed.front().Count);
+        editor.AddPhotoFiles(typed.front().Photos);
+        if (typed.front().Species == "Perch")
+            Shots(editor, QStringLiteral("catch-editor"));
         typed.erase(typed.begin());
         editor.cmdOK_Click();
         return editor.result();
@@ -195,11 +228,12 @@ TEST(CatchList, ShowsTheDaysCatchesAsTheFileHoldsThem)
             .toString();
     };
 
-    list.cmdAddCatch_Click();
-    list.cmdAddCatch_Click();
+    for (int i = 0; i < 3; ++i)
+        list.cmdAddCatch_Click();
     EXPECT_EQ(shownSpecies(), sqlSpecies());
-    EXPECT_EQ(sqlSpecies(), (QStringList{"Pike", "Perch"}));
-    EXPECT_EQ(sqlTotal(), "7");
+    EXPECT_EQ(sqlSpecies(), (QStringList{"Pike", "Perch", "Bass"}));
+    EXPECT_EQ(sqlTotal(), "8");
+    EXPECT_EQ(SqlValue(path, "SELECT count(*) FROM CatchPhotos").toInt(), 3);
     EXPECT_EQ(browser.txtFields[17]->text(), sqlTotal());
     const QString stored =
         SqlValue(path, "SELECT Photo FROM CatchPhotos JOIN Catches USING (CatchID) "
@@ -207,12 +241,14 @@ TEST(CatchList, ShowsTheDaysCatchesAsTheFileHoldsThem)
             .toString();
     EXPECT_TRUE(QFileInfo::exists(QDir(folder).filePath(stored))) << stored.toStdString();
     EXPECT_TRUE(list.Notice->isHidden());
+    browser.show();
+    Shots(browser, QStringLiteral("catch-browser"));
 
     list.Catches->setCurrentItem(list.Catches->topLevelItem(1));
     list.cmdEditCatch_Click(); // Perch becomes Zander, one fish
-    EXPECT_EQ(sqlSpecies(), (QStringList{"Pike", "Zander"}));
+    EXPECT_EQ(sqlSpecies(), (QStringList{"Pike", "Zander", "Bass"}));
     EXPECT_EQ(shownSpecies(), sqlSpecies());
-    EXPECT_EQ(browser.txtFields[17]->text(), "3");
+    EXPECT_EQ(browser.txtFields[17]->text(), "4");
 
     // A photo file that went missing is reported under the list, and the day still shows.
     ASSERT_TRUE(QFile::remove(QDir(folder).filePath(stored)));
@@ -224,9 +260,9 @@ TEST(CatchList, ShowsTheDaysCatchesAsTheFileHoldsThem)
     env.Answers = {MsgResult::Yes};
     list.Catches->setCurrentItem(list.Catches->topLevelItem(0));
     list.cmdRemoveCatch_Click();
-    EXPECT_EQ(sqlSpecies(), (QStringList{"Zander"}));
+    EXPECT_EQ(sqlSpecies(), (QStringList{"Zander", "Bass"}));
     EXPECT_EQ(shownSpecies(), sqlSpecies());
-    EXPECT_EQ(browser.txtFields[17]->text(), "1");
+    EXPECT_EQ(browser.txtFields[17]->text(), "2");
     EXPECT_EQ(browser.txtFields[17]->text(), sqlTotal());
 }
 
