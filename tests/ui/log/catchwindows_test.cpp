@@ -6,12 +6,17 @@
 #include "support/logfixture.h"
 #include "ui/log/catcheditor.h"
 #include "ui/log/catchlist.h"
+#include "ui/log/catchtabs.h"
 #include "ui/log/frmstatistics.h"
 #include "ui/log/frmtable1.h"
 #include "ui/log/logwindowenv.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QBarCategoryAxis>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
 #include <QCompleter>
 #include <QDir>
 #include <QElapsedTimer>
@@ -23,11 +28,14 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QStackedBarSeries>
 #include <QTabWidget>
 #include <QTest>
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
+
+#include <map>
 
 using namespace logtest;
 
@@ -299,4 +307,65 @@ TEST(CatchList, ADayOfTwentyCatchesAndPhotosShowsWithin50Ms)
     std::printf("a day of 20 catches and 20 photos shown in %lld ms\n", ms);
     EXPECT_LT(ms, 50);
     EXPECT_EQ(list.Catches->topLevelItemCount(), 20);
+}
+
+// The statistics' catch pages chart what the file holds, asked in plain SQL, and name the
+// water temperature bands in the chosen units.
+TEST(CatchPages, ChartTheFilesFishInTheChosenUnits)
+{
+    const QString path = MakeYearFile(QStringLiteral("catch-pages"), 3);
+    struct Entry {
+        const char* Species;
+        int Count;
+        bool Released;
+        std::optional<double> Water;
+        const char* Time;
+    };
+    std::vector<Catch> catches;
+    for (const Entry& e :
+         {Entry{"Pike", 2, true, 12.0, "06:10:00"}, Entry{"Pike", 1, false, 7.5, "13:00:00"},
+          Entry{"Perch", 6, false, 12.5, "18:40:00"}, Entry{"Bass", 1, true, std::nullopt, ""}}) {
+        Catch c;
+        c.Date = FirstDay;
+        c.Species = QLatin1String(e.Species);
+        c.Count = e.Count;
+        c.Released = e.Released;
+        c.WaterTemp = e.Water;
+        c.Time = QLatin1String(e.Time);
+        catches.push_back(c);
+    }
+    ASSERT_TRUE(AddCatches(path, catches, QDateTime::currentDateTime()));
+    LogWindowEnv env(QFileInfo(path).absolutePath(), path);
+    LogContext context = env.Context();
+    context.Units = UnitSystem::Imperial;
+    FrmStatistics window(context, path);
+
+    const auto chartOf = [&window](int page) {
+        QChart* chart = window.CatchCharts->Charts[std::size_t(page)]->chart();
+        auto* series = qobject_cast<QStackedBarSeries*>(chart->series().front());
+        auto* axis = qobject_cast<QBarCategoryAxis*>(chart->axes(Qt::Horizontal).front());
+        std::map<QString, std::pair<long, long>> bars; // name: fish, released
+        for (int i = 0; i < axis->count(); ++i)
+            bars[axis->at(i)] = {long(series->barSets()[0]->at(i) + series->barSets()[1]->at(i)),
+                                 long(series->barSets()[1]->at(i))};
+        return bars;
+    };
+    std::map<QString, std::pair<long, long>> sql;
+    for (const auto& row :
+         PlainRows(path, "SELECT Species, sum(FishCount), sum(FishCount * Released) "
+                         "FROM Catches GROUP BY Species"))
+        sql[row[0].toString()] = {row[1].toLongLong(), row[2].toLongLong()};
+    EXPECT_EQ(chartOf(0), sql);
+    const auto water = chartOf(4);
+    QStringList bands;
+    for (const auto& [name, fish] : water)
+        bands << name;
+    // 5 to 10 °C and 10 to 15 °C, and the catch without a temperature.
+    EXPECT_EQ(bands, (QStringList{"(no temperature)", "41 to 50 \u00B0F", "50 to 59 \u00B0F"}));
+    EXPECT_EQ(water.at("50 to 59 \u00B0F").first, 8);
+    window.show();
+    for (int page = 1; page <= 4; ++page) {
+        window.Tabs->setCurrentIndex(window.Tabs->count() - page);
+        Shots(window, QStringLiteral("catch-statistics-%1").arg(page));
+    }
 }
