@@ -7,6 +7,7 @@
 #include "ui/log/catcheditor.h"
 #include "ui/log/catchlist.h"
 #include "ui/log/catchtabs.h"
+#include "ui/log/frmselectdb.h"
 #include "ui/log/frmstatistics.h"
 #include "ui/log/frmtable1.h"
 #include "ui/log/logwindowenv.h"
@@ -20,10 +21,12 @@
 #include <QCompleter>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPainter>
 #include <QPalette>
 #include <QPushButton>
@@ -367,5 +370,56 @@ TEST(CatchPages, ChartTheFilesFishInTheChosenUnits)
     for (int page = 1; page <= 4; ++page) {
         window.Tabs->setCurrentIndex(window.Tabs->count() - page);
         Shots(window, QStringLiteral("catch-statistics-%1").arg(page));
+    }
+}
+
+// Export from Database Functions and import into a fresh year: the catches arrive as the file
+// held them, and exporting the new year gives the same bytes, in CSV and in JSON.
+TEST(CatchExport, DatabaseFunctionsExportAndImportTheCatchesWhole)
+{
+    const QString columns = QStringLiteral(
+        "SELECT JulianDate, CatchTime, Species, FishCount, LengthMm, WeightG, Released, Bait, "
+        "Spot, Latitude, Longitude, WaterTemp, Note FROM Catches ORDER BY JulianDate, CatchTime");
+    for (const QString& extension : {QStringLiteral("csv"), QStringLiteral("json")}) {
+        const QString from = MakeYearFileWithEntries(QStringLiteral("catch-export-") + extension);
+        std::vector<Catch> catches(3);
+        const std::array<const char*, 3> species = {"Pike", "Perch, yellow", "Zander \"big\""};
+        for (std::size_t i = 0; i < catches.size(); ++i) {
+            catches[i].Date = i < 2 ? QStringLiteral("2024-03-10") : QStringLiteral("2024-12-31");
+            catches[i].Time = QStringLiteral("0%1:15:00").arg(i + 5);
+            catches[i].Species = QLatin1String(species[i]);
+            catches[i].Count = int(i) + 1;
+            catches[i].LengthMm = 400 + int(i);
+            catches[i].Released = i == 1;
+            catches[i].WaterTemp = 11.5;
+            catches[i].Latitude = 46.5;
+            catches[i].Longitude = -84.25;
+            catches[i].Note = QStringLiteral("line one\nline two");
+        }
+        ASSERT_TRUE(AddCatches(from, catches, QDateTime::currentDateTime()));
+        const QString into = MakeYearFileWithEntries(QStringLiteral("catch-import-") + extension);
+        const QString first = QFileInfo(from).absolutePath() + "/out." + extension;
+        const QString again = QFileInfo(into).absolutePath() + "/again." + extension;
+
+        LogWindowEnv source(QFileInfo(from).absolutePath());
+        FrmSelectDB exporter(source.Context());
+        exporter.DBFiles->setCurrentRow(0);
+        exporter.ChooseExportFile = [&first] { return first; };
+        exporter.CmdExport_Click();
+        LogWindowEnv target(QFileInfo(into).absolutePath());
+        FrmSelectDB importer(target.Context());
+        importer.DBFiles->setCurrentRow(0);
+        importer.ChooseImportFile = [&first] { return first; };
+        importer.CmdImport_Click();
+        importer.ChooseExportFile = [&again] { return again; };
+        importer.CmdExport_Click();
+
+        EXPECT_EQ(PlainRows(into, columns), PlainRows(from, columns)) << extension.toStdString();
+        EXPECT_EQ(PlainRows(into, columns).size(), 3u);
+        QFile a(first), b(again);
+        ASSERT_TRUE(a.open(QIODevice::ReadOnly) && b.open(QIODevice::ReadOnly));
+        EXPECT_EQ(a.readAll(), b.readAll()) << extension.toStdString();
+        EXPECT_TRUE(target.ShownTexts().last().startsWith("366 day(s) and 3 catch(es)"))
+            << target.ShownTexts().join("|").toStdString();
     }
 }
