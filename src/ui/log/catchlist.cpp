@@ -37,6 +37,7 @@ enum Column {
 constexpr int StripGap = 4;       // pixels between thumbnails
 constexpr int ThumbnailLines = 3; // a thumbnail is as tall as three lines of text
 constexpr int StripPhotos = 8;    // photos a row shows at full thumbnail size
+constexpr int ShownRows = 2;      // catches the list has room for at least
 
 QString Unit(std::string_view name)
 {
@@ -77,6 +78,9 @@ void CatchList::BuildControls()
     Catches->header()->setStretchLastSection(true);
     const int side = Thumbnails.ThumbnailSide();
     Catches->setIconSize(QSize(StripPhotos * (side + StripGap), side));
+    // Room for two catches with their photos, however small the window.
+    Catches->setMinimumHeight(Catches->header()->sizeHint().height() +
+                              ShownRows * (side + StripGap * 2));
     cmdAddCatch = new QPushButton(QStringLiteral("Add &Catch..."), this);
     cmdAddCatch->setObjectName(QStringLiteral("cmdAddCatch"));
     cmdEditCatch = new QPushButton(QStringLiteral("Edit Catc&h..."), this);

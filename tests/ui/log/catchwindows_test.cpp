@@ -66,7 +66,8 @@ void Type(QWidget* box, const QString& text)
 // The window's picture in the test's palette and in a dark one, named for the screen's dpi.
 void Shots(QWidget& window, const QString& name)
 {
-    const QString dpi = QStringLiteral("-%1dpi").arg(window.logicalDpiY());
+    const QString dpi =
+        QStringLiteral("-%1dpi").arg(qRound(window.logicalDpiY() * window.devicePixelRatioF()));
     Screenshot(window, name + dpi);
     const QPalette light = window.palette();
     QPalette dark = light;
