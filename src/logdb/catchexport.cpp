@@ -85,7 +85,7 @@ QString JsonCell(const QJsonValue& value)
 {
     if (value.isArray()) {
         QStringList parts;
-        for (const QJsonValue& part : value.toArray())
+        for (const auto& part : value.toArray())
             parts << part.toString();
         return parts.join(PhotoSeparator);
     }
@@ -260,16 +260,17 @@ DbResult RecordsOfJson(const QByteArray& json, std::vector<CsvRecord>& records)
     header.insert(header.end(), CatchExportColumns().begin(), CatchExportColumns().end());
     records = {{1, Utf8(header)}};
     int number = 1;
-    for (const QJsonValue& value : days) {
+    for (const auto& value : days) {
         ++number; // a day's place in the list stands for its line
         const QJsonObject day = value.toObject();
         std::vector<QString> cells;
+        cells.reserve(dayKeys.size());
         for (const QString& key : dayKeys)
             cells.push_back(JsonCell(day.value(key)));
         QJsonArray catches = day.value(CatchesKey).toArray();
         if (catches.isEmpty())
             catches.append(QJsonObject());
-        for (const QJsonValue& c : catches) {
+        for (const auto& c : catches) {
             std::vector<QString> line = cells;
             for (const QString& column : CatchExportColumns())
                 line.push_back(JsonCell(c.toObject().value(column)));

@@ -55,6 +55,7 @@ std::vector<CatchTally> TallyByName(const std::vector<CatchFact>& catches,
         Count(tally, c);
     }
     std::vector<CatchTally> tallies;
+    tallies.reserve(byName.size());
     for (auto& entry : byName)
         tallies.push_back(std::move(entry.second));
     std::stable_sort(tallies.begin(), tallies.end(),
@@ -85,6 +86,7 @@ std::vector<CatchTally> TallyByWater(const std::vector<CatchFact>& catches)
         Count(band, c);
     }
     std::vector<CatchTally> tallies;
+    tallies.reserve(bands.size() + 1);
     for (auto& entry : bands)
         tallies.push_back(std::move(entry.second));
     if (unknown.Catches > 0)

@@ -2,7 +2,10 @@
 
 #include "db/datacontrol.h"
 #include "db/storedforms.h"
+#include "logdb/catches.h"
 #include "logdb/reportlines.h"
+
+#include <map>
 
 namespace {
 
@@ -25,6 +28,23 @@ ReportRecord RecordOf(const DataControl& data)
     return r;
 }
 
+ReportCatch ReportCatchOf(const Catch& c)
+{
+    return {c.Time.toStdString(), c.Species.toStdString(), c.Count, c.LengthMm, c.WeightG,
+            c.Released,           c.Bait.toStdString()};
+}
+
+// The report lines of every catch of the file, by date.
+std::map<QString, std::string> CatchLinesByDate(const QString& path)
+{
+    std::vector<Catch> catches;
+    std::map<QString, std::string> lines;
+    if (ReadYearCatches(path, catches)) // a file whose catches cannot be read reports its days
+        for (const Catch& c : catches)
+            lines[c.Date] += CatchReportLine(ReportCatchOf(c));
+    return lines;
+}
+
 } // namespace
 
 QString BuildReportText(DataControl& data, bool ampm, const std::function<void(int)>& progress)
@@ -34,8 +54,12 @@ QString BuildReportText(DataControl& data, bool ampm, const std::function<void(i
     text.reserve(std::size_t(count) * 96);
     if (count > 0)
         data.MoveFirst();
+    const std::map<QString, std::string> catchLines = CatchLinesByDate(data.DatabaseName());
     for (int i = 1; i <= count; ++i) {
         text += ReportLine(i, RecordOf(data), ampm);
+        if (const auto day = catchLines.find(data.Field(QStringLiteral("JulianDate")).toString());
+            day != catchLines.end())
+            text += day->second;
         if (progress)
             progress(i);
         if (i < count)

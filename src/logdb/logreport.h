@@ -11,7 +11,8 @@
 class DataControl;
 
 // The report text of the control's records from the first to the last, in record-source
-// order; progress is told the number of lines made so far. The last record stays current.
+// order, each day's catches on lines under it; progress is told the number of records done
+// so far. The last record stays current.
 QString BuildReportText(DataControl& data, bool ampm,
                         const std::function<void(int lines)>& progress = {});
 

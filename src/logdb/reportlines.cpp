@@ -1,6 +1,7 @@
 #include "logdb/reportlines.h"
 
 #include "astro/timebase.h"
+#include "logdb/catchunits.h"
 #include "text/vbformat.h"
 
 namespace {
@@ -39,6 +40,27 @@ std::string ReportLine(int item, const ReportRecord& r, bool ampm)
     line += Number(r.GraphicType, "0") + Blanks(5);
     line += Number(r.IllumPercent, "000") + Blanks(2);
     line += Number(r.MoonAge, "00") + Blanks(4);
+    return line += ReportLineEnd;
+}
+
+std::string CatchReportLine(const ReportCatch& c)
+{
+    constexpr int Indent = 5;
+    constexpr std::size_t ClockWidth = 5; // "06:15" of "06:15:00"
+    std::string line =
+        Blanks(Indent) + (c.Time.empty() ? Blanks(int(ClockWidth)) : c.Time.substr(0, ClockWidth));
+    const auto piece = [&line](const std::string& text) {
+        if (!text.empty())
+            line += Blanks(2) + text;
+    };
+    piece((c.Species.empty() ? std::string("(no species)") : c.Species) + " x" +
+          std::to_string(c.Count));
+    if (c.LengthMm)
+        piece(LengthText(*c.LengthMm, UnitSystem::Metric) + " cm");
+    if (c.WeightG)
+        piece(WeightText(*c.WeightG, UnitSystem::Metric) + " kg");
+    piece(c.Released ? "released" : "kept");
+    piece(c.Bait);
     return line += ReportLineEnd;
 }
 

@@ -25,6 +25,21 @@ struct ReportRecord {
 std::string ReportLine(int item, const ReportRecord& record, bool ampm);
 
 inline constexpr std::string_view ReportLineEnd = "\r\n";
+
+// One catch of a day as the report shows it under the day's line, in the stored units.
+struct ReportCatch {
+    std::string Time; // "HH:MM:SS"; empty when not known
+    std::string Species;
+    int Count = 1;
+    std::optional<int> LengthMm;
+    std::optional<int> WeightG;
+    bool Released = false;
+    std::string Bait;
+};
+
+// "      06:15  Pike x2  81.2 cm  4.35 kg  released  Spinnerbait" and the line end; a blank
+// time of ten blanks' width, nothing for what is not known.
+std::string CatchReportLine(const ReportCatch& c);
 inline constexpr std::string_view ReportHeading =
     "#     Date         Ma1        Ma2       Mi1       Mi2         G     %    Age   ";
 

@@ -94,3 +94,12 @@ TEST(ReportPaging, FiftyEightLinesAPageAfterTheThreeTitleLines)
                                                 std::string(ReportHeading) + "\n" +
                                                 std::string(76, '-') + "\nline 59\n");
 }
+
+TEST(ReportLines, ACatchLineUnderItsDay)
+{
+    ReportCatch pike{"06:15:00", "Pike", 2, 812, 4350, true, "Spinnerbait"};
+    EXPECT_EQ(CatchReportLine(pike),
+              "     06:15  Pike x2  81.2 cm  4.35 kg  released  Spinnerbait\r\n");
+    const ReportCatch bare{"", "", 1, std::nullopt, std::nullopt, false, ""};
+    EXPECT_EQ(CatchReportLine(bare), "            (no species) x1  kept\r\n");
+}

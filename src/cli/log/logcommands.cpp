@@ -83,11 +83,11 @@ Commands:
            TotalTaken, TakenWith, PeakTime, Notes; the others are ignored) into the days of
            YYYY.mdb, all in one step, after a copy of the file goes to backups/; the
            catches of export --catches too, in place of a day's catches (a file whose name
-           ends in .json is read as JSON, any other as CSV). Every line
-           that cannot be imported (a date outside the year, an unknown column, a bad number
-           or time) and every day that already holds an entry is listed first; when there
-           is any, nothing is written unless --skip (keep those entries, import the rest)
-           or --overwrite (replace them) says what to do.
+           ends in .json is read as JSON, any other as CSV). Every line that cannot be
+           imported (a date outside the year, an unknown column, a bad number or time)
+           and every day that already holds an entry or catches is listed first; when
+           there is any, nothing is written unless --skip (keep those entries, import the
+           rest) or --overwrite (replace them) says what to do.
   stats    the catches counted by species, by where their time lay (in a major period,
            in a minor one, within an hour of sunrise or sunset, other), by clock hour,
            by spot and by water temperature (5 degree Celsius bands), over YYYY.mdb or
