@@ -547,7 +547,8 @@ void frmTable1::SetBrowsing(bool browsing)
                                                       Combo4, PeakTimeCombo, Text7})
         set(w, !browsing);
     // The catch boxes take typing only while editing.
-    txtFields[17]->setReadOnly(browsing);
+    // A day with catches takes its Total Taken from them.
+    txtFields[17]->setReadOnly(browsing || !CatchesList->Shown().empty());
     txtFields[18]->setReadOnly(browsing);
 }
 
@@ -607,7 +608,7 @@ void frmTable1::cmdUpdate_Click()
 
 void frmTable1::txtFields_Click(int index)
 {
-    if (index != 17 || !txtFields[17]->isEnabled())
+    if (index != 17 || !txtFields[17]->isEnabled() || txtFields[17]->isReadOnly())
         return;
     Combo4->show();
 }

@@ -276,6 +276,9 @@ TEST(CatchList, ShowsTheDaysCatchesAsTheFileHoldsThem)
     EXPECT_EQ(shownSpecies(), sqlSpecies());
     EXPECT_EQ(browser.txtFields[17]->text(), "2");
     EXPECT_EQ(browser.txtFields[17]->text(), sqlTotal());
+    browser.cmdEdit_Click(); // the total follows the catches: not typed over
+    EXPECT_TRUE(browser.txtFields[17]->isReadOnly());
+    EXPECT_FALSE(browser.CatchesList->isEnabled());
 }
 
 // Moving the browser to a day of 20 catches with 20 photos reads the day and draws its
