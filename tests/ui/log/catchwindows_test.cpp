@@ -427,3 +427,35 @@ TEST(CatchExport, DatabaseFunctionsExportAndImportTheCatchesWhole)
             << target.ShownTexts().join("|").toStdString();
     }
 }
+
+// Leaving the editor with a change asks first: Cancel keeps it open, Save writes the catch,
+// Discard writes nothing; leaving without a change asks nothing.
+TEST(CatchEditor, LeavingWithAChangeAsksFirst)
+{
+    const QString path = MakeYearFile(QStringLiteral("catch-leave"), 3);
+    LogWindowEnv env(QFileInfo(path).absolutePath(), path);
+    PhotoThumbnails thumbnails(48);
+    Catch fresh;
+    fresh.Date = FirstDay;
+    const auto stored = [&path] {
+        return SqlValue(path, "SELECT count(*) FROM sqlite_master WHERE name = 'Catches'")
+                           .toInt() == 1
+                   ? SqlValue(path, "SELECT count(*) FROM Catches").toInt()
+                   : 0;
+    };
+    for (const auto& [answer, open, rows] : {std::tuple{MsgResult::Cancel, true, 0},
+                                             {MsgResult::Discard, false, 0},
+                                             {MsgResult::Save, false, 1}}) {
+        CatchEditor editor(env.Context(), path, fresh, thumbnails);
+        editor.show();
+        QTest::keyClick(&editor, Qt::Key_Escape); // unchanged: closes without a word
+        EXPECT_FALSE(editor.isVisible());
+        editor.show();
+        Type(editor.SpeciesBox, QStringLiteral("Bream"));
+        env.Answers = {answer};
+        QTest::keyClick(&editor, Qt::Key_Escape);
+        EXPECT_EQ(editor.isVisible(), open);
+        EXPECT_EQ(stored(), rows);
+    }
+    EXPECT_EQ(env.ShownTexts(), QStringList(3, QStringLiteral("Save changes to this catch?")));
+}
