@@ -3,14 +3,14 @@
 // and by water temperature. Plain C++: the catches and their days come in, the counts go out.
 #pragma once
 
+#include "viewrules/daypanel.h"
+
 #include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
-// Half widths of the solunar periods around their centres, as the day panel shows them.
-inline constexpr double MajorHalfHours = 1.0;
-inline constexpr double MinorHalfHours = 0.58;
+// The periods' half widths are the day panel's (MajorHalfHours, MinorHalfHours).
 // "Within an hour of sunrise or sunset".
 inline constexpr double SunEventHalfHours = 1.0;
 // Water temperature bands are this many degrees Celsius wide, from 0 °C.

@@ -2,6 +2,7 @@
 // program when the main window opens them.
 #pragma once
 
+#include "logdb/catchunits.h"
 #include "model/settings.h"
 
 #include <QString>
@@ -24,6 +25,7 @@ struct LogContext {
     std::int16_t SouthernHemisphere = 0;
     std::int32_t DaylightBias = DefaultDaylightBias; // minutes
     std::uint32_t MoonColor = DefaultMoonColor;
-    std::int16_t CurYear = 2000; // the year shown in the main window
-    QString Folder;              // the program's folder
+    std::int16_t CurYear = 2000;           // the year shown in the main window
+    QString Folder;                        // the program's folder
+    UnitSystem Units = UnitSystem::Metric; // how the catches' measures are shown and typed
 };

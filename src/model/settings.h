@@ -25,6 +25,7 @@ struct Settings {
     std::string FormTop = "300";
     std::int16_t FormLeft = 300;
     LocationTable Locations;
+    bool ImperialUnits = false; // the catches' measures in in, lb, °F rather than cm, kg, °C
 
     std::int16_t CurLoc = 1;
     std::int32_t DaylightBias = DefaultDaylightBias; // minutes, from the computer's time zone

@@ -4,6 +4,7 @@
 #include "platform/settingsstore.h"
 #include "text/vbformat.h"
 
+#include <QLocale>
 #include <QString>
 
 #include <cmath>
@@ -135,6 +136,17 @@ void WriteReminder(SettingsStore& store, int n, const ReminderOption& r)
     write("RemindLead", std::to_string(r.LeadMinutes));
 }
 
+// The catches' units: "Metric" or "Imperial" as stored, or when not stored yet, as the
+// computer's locale measures.
+bool ReadImperialUnits(const SettingsStore& store)
+{
+    const bool metric = QLocale::system().measurementSystem() == QLocale::MetricSystem;
+    const std::string text = Read(store, "Units", metric ? "Metric" : "Imperial");
+    if (text != "Metric" && text != "Imperial")
+        throw SettingError{"Units", text, "Metric or Imperial"};
+    return text == "Imperial";
+}
+
 } // namespace
 
 std::string LongitudeText(double degrees) { return VbFormat(degrees, "###.00"); }
@@ -154,6 +166,7 @@ void LoadSettings(Settings& s, const SettingsStore& store)
     s.TimeFormats = ToInt<std::int16_t>("TimeFormats", Read(store, "TimeFormats", "1"));
     s.FormTop = Read(store, "FormTop", "300");
     s.FormLeft = ToInt<std::int16_t>("FormLeft", Read(store, "FormLeft", "300"));
+    s.ImperialUnits = ReadImperialUnits(store);
     for (int n = 1; n <= LocationCount; ++n) {
         const LocationDefaults& d = Defaults[std::size_t(n - 1)];
         Location& loc = s.Locations[std::size_t(n)];
@@ -194,6 +207,7 @@ bool SaveSettings(const Settings& s, SettingsStore& store)
     write("MouseClick", BoolText(s.MouseClick));
     write("ParallacticAngle", s.ParallacticAngle);
     write("TimeFormats", std::to_string(s.TimeFormats));
+    write("Units", s.ImperialUnits ? "Imperial" : "Metric");
     return store.Flush();
 }
 

@@ -44,14 +44,17 @@ TEST(Settings, StoredTextFormsRoundTrip)
     store.Write("Usr4TZ", "-3");
     store.Write("Graphic", "7");
     store.Write("MouseClick", "False");
+    store.Write("Units", "Imperial");
     Settings s;
     LoadSettings(s, store);
     EXPECT_DOUBLE_EQ(s.Locations[1].Longitude, 92.42);
     EXPECT_DOUBLE_EQ(s.Locations[3].Latitude, -0.5);
     EXPECT_FALSE(s.Locations[2].Reminder.Any()); // files from before reminders have none
+    EXPECT_TRUE(s.ImperialUnits);
     s.Locations[5].Longitude = 0.5;
     s.Locations[2].Reminder = {
         .Minors = true, .SunEvents = true, .LeadMinutes = 45, .BestDaysOnly = true};
+    s.ImperialUnits = false;
     EXPECT_TRUE(SaveSettings(s, store));
     EXPECT_EQ(store.Read("Usr1Long", ""), "92.42");
     EXPECT_EQ(store.Read("Usr2Long", ""), "80.20");
@@ -62,6 +65,7 @@ TEST(Settings, StoredTextFormsRoundTrip)
     EXPECT_EQ(store.Read("Graphic", ""), "7"); // kept although nothing uses it
     EXPECT_EQ(store.Read("MouseClick", ""), "False");
     EXPECT_EQ(store.Read("TimeFormats", ""), "1");
+    EXPECT_EQ(store.Read("Units", ""), "Metric");
     Settings again;
     LoadSettings(again, store);
     EXPECT_DOUBLE_EQ(again.Locations[5].Longitude, 0.5);
@@ -144,7 +148,8 @@ TEST(Settings, HandWrittenFileIsReadWholeAndRangeChecked)
                                     {"Usr10TZ=-13", "Usr10TZ"},
                                     {"Usr4RemindLead=0", "Usr4RemindLead"},
                                     {"Usr4RemindLead=721", "Usr4RemindLead"},
-                                    {"Usr5RemindSun=sometimes", "Usr5RemindSun"}}) {
+                                    {"Usr5RemindSun=sometimes", "Usr5RemindSun"},
+                                    {"Units=furlongs", "Units"}}) {
         writeFile(QByteArray(line) + "\n");
         try {
             LoadSettings(s, store);

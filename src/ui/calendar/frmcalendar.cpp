@@ -21,6 +21,7 @@
 #include "ui/common/busypointer.h"
 #include "ui/locations/frmlocation.h"
 #include "ui/log/frmselectdb.h"
+#include "ui/log/unitsmenu.h"
 #include "ui/views/daygraph.h"
 #include "ui/views/frmdetail.h"
 #include "ui/views/frmglance.h"
@@ -261,6 +262,7 @@ void FrmCalendar::BuildMenus()
     Pangle[1] = Item(pan, QStringLiteral("Parallactic On"), QStringLiteral("Pangle1"), true);
     Reminders = Item(options, QStringLiteral("Reminders..."), QStringLiteral("Reminders"));
     connect(Reminders, &QAction::triggered, this, &FrmCalendar::Reminders_Click);
+    AddUnitsMenu(options, App.Config.ImperialUnits);
     for (int i = 0; i < 3; ++i)
         connect(DST[std::size_t(i)], &QAction::triggered, this, [this, i] { DST_Click(i); });
     for (int i = 0; i < 2; ++i) {
@@ -755,7 +757,8 @@ void FrmCalendar::RunDataBase_Click()
                              App.Config.DaylightBias,
                              std::uint32_t(App.Config.MoonColor),
                              App.Cal.CurYear,
-                             ProgramFolder::Path()};
+                             ProgramFolder::Path(),
+                             UnitsOf(App.Config.ImperialUnits)};
     hide();
     FrmSelectDB selectDB(context, this);
     selectDB.exec();

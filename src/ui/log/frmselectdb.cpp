@@ -9,6 +9,7 @@
 #include "ui/common/busypointer.h"
 #include "ui/common/button.h"
 #include "ui/common/messageservice.h"
+#include "ui/log/exportcatches.h"
 #include "ui/log/frmbackups.h"
 #include "ui/log/frmtable1.h"
 #include "ui/log/importcatches.h"
@@ -38,8 +39,14 @@ FrmSelectDB::FrmSelectDB(const LogContext& context, QWidget* parent) : QDialog(p
         backups.exec();
     };
     ChooseImportFile = [this] {
-        return QFileDialog::getOpenFileName(this, QStringLiteral("Import Catches"), QString(),
-                                            QStringLiteral("CSV files (*.csv);;All files (*)"));
+        return QFileDialog::getOpenFileName(
+            this, QStringLiteral("Import Catches"), QString(),
+            QStringLiteral("Log exports (*.csv *.json);;All files (*)"));
+    };
+    ChooseExportFile = [this] {
+        return QFileDialog::getSaveFileName(
+            this, QStringLiteral("Export Catches"), QString(),
+            QStringLiteral("CSV files (*.csv);;JSON files (*.json)"));
     };
     Form_Load();
 }
@@ -56,9 +63,12 @@ void FrmSelectDB::BuildControls()
                           QStringLiteral(" Delete Selected File "), this);
     CmdCompact = Button(QStringLiteral("Compact"), QStringLiteral("CmdCompact"), {}, this);
     CmdRepair = Button(QStringLiteral("Repair"), QStringLiteral("CmdRepair"), {}, this);
-    CmdImport =
-        Button(QStringLiteral("Import"), QStringLiteral("CmdImport"),
-               QStringLiteral(" Import Catches from a CSV File into the Selected Year "), this);
+    CmdImport = Button(
+        QStringLiteral("Import"), QStringLiteral("CmdImport"),
+        QStringLiteral(" Import Catches from a CSV or JSON File into the Selected Year "), this);
+    CmdExport =
+        Button(QStringLiteral("Export"), QStringLiteral("CmdExport"),
+               QStringLiteral(" Export the Selected Year with its Catches as CSV or JSON "), this);
     CmdBackups = Button(QStringLiteral("Backups"), QStringLiteral("CmdBackups"),
                         QStringLiteral(" Restore an Earlier Copy of the Selected File "), this);
     CloseSelectDB = Button(QStringLiteral("Close"), QStringLiteral("CloseSelectDB"),
@@ -70,8 +80,8 @@ void FrmSelectDB::BuildControls()
     auto* grid = new QGridLayout(this);
     grid->addWidget(DBFiles, 0, 0, 9, 1);
     int row = 0;
-    for (QPushButton* b :
-         {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair, CmdImport, CmdBackups})
+    for (QPushButton* b : {OpenDBFile, CmdCreate, DeleteDBFile, CmdCompact, CmdRepair, CmdImport,
+                           CmdExport, CmdBackups})
         grid->addWidget(b, row++, 1);
     grid->setRowStretch(row++, 1);
     grid->addWidget(CloseSelectDB, row, 1);
@@ -88,6 +98,7 @@ void FrmSelectDB::BuildControls()
     connect(CloseSelectDB, &QPushButton::clicked, this, &FrmSelectDB::CloseSelectDB_Click);
     connect(CmdBackups, &QPushButton::clicked, this, &FrmSelectDB::CmdBackups_Click);
     connect(CmdImport, &QPushButton::clicked, this, &FrmSelectDB::CmdImport_Click);
+    connect(CmdExport, &QPushButton::clicked, this, &FrmSelectDB::CmdExport_Click);
 }
 
 void FrmSelectDB::Form_Load()
@@ -302,4 +313,13 @@ void FrmSelectDB::CmdImport_Click()
         return;
     if (const QString csv = ChooseImportFile(); !csv.isEmpty())
         ImportCatches(Ctx, path, csv);
+}
+
+void FrmSelectDB::CmdExport_Click()
+{
+    const QString path = SelectedOrComplain();
+    if (path.isEmpty())
+        return;
+    if (const QString target = ChooseExportFile(); !target.isEmpty())
+        ExportCatches(Ctx, path, target);
 }

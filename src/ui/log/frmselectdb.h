@@ -33,6 +33,7 @@ public:
     void CloseSelectDB_Click();
     void CmdBackups_Click();
     void CmdImport_Click();
+    void CmdExport_Click();
 
     // Creates and fills the year's file, or leaves an existing one as it is. False when the
     // fill failed; the unfinished file is then gone and DBPath empty.
@@ -42,8 +43,10 @@ public:
     std::function<void(const QString& path)> ShowBrowser;
     // Shows the backups of a year file, modally.
     std::function<void(const QString& path)> ShowBackups;
-    // Asks for the CSV file to import; empty when the user cancels.
+    // Asks for the CSV or JSON file to import; empty when the user cancels.
     std::function<QString()> ChooseImportFile;
+    // Asks for the CSV or JSON file to export to; empty when the user cancels.
+    std::function<QString()> ChooseExportFile;
 
     QListWidget* DBFiles = nullptr;
     QPushButton* OpenDBFile = nullptr;
@@ -54,6 +57,7 @@ public:
     QPushButton* CloseSelectDB = nullptr;
     QPushButton* CmdBackups = nullptr;
     QPushButton* CmdImport = nullptr;
+    QPushButton* CmdExport = nullptr;
     QProgressBar* PBar1 = nullptr;
     DataControl Data0;
 

@@ -4,6 +4,7 @@
 #include "logdb/logfiles.h"
 #include "ui/common/busypointer.h"
 #include "ui/common/messageservice.h"
+#include "ui/log/catchtabs.h"
 
 #include <QBarCategoryAxis>
 #include <QBarSeries>
@@ -149,6 +150,7 @@ void FrmStatistics::BuildControls()
     for (QChartView* view : Charts)
         Tabs->addTab(view, {});
     Tabs->addTab(tablePage, QStringLiteral("Table"));
+    CatchCharts = new CatchPages(Tabs, Ctx.Units);
 }
 
 QStringList FrmStatistics::ChosenFiles() const
@@ -170,9 +172,11 @@ void FrmStatistics::ScopeCombo_Click()
     {
         const BusyPointer busy;
         read = CatchStatisticsOf(ChosenFiles(), Stats);
+        read = read ? CatchBreakdownOf(ChosenFiles(), Breakdown) : read;
     }
     if (!read) {
         Stats = ComputeCatchStatistics({});
+        Breakdown = ComputeCatchBreakdown({});
         Ctx.Messages.MsgBox(QStringLiteral("The log could not be read: %1").arg(read.Message),
                             MsgButtons::OK, QStringLiteral("Catch Statistics"),
                             MsgIcon::Exclamation);
@@ -190,6 +194,7 @@ void FrmStatistics::ShowFigures()
         Tabs->setTabText(int(i), Text(Stats.Groupings[i].Title));
     }
     FillTable();
+    CatchCharts->Show(Breakdown);
 }
 
 // The table shows the very lines that Copy puts on the clipboard.

@@ -4,12 +4,14 @@
 #pragma once
 
 #include "logdb/catchstats.h"
+#include "logdb/catchtally.h"
 #include "logdb/logstate.h"
 
 #include <QDialog>
 
 #include <vector>
 
+class CatchPages;
 class QChartView;
 class QComboBox;
 class QLabel;
@@ -30,6 +32,7 @@ public:
 
     // The figures shown, for tests.
     const CatchStatistics& Figures() const { return Stats; }
+    const CatchBreakdown& CatchFigures() const { return Breakdown; }
 
     QComboBox* ScopeCombo = nullptr;
     QLabel* Summary = nullptr;
@@ -37,6 +40,7 @@ public:
     std::vector<QChartView*> Charts; // in the order of CatchGroupingIndex
     QTableWidget* Table = nullptr;
     QPushButton* CmdCopy = nullptr;
+    CatchPages* CatchCharts = nullptr; // the pages of the catches, after the table
 
 private:
     void OpenWithinScreen();
@@ -48,6 +52,7 @@ private:
     LogContext Ctx;
     QString YearFile;
     CatchStatistics Stats;
+    CatchBreakdown Breakdown;
 };
 
 // Opens the statistics of the year file modally.

@@ -13,6 +13,7 @@
 #include "ui/common/databar.h"
 #include "ui/common/fittext.h"
 #include "ui/common/messageservice.h"
+#include "ui/log/catchlist.h"
 #include "ui/log/controlstate.h"
 #include "ui/log/frmstatistics.h"
 
@@ -188,12 +189,20 @@ void frmTable1::BuildControls()
                    [this] { ShowStatistics(Ctx, Data1.DatabaseName(), this); });
 
     // The panels scroll when the window is smaller than they need; the menus and the data
-    // bar stay in view.
+    // bar stay in view. The day's catches lie under its fields, across the day's and the
+    // entries' panels.
     auto* body = new QWidget(this);
-    auto* panels = new QHBoxLayout(body);
-    panels->addWidget(BuildDayPanel(), 3);
-    panels->addWidget(BuildCatchPanel(), 2);
-    panels->addWidget(BuildQueryPanel(), 2);
+    auto* panels = new QGridLayout(body);
+    panels->addWidget(BuildDayPanel(), 0, 0);
+    panels->addWidget(BuildCatchPanel(), 0, 1);
+    panels->addWidget(BuildQueryPanel(), 0, 2, 2, 1);
+    CatchesList = new CatchList(Ctx, this);
+    CatchesList->setObjectName(QStringLiteral("CatchesList"));
+    panels->addWidget(CatchesList, 1, 0, 1, 2);
+    connect(CatchesList, &CatchList::CatchesChanged, this, &frmTable1::ReloadDay);
+    panels->setColumnStretch(0, 3);
+    panels->setColumnStretch(1, 2);
+    panels->setColumnStretch(2, 2);
     Scroll = new QScrollArea(this);
     Scroll->setWidget(body);
     Scroll->setWidgetResizable(true);
@@ -343,8 +352,6 @@ QWidget* frmTable1::BuildCatchPanel()
     form->addWidget(Caption(QStringLiteral("Notes:"), catchBox), 3, 0, Qt::AlignTop);
     form->addWidget(Text7, 3, 1, 1, 2);
     grid->addWidget(catchBox, 4, 0, 1, 3);
-    CatchArea = new QVBoxLayout;
-    grid->addLayout(CatchArea, 5, 0, 1, 3);
 
     cmdEdit = new QPushButton(QStringLiteral("Edit"), panel);
     cmdEdit->setObjectName(QStringLiteral("cmdEdit"));
@@ -517,6 +524,17 @@ void frmTable1::Data1_Reposition()
     ShowTimes();
     ShowNotes();
     ShowMoon();
+    CatchesList->ShowDay(Data1.DatabaseName(), Data1.Field("JulianDate").toString());
+}
+
+void frmTable1::ReloadDay()
+{
+    const QVariant id = Data1.Field(QStringLiteral("DBID"));
+    DbResult reloaded = Data1.Refresh();
+    if (reloaded && !id.isNull())
+        reloaded = Data1.FindFirst(QStringLiteral("dbid = ") + QString::number(id.toInt()));
+    if (!reloaded)
+        Data1_Error(reloaded.Message);
 }
 
 void frmTable1::ShowTimes()
@@ -612,11 +630,13 @@ void frmTable1::SetBrowsing(bool browsing)
     set(mnuExit, browsing);
     set(Command1, browsing);
     set(mnutableview, browsing);
+    set(CatchesList, browsing); // catches are written on their own, not within the day's edit
     for (QWidget* w : std::initializer_list<QWidget*>{cmdUpdate, txtFields[17], txtFields[18],
                                                       Combo4, PeakTimeCombo, Text7})
         set(w, !browsing);
     // The catch boxes take typing only while editing.
-    txtFields[17]->setReadOnly(browsing);
+    // A day with catches takes its Total Taken from them.
+    txtFields[17]->setReadOnly(browsing || !CatchesList->Shown().empty());
     txtFields[18]->setReadOnly(browsing);
 }
 
@@ -676,7 +696,7 @@ void frmTable1::cmdUpdate_Click()
 
 void frmTable1::txtFields_Click(int index)
 {
-    if (index != 17 || !txtFields[17]->isEnabled())
+    if (index != 17 || !txtFields[17]->isEnabled() || txtFields[17]->isReadOnly())
         return;
     Combo4->show();
 }

@@ -13,6 +13,7 @@
 #include <memory>
 #include <vector>
 
+class CatchList;
 class DataBar;
 class QAction;
 class QCheckBox;
@@ -77,8 +78,6 @@ public:
     bool ConfirmLeaveEditing();
 
     DataControl Data1;
-    // Under the catch fields: the place for the day's list of catches.
-    QVBoxLayout* CatchArea = nullptr;
     DataBar* Data1Bar = nullptr;            // Data1's arrows and record counter
     std::array<QLineEdit*, 19> txtFields{}; // the indices the window uses; 16 stays null
     std::array<QLineEdit*, 4> FakeTextBox{};
@@ -99,6 +98,7 @@ public:
     QComboBox* Combo4 = nullptr;
     QPushButton* cmdEdit = nullptr;
     QPushButton* cmdUpdate = nullptr;
+    CatchList* CatchesList = nullptr; // the day's catches
     QAction* mnuExit = nullptr;
     QAction* mnutableview = nullptr;
     std::int16_t SortIndex = 1;
@@ -144,6 +144,8 @@ private:
     void ShowTimes();
     void ShowNotes();
     void ShowMoon();
+    // After a catch was written: the day's record again, with the total its catches make.
+    void ReloadDay();
     // The query builder's controls and menus (frmtable1query.cpp).
     QWidget* BuildQueryPanel();
     void BuildQueryMenus(QMenuBar* bar);

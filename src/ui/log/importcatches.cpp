@@ -66,7 +66,12 @@ void ImportCatches(const LogContext& context, const QString& yearFile, const QSt
         return Say(messages, QStringLiteral("Nothing was imported: %1.").arg(read.Message),
                    MsgIcon::Critical);
     ImportPlan plan;
-    if (DbResult planned = PlanImport(yearFile, name.left(4).toInt(), csv, plan); !planned)
+    const bool json =
+        QFileInfo(csvPath).suffix().compare(QLatin1String("json"), Qt::CaseInsensitive) == 0;
+    const int year = name.left(4).toInt();
+    if (DbResult planned = json ? PlanJsonImport(yearFile, year, csv, plan)
+                                : PlanImport(yearFile, year, csv, plan);
+        !planned)
         return Say(messages, QStringLiteral("Nothing was imported: %1").arg(planned.Message),
                    MsgIcon::Critical);
     if (plan.Rows.empty())
