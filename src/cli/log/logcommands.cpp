@@ -13,6 +13,7 @@
 #include "logdb/logreport.h"
 #include "logdb/yearlock.h"
 #include "model/settings.h"
+#include "pages/pages.h"
 #include "pages/reportpage.h"
 #include "platform/clock.h"
 #include "platform/programfolder.h"
@@ -412,17 +413,9 @@ int Query(const LogRequest& r, const Streams& io)
     return 0;
 }
 
-// A report may replace an earlier report, never a year file or anything else.
-bool IsPdfOrAbsent(const QString& path)
-{
-    QFile file(path);
-    if (!file.exists())
-        return true;
-    return file.open(QIODevice::ReadOnly) && file.read(5) == QByteArrayLiteral("%PDF-");
-}
-
 int Report(const LogRequest& r, const Streams& io)
 {
+    // A report may replace an earlier report, never a year file or anything else.
     if (const auto pdf = r.Options.find("--pdf");
         pdf != r.Options.end() && !IsPdfOrAbsent(QString::fromStdString(pdf->second)))
         return io.Fail("will not print over " + pdf->second +
