@@ -192,6 +192,9 @@ std::variant<ForecastPlace, UsageError> PlaceOf(const LogRequest& r, std::ostrea
     ForecastPlace p;
     p.AmPm = s.AmPm();
     if (f.AtCoordinates) {
+        if (!f.AtCoordinates->TzName.empty())
+            if (std::string unknown = UnknownZoneOption(f.AtCoordinates->TzName); !unknown.empty())
+                return UsageError{std::move(unknown)};
         p.Longitude = f.AtCoordinates->Longitude;
         p.Latitude = f.AtCoordinates->Latitude;
         p.TimeZone = f.AtCoordinates->TimeZone;

@@ -317,6 +317,28 @@ TEST(LogCommand, LocalClockYearAgreesWithTheForecastsDayRows)
     EXPECT_EQ(PythonCheck(LogAgainstForecast, rows, {QDir(home).filePath("2025.mdb")}), "");
 }
 
+// A zone typed on either command line that the computer does not know is refused in one line
+// that names it, before anything is made.
+TEST(LogCommand, AnUnknownZoneIsRefusedInOneLine)
+{
+    const QString home = testenv::FreshDir("log-unknown-zone");
+    const QStringList place = {"--lon", "74.01W", "--lat", "40.71N", "--tz", "Mars/Olympus"};
+    const LogRun created = RunLog(home, QStringList{"create", "--year", "2025"} + place);
+    ExpectOneLineRefusal(created, 2, "create");
+    EXPECT_TRUE(created.Err.contains("\"Mars/Olympus\" is not a time zone"))
+        << created.Err.toStdString();
+    EXPECT_FALSE(QFile::exists(QDir(home).filePath("2025.mdb")));
+    QProcess forecast;
+    forecast.start(QStringLiteral(QUILLMERE_FORECAST), QStringList{"month"} + place);
+    ASSERT_TRUE(forecast.waitForFinished(60000));
+    const QString said = QString::fromUtf8(forecast.readAllStandardError());
+    EXPECT_EQ(forecast.exitCode(), 2);
+    EXPECT_TRUE(forecast.readAllStandardOutput().isEmpty());
+    EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
+    EXPECT_TRUE(said.startsWith("quillmere-forecast: --tz: \"Mars/Olympus\""))
+        << said.toStdString();
+}
+
 QString CreatedYear(const QString& folderName)
 {
     const QString home = testenv::FreshDir(folderName);
