@@ -26,4 +26,5 @@ struct LogContext {
     std::uint32_t MoonColor = DefaultMoonColor;
     std::int16_t CurYear = 2000; // the year shown in the main window
     QString Folder;              // the program's folder
+    QString PlaceName;           // the current location's name, recorded in a year file made
 };

@@ -752,7 +752,8 @@ void FrmCalendar::RunDataBase_Click()
                              App.Config.DaylightBias,
                              std::uint32_t(App.Config.MoonColor),
                              App.Cal.CurYear,
-                             ProgramFolder::Path()};
+                             ProgramFolder::Path(),
+                             Q(App.Config.Locations[std::size_t(App.Config.CurLoc)].Name)};
     hide();
     FrmSelectDB selectDB(context, this);
     selectDB.exec();

@@ -13,6 +13,8 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 
 #include <gtest/gtest.h>
 
@@ -337,6 +339,41 @@ TEST(LogCommand, AnUnknownZoneIsRefusedInOneLine)
     EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
     EXPECT_TRUE(said.startsWith("quillmere-forecast: --tz: \"Mars/Olympus\""))
         << said.toStdString();
+}
+
+// A year file records the place, zone and clock it was filled for; info reads it back, and a
+// file made before files kept it still opens and says so.
+TEST(LogCommand, AYearFileRecordsItsPlaceAndClock)
+{
+    const QString home = testenv::FreshDir("log-place");
+    const LogRun created =
+        RunLog(home, {"create", "--year", "2025", "--lon", "74.01W", "--lat", "40.71N", "--tz",
+                      "America/New_York", "--name", "Hudson pier"});
+    ASSERT_EQ(created.Status, 0) << created.Err.toStdString();
+    const QString path = QDir(home).filePath("2025.mdb");
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "place");
+        db.setDatabaseName(path);
+        ASSERT_TRUE(db.open());
+        QSqlQuery q(db);
+        ASSERT_TRUE(q.exec("SELECT Name, Latitude, Longitude, TzName, Clock FROM QuillmerePlace"));
+        ASSERT_TRUE(q.next());
+        EXPECT_EQ(q.value(0).toString(), "Hudson pier");
+        EXPECT_DOUBLE_EQ(q.value(1).toDouble(), 40.71);
+        EXPECT_DOUBLE_EQ(q.value(2).toDouble(), 74.01);
+        EXPECT_EQ(q.value(3).toString(), "America/New_York");
+        EXPECT_EQ(q.value(4).toString(), "Local Clock");
+        EXPECT_FALSE(q.next());
+        EXPECT_EQ(RunLog(home, {"info", "--year", "2025"}).Out,
+                  "2025.mdb: filled for Hudson pier  40.71N 74.01W  America/New_York, Local "
+                  "Clock\n");
+        ASSERT_TRUE(q.exec("DROP TABLE QuillmerePlace"));
+    }
+    QSqlDatabase::removeDatabase("place");
+    EXPECT_EQ(RunLog(home, {"info", "--year", "2025"}).Out,
+              "2025.mdb: the place it was filled for is not recorded (a file made before the log "
+              "kept it)\n");
+    EXPECT_EQ(RunLog(home, {"query", "--year", "2025", "--months", "1"}).Status, 0);
 }
 
 QString CreatedYear(const QString& folderName)
