@@ -1,8 +1,11 @@
 #!/usr/bin/python3
 """Strict check of quillmere-forecast's iCalendar output (RFC 5545): CRLF line ends, lines of at
 most 75 octets folded between UTF-8 characters, well-formed content lines, escaped TEXT values,
-complete events, UIDs unique within a file and across two places, and one Major period per real
-transit (no two Major events overlap).
+complete events, UIDs unique within a file and across two places, one Major period per real
+transit (no two Major events overlap), and, for places on a zone of the tz database, every timed
+event centred on the universal instant that Python's zoneinfo gives for the clock time the day's
+row shows, on the days the clock changes too (a clock time the change skips or repeats read
+before the change, zoneinfo's fold=0).
 
 usage: ics_check.py PROGRAM
 """
@@ -10,13 +13,21 @@ import re
 import subprocess
 import sys
 import tempfile
+import csv
+import io
 import os
-from datetime import datetime, timedelta
+from datetime import datetime, timedelta, timezone
+from zoneinfo import ZoneInfo
 
 NAME = 'Lac; "Sainte-Anne", d\u00e9p\u00f4t\\nord, \u6771\u4eac \U0001f3a3 ' + '\u00e9' * 30
 PLACES = [('92.42W', '31.25N', '6'), ('118.25W', '34.05N', '8')]
 CONTENT_LINE = re.compile(r'^([A-Za-z0-9-]+)((?:;[A-Za-z0-9-]+=(?:"[^"]*"|[^";:,]*)'
                           r'(?:,(?:"[^"]*"|[^";:,]*))*)*):(.*)$')
+# The changes of three years on each side of the equator.
+ZONED_PLACES = [('74.01W', '40.71N', 'America/New_York'), ('151.21E', '33.87S', 'Australia/Sydney'),
+                ('10.75E', '59.91N', 'Europe/Oslo')]
+ZONED_FROM, ZONED_DAYS = '2024-01-01', 1096
+UID_KIND = re.compile(r'^(\d{4}-\d{2}-\d{2})-((?:major|minor)[12])-')
 STAMP = re.compile(r'^\d{8}T\d{6}Z$')
 
 
@@ -140,9 +151,39 @@ def check_event(event, uids, majors, problems):
         majors.append((begin, end, event['UID'][1]))
 
 
+def zoned_events(program, env, lon, lat, zone, problems):
+    """Checks each timed event of 2024 to 2026 against zoneinfo; returns how many, and how many of them
+    lie before the change hour on a day whose clock changes."""
+    def run(fmt):
+        return subprocess.run([program, 'days', '--from', ZONED_FROM, '--days', str(ZONED_DAYS), '--lon', lon,
+                               '--lat', lat, '--tz', zone, '--format', fmt],
+                              env=env, check=True, capture_output=True).stdout
+    rows = {r['date']: r for r in csv.DictReader(io.StringIO(run('csv').decode()))}
+    tz = ZoneInfo(zone)
+    checked = early = 0
+    for block in run('ics').decode().split('BEGIN:VEVENT')[1:]:
+        fields = dict(line.split(':', 1) for line in block.split('\r\n') if ':' in line)
+        kind = UID_KIND.match(fields['UID'])
+        if not kind:
+            continue
+        date, what = kind.groups()
+        hours = float(rows[date][what])
+        clock = datetime.fromisoformat(date) + timedelta(hours=hours)
+        expected = clock.replace(tzinfo=tz).astimezone(timezone.utc).replace(tzinfo=None)
+        centre = when(fields['DTSTART']) + (when(fields['DTEND']) - when(fields['DTSTART'])) / 2
+        if abs((centre - expected).total_seconds()) > 1:
+            fail(problems, f'{zone} {date} {what} at clock {hours:.3f} h: centred {centre}, '
+                           f'zoneinfo says {expected}')
+        checked += 1
+        midnight = datetime.fromisoformat(date).replace(tzinfo=tz)
+        noon = midnight + timedelta(hours=12)
+        early += midnight.utcoffset() != noon.utcoffset() and hours < 3
+    return checked, early
+
+
 def main():
     program = sys.argv[1]
-    problems, all_uids = [], []
+    problems, all_uids, zoned = [], [], 0
     with tempfile.TemporaryDirectory() as home:
         env = dict(os.environ, HOME=home, XDG_CONFIG_HOME=os.path.join(home, 'config'))
         for lon, lat, zone in PLACES:
@@ -159,12 +200,18 @@ def main():
                 fail(problems, f'{lon} {lat}: {len(overlaps)} overlapping Major periods, first {overlaps[0]}')
             if not 690 <= len(majors) <= 725:
                 fail(problems, f'{lon} {lat}: {len(majors)} Major periods in 2024')
+        for lon, lat, zone in ZONED_PLACES:
+            checked, early = zoned_events(program, env, lon, lat, zone, problems)
+            zoned += checked
+            if early == 0:
+                fail(problems, f'{zone}: no event before the change hour on a change day')
+            print(f'{zone}: {checked} timed events, {early} before the change on change days')
     shared = len(all_uids) - len(set(all_uids))
     if shared:
         fail(problems, f'{shared} UIDs shared by the two places')
     for p in problems[:40]:
         print('FAIL:', p)
-    print(f'{len(all_uids)} events checked, {len(problems)} problems')
+    print(f'{len(all_uids) + zoned} events checked, {len(problems)} problems')
     return 1 if problems else 0
 
 

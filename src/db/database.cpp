@@ -143,11 +143,6 @@ QString UniqueConnectionName()
     return QStringLiteral("quillmere-") + QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
-QString ErrorText(const QSqlError& error)
-{
-    return error.databaseText().isEmpty() ? error.text() : error.databaseText();
-}
-
 QString Placeholders(int count)
 {
     QStringList marks;
@@ -178,7 +173,7 @@ DbResult Database::Open(const QString& path, const QString& connect)
     db.setDatabaseName(path);
     QSqlQuery probe(db);
     if (!db.open() || !probe.exec(QStringLiteral("SELECT count(*) FROM sqlite_master"))) {
-        const QString reason = ErrorText(db.isOpen() ? probe.lastError() : db.lastError());
+        const QString reason = ErrorText(db.isOpen() ? probe.lastError() : db.lastError(), path);
         probe = QSqlQuery();
         db = QSqlDatabase();
         Close();
@@ -212,7 +207,7 @@ DbResult Database::CheckPassword(const QString& connect)
         return DbResult::Success();
     QSqlQuery q(Connection());
     if (!q.exec(QStringLiteral("SELECT Salt, Hash FROM %1").arg(LockTable)))
-        return DbResult::Failure(ErrorText(q.lastError()));
+        return DbResult::Failure(ErrorText(q.lastError(), path_));
     if (!q.next())
         return DbResult::Success();
     if (PasswordHash(q.value(0).toString(), ConnectPassword(connect)) != q.value(1).toString())
@@ -267,10 +262,10 @@ DbResult Database::RunInTransaction(const std::vector<QString>& statements)
 {
     QSqlQuery q(Connection());
     if (!q.exec(QStringLiteral("SAVEPOINT jet_statement")))
-        return DbResult::Failure(ErrorText(q.lastError()));
+        return DbResult::Failure(ErrorText(q.lastError(), path_));
     for (const QString& sql : statements) {
         if (!q.exec(sql)) {
-            const QString reason = ErrorText(q.lastError());
+            const QString reason = ErrorText(q.lastError(), path_);
             q.finish();
             q.exec(QStringLiteral("ROLLBACK TO jet_statement"));
             q.exec(QStringLiteral("RELEASE jet_statement"));
@@ -279,7 +274,7 @@ DbResult Database::RunInTransaction(const std::vector<QString>& statements)
     }
     q.finish();
     if (!q.exec(QStringLiteral("RELEASE jet_statement")))
-        return DbResult::Failure(ErrorText(q.lastError()));
+        return DbResult::Failure(ErrorText(q.lastError(), path_));
     return DbResult::Success();
 }
 
@@ -327,11 +322,11 @@ DbResult Database::Query(const QString& jetSql, RowSet& result, QString* sourceT
     QSqlQuery q(Connection());
     q.setForwardOnly(true);
     if (!q.prepare(QString::fromStdString(statement.Sql.front())))
-        return DbResult::Failure(ErrorText(q.lastError()));
+        return DbResult::Failure(ErrorText(q.lastError(), path_));
     for (const QVariant& value : parameters)
         q.addBindValue(value);
     if (!q.exec())
-        return DbResult::Failure(ErrorText(q.lastError()));
+        return DbResult::Failure(ErrorText(q.lastError(), path_));
     const QSqlRecord layout = q.record();
     for (int i = 0; i < layout.count(); ++i)
         result.Fields.push_back(layout.fieldName(i));
@@ -343,7 +338,7 @@ DbResult Database::Query(const QString& jetSql, RowSet& result, QString* sourceT
         result.Rows.push_back(std::move(row));
     }
     if (q.lastError().isValid())
-        return DbResult::Failure(ErrorText(q.lastError()));
+        return DbResult::Failure(ErrorText(q.lastError(), path_));
     if (sourceTable)
         *sourceTable = QString::fromStdString(statement.SourceTable);
     return DbResult::Success();
@@ -416,7 +411,7 @@ DbResult Database::InsertRecords(const QString& table, const std::vector<FieldVa
         for (std::size_t i = 0; i < records.size(); ++i) {
             DbResult result = Prepare(columns, table, records[i], prepared);
             if (result && !ExecBound(q, InsertSql(table, prepared), prepared))
-                result = DbResult::Failure(ErrorText(q.lastError()));
+                result = DbResult::Failure(ErrorText(q.lastError(), path_));
             if (!result)
                 return DbResult::Failure(QStringLiteral("Record %1 not saved, no record added: %2")
                                              .arg(i + 1)
@@ -433,7 +428,7 @@ DbResult Database::InsertRecord(const QString& table, const FieldValues& fields,
         return result;
     QSqlQuery q(Connection());
     if (!ExecBound(q, InsertSql(table, prepared), prepared))
-        return DbResult::Failure(ErrorText(q.lastError()));
+        return DbResult::Failure(ErrorText(q.lastError(), path_));
     newKey = q.lastInsertId();
     return DbResult::Success();
 }
@@ -442,13 +437,13 @@ DbResult Database::InTransaction(const std::function<DbResult()>& steps)
 {
     QSqlDatabase db = Connection();
     if (!db.transaction())
-        return DbResult::Failure(ErrorText(db.lastError()));
+        return DbResult::Failure(ErrorText(db.lastError(), path_));
     if (DbResult result = steps(); !result) {
         db.rollback();
         return result;
     }
     if (!db.commit())
-        return DbResult::Failure(ErrorText(db.lastError()));
+        return DbResult::Failure(ErrorText(db.lastError(), path_));
     return DbResult::Success();
 }
 
@@ -466,7 +461,7 @@ DbResult Database::UpdateIn(const QString& table, const QString& keyColumn, cons
         QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
             .arg(QuotedName(table), sets.join(QStringLiteral(", ")), QuotedName(keyColumn));
     if (!ExecBound(q, sql, prepared, {key}))
-        return DbResult::Failure(ErrorText(q.lastError()));
+        return DbResult::Failure(ErrorText(q.lastError(), path_));
     return DbResult::Success();
 }
 
@@ -501,7 +496,7 @@ DbResult Database::DeleteRecord(const QString& table, const QString& keyColumn, 
                   .arg(QuotedName(table), QuotedName(keyColumn)));
     q.addBindValue(key);
     if (!q.exec())
-        return DbResult::Failure(ErrorText(q.lastError()));
+        return DbResult::Failure(ErrorText(q.lastError(), path_));
     return DbResult::Success();
 }
 
@@ -516,7 +511,7 @@ DbResult Database::ReadRecord(const QString& table, const QString& keyColumn, co
                   .arg(names.join(QStringLiteral(", ")), QuotedName(table), QuotedName(keyColumn)));
     q.addBindValue(key);
     if (!q.exec() || !q.next())
-        return DbResult::Failure(q.lastError().isValid() ? ErrorText(q.lastError())
+        return DbResult::Failure(q.lastError().isValid() ? ErrorText(q.lastError(), path_)
                                                          : QStringLiteral("No current record."));
     values.clear();
     for (int i = 0; i < int(fields.size()); ++i)

@@ -7,6 +7,8 @@
 // its password, but it is a gate, not secrecy: the file's rows remain readable to other tools.
 #pragma once
 
+#include "db/dberror.h"
+
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QString>
@@ -141,6 +143,3 @@ QString QuotedName(const QString& name);
 
 // "?, ?, ?": the parameter marks of a statement with count values.
 QString Placeholders(int count);
-
-// The engine's own words for an error.
-QString ErrorText(const QSqlError& error);

@@ -199,6 +199,26 @@ QString ResolvedFile(const QString& path)
     return target.isEmpty() ? path : target;
 }
 
+// Puts `fresh`, made beside the file that `path` is or leads to, in that file's place with the
+// file's permissions, after the file there has been kept as `keep`: a year file behind a link
+// stays a link, and one the angler made read-only stays read-only.
+DbResult ReplaceInPlace(const QString& path, const QString& fresh, const QString& keep,
+                        FileOps& ops)
+{
+    const QString file = ResolvedFile(path);
+    if (!QFile::setPermissions(fresh, ModeOf(file)))
+        return DbResult::Failure(
+            QStringLiteral("Cannot give '%1' the permissions of '%2'.").arg(fresh, file));
+    return SwapIn(file, fresh, keep, ops);
+}
+
+// The name a new copy of the year file is built under until it replaces it: `prefix` and the
+// year file's name, beside the file the path leads to, so that one rename puts it in place.
+QString NewCopyName(const QString& path, const QString& prefix)
+{
+    return Sibling(ResolvedFile(path), prefix + QFileInfo(path).fileName());
+}
+
 // The name a year file is made under until it is whole.
 QString CreatingName(const QString& path) { return path + QStringLiteral(".creating"); }
 
@@ -408,10 +428,7 @@ DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
     const YearFileLock lock(path);
     if (!lock.Held())
         return DbResult::Failure(lock.Message());
-    // A year file that is a link to a file elsewhere is compacted there, so that the link
-    // stays; the compacted copy takes the file's permissions.
-    const QString file = ResolvedFile(path);
-    const QString compacted = Sibling(file, QStringLiteral("New") + QFileInfo(path).fileName());
+    const QString compacted = NewCopyName(path, QStringLiteral("New"));
     // A file that is not a whole log must not become the kept copy's successor.
     if (DbResult whole = CheckFile(path, connect); !whole)
         return DbResult::Failure(whole.Message +
@@ -441,12 +458,8 @@ DbResult CompactDB(const QString& path, const QString& connect, FileOps& ops)
             StepFailed(QStringLiteral("Cannot write '%1' to the disk").arg(compacted), ops));
     if (DbResult checked = CheckFile(compacted, connect); !checked)
         return Fail(ops, compacted, checked);
-    if (!QFile::setPermissions(compacted, ModeOf(file)))
-        return Fail(
-            ops, compacted,
-            DbResult::Failure(
-                QStringLiteral("Cannot give '%1' the permissions of '%2'.").arg(compacted, file)));
-    if (DbResult replaced = SwapIn(file, compacted, Companion(path, ".BAK"), ops); !replaced)
+    if (DbResult replaced = ReplaceInPlace(path, compacted, Companion(path, ".BAK"), ops);
+        !replaced)
         return Fail(ops, compacted, replaced);
     return DbResult::Success();
 }
@@ -793,7 +806,7 @@ RepairReport RepairYearFile(const QString& path, const QString& connect, FileOps
 {
     RepairReport report;
     report.KeptAs = QFileInfo(Companion(path, ".BAD")).fileName();
-    const QString rebuilt = Sibling(path, QStringLiteral("Rep") + QFileInfo(path).fileName());
+    const QString rebuilt = NewCopyName(path, QStringLiteral("Rep"));
     const auto failed = [&](const DbResult& failure) {
         report.Result = Fail(ops, rebuilt, failure);
         return report;
@@ -831,7 +844,7 @@ RepairReport RepairYearFile(const QString& path, const QString& connect, FileOps
     if (!ops.Sync(rebuilt))
         return failed(
             StepFailed(QStringLiteral("Cannot write '%1' to the disk").arg(rebuilt), ops));
-    if (DbResult replaced = SwapIn(path, rebuilt, Companion(path, ".BAD"), ops); !replaced)
+    if (DbResult replaced = ReplaceInPlace(path, rebuilt, Companion(path, ".BAD"), ops); !replaced)
         return failed(replaced);
     return report;
 }

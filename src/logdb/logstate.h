@@ -28,4 +28,5 @@ struct LogContext {
     std::int16_t CurYear = 2000;           // the year shown in the main window
     QString Folder;                        // the program's folder
     UnitSystem Units = UnitSystem::Metric; // how the catches' measures are shown and typed
+    QString PlaceName; // the current location's name, recorded in a year file made here
 };

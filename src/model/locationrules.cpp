@@ -52,6 +52,20 @@ const std::vector<TimeZoneEntry>& TimeZoneEntries()
     return entries;
 }
 
+std::string BoundedLocationName(const std::string& name, const std::string& fallback)
+{
+    constexpr unsigned char ContinuationMask = 0xC0, ContinuationBits = 0x80;
+    std::size_t end = 0;
+    for (int characters = 0; end < name.size(); ++end) {
+        const bool starts =
+            (static_cast<unsigned char>(name[end]) & ContinuationMask) != ContinuationBits;
+        if (starts && characters++ == MaxLocationNameLength)
+            break;
+    }
+    const std::size_t last = name.find_last_not_of(" \t", end == 0 ? 0 : end - 1);
+    return last == std::string::npos || end == 0 ? fallback : name.substr(0, last + 1);
+}
+
 std::string ToLowerCase(const std::string& text)
 {
     std::string out = text;

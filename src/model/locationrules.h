@@ -37,6 +37,10 @@ inline constexpr int MostLatitude = 90;
 // A name longer than this does not fit the location menus (the longest city the city list
 // gives, with its state, has 64 characters).
 inline constexpr int MaxLocationNameLength = 80;
+// A stored name as the menus may show it: cut to MaxLocationNameLength characters (of UTF-8
+// text, never inside one) without the blanks the cut leaves at its end; `fallback` when
+// nothing but blanks is left.
+std::string BoundedLocationName(const std::string& name, const std::string& fallback);
 inline constexpr int LowestZone = -12; // twelve hours east of Greenwich
 inline constexpr int HighestZone = 12; // twelve hours west
 constexpr bool IsListedTimeZone(int zone) { return zone >= LowestZone && zone <= HighestZone; }

@@ -1,5 +1,8 @@
 #include "pages/pages.h"
 
+#include "logdb/logfiles.h"
+
+#include <QFile>
 #include <QFileInfo>
 #include <QFont>
 #include <QLocale>
@@ -14,6 +17,8 @@
 namespace {
 constexpr double TwipsPerInch = 1440.0;
 constexpr double TwipsPerPoint = 20.0;
+// The first bytes of every PDF file.
+const QByteArray PdfMagic = QByteArrayLiteral("%PDF-");
 
 QString CannotWrite(const QString& path, const QString& reason)
 {
@@ -21,8 +26,15 @@ QString CannotWrite(const QString& path, const QString& reason)
         .arg(QFileInfo(path).absoluteFilePath(), reason);
 }
 
-// Draws every page onto the writer; false when the painter could not start.
 } // namespace
+
+bool IsPdfOrAbsent(const QString& path)
+{
+    QFile file(path);
+    if (!file.exists())
+        return true;
+    return file.open(QIODevice::ReadOnly) && file.read(PdfMagic.size()) == PdfMagic;
+}
 
 bool PaintPages(QPagedPaintDevice& device, const QRectF& area, const PageDrawing& draw)
 {
@@ -50,6 +62,8 @@ QPageLayout DefaultPageLayout(QPageLayout::Orientation orientation)
 QString WritePdf(const QString& path, const QString& title, const QPageLayout& layout,
                  const PageDrawing& draw)
 {
+    if (!IsPdfOrAbsent(path))
+        return CannotWrite(path, QStringLiteral("it is not a PDF, so it is left as it is"));
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return CannotWrite(path, file.errorString());
@@ -67,6 +81,9 @@ QString WritePdf(const QString& path, const QString& title, const QPageLayout& l
     }
     if (!file.commit())
         return CannotWrite(path, file.errorString());
+    // The file's bytes went to the disk before the rename; the rename itself follows here.
+    if (FileOps ops; !ops.Sync(path))
+        return CannotWrite(path, ops.Cause());
     return {};
 }
 

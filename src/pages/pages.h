@@ -25,8 +25,12 @@ bool PaintPages(QPagedPaintDevice& device, const QRectF& area, const PageDrawing
 // with half-inch margins.
 QPageLayout DefaultPageLayout(QPageLayout::Orientation orientation = QPageLayout::Portrait);
 
-// Writes the document as a PDF file under a temporary name and renames it into place, so an
-// earlier file of that name stays whole until the new one is complete. Returns an empty text
+// True when nothing is at path or it is a PDF file: what a PDF may be written over.
+bool IsPdfOrAbsent(const QString& path);
+
+// Writes the document as a PDF file under a temporary name, synced, and renames it into place,
+// so an earlier file of that name stays whole until the new one is complete; a file that is
+// not a PDF (a year file, a letter) is never written over. Returns an empty text
 // when written, else one line saying which file could not be written and why.
 QString WritePdf(const QString& path, const QString& title, const QPageLayout& layout,
                  const PageDrawing& draw);

@@ -1,6 +1,7 @@
 #include "platform/settingsio.h"
 
 #include "astro/observer.h"
+#include "model/locationrules.h"
 #include "platform/settingsstore.h"
 #include "text/vbformat.h"
 
@@ -176,7 +177,8 @@ void LoadSettings(Settings& s, const SettingsStore& store)
         loc.Longitude = Degrees(K(lon), Read(store, lon, d.Longitude), "###.00", 180.0);
         loc.Latitude = Degrees(K(lat), Read(store, lat, d.Latitude), "##.00", 90.0);
         loc.TimeZone = ZoneHours(K(tz), Read(store, tz, d.TimeZone));
-        loc.Name = Read(store, name, d.Name);
+        // A name typed into the file by hand may be of any length; the menus take a bounded one.
+        loc.Name = BoundedLocationName(Read(store, name, d.Name), d.Name);
         // Files written before locations had zones have no such key: no zone.
         loc.TzName = Read(store, zone, "");
         loc.Reminder = ReadReminder(store, n);

@@ -44,6 +44,15 @@ ZoneRules NamedZoneClock(const std::string& tzName, int& wholeHoursWest)
     return clock;
 }
 
+std::string UnknownZoneOption(const std::string& tzName)
+{
+    if (ZoneKnown(tzName))
+        return {};
+    return "--tz: \"" + tzName +
+           "\" is not a time zone this computer knows; give a tz database name such as "
+           "Europe/Oslo or America/Chicago";
+}
+
 std::string UnknownZoneMessage(const Location& loc)
 {
     return "The time zone \"" + loc.TzName + "\" of " + loc.Name +

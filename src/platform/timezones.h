@@ -25,5 +25,8 @@ ZoneRules LocationClock(const Location& loc);
 // The clock of a zone named on the command line (empty when not known). A whole-hour zone of
 // 0 given with a known zone becomes that zone's standard offset in whole hours west.
 ZoneRules NamedZoneClock(const std::string& tzName, int& wholeHoursWest);
+// Why a zone named on the command line (--tz) is refused: one line naming it; empty when the
+// zone is known.
+std::string UnknownZoneOption(const std::string& tzName);
 // What a user is told once about a location whose zone is not known.
 std::string UnknownZoneMessage(const Location& loc);

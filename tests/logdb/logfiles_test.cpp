@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <functional>
+
 #include <gtest/gtest.h>
 
 using namespace logtest;
@@ -106,8 +108,8 @@ TEST(Compaction, TwiceLeavesTheCompactedFileAndOneBackup)
     EXPECT_EQ(CountRows(path, "table1"), 182);
 }
 
-// A year file kept elsewhere behind a link stays a link to the compacted file, and a file the
-// angler made read-only (or private) keeps its permissions.
+// A year file kept elsewhere behind a link stays a link to the compacted or repaired file, and
+// a file the angler made read-only (or private) keeps its permissions.
 TEST(Compaction, KeepsALinkALinkAndTheFilesPermissions)
 {
     using P = QFileDevice;
@@ -121,30 +123,52 @@ TEST(Compaction, KeepsALinkALinkAndTheFilesPermissions)
         {"private", false, P::ReadOwner | P::WriteOwner},
         {"linked and read-only", true, P::ReadOwner | P::ReadGroup},
     };
-    for (const auto& c : cases) {
-        const QString made = MakeYearFile("compact-keeps", 30);
-        const QString folder = FolderOf(made);
-        QString path = made;
-        QString file = made;
-        if (c.Linked) {
-            QDir().mkpath(folder + "/elsewhere");
-            file = folder + "/elsewhere/fishing-2024.sqlite";
-            ASSERT_TRUE(QFile::rename(made, file));
-            ASSERT_TRUE(QFile::link(file, path));
+    // Repair rebuilds a file holding a value no day can have; compact any sound file.
+    const struct {
+        const char* Name;
+        const char* Kept;
+        std::function<bool(const QString&)> Run;
+    } operations[] = {
+        {"compact", "2024.BAK", [](const QString& path) { return bool(CompactDB(path)); }},
+        {"repair", "2024.BAD",
+         [](const QString& path) {
+             const RepairReport report = RepairYearFile(path, {});
+             return report.Result && report.Damaged;
+         }},
+    };
+    for (const auto& op : operations)
+        for (const auto& c : cases) {
+            const std::string name = std::string(op.Name) + ", " + c.Name;
+            const QString made = MakeYearFile("keeps-shape", 30);
+            const QString folder = FolderOf(made);
+            QString path = made;
+            QString file = made;
+            {
+                Database db;
+                ASSERT_TRUE(db.Open(made));
+                ASSERT_TRUE(db.Execute("update table1 set IllumPercent = 500 where DBID = 3"));
+            }
+            if (c.Linked) {
+                QDir().mkpath(folder + "/elsewhere");
+                file = folder + "/elsewhere/fishing-2024.sqlite";
+                ASSERT_TRUE(QFile::rename(made, file));
+                ASSERT_TRUE(QFile::link(file, path));
+            }
+            ASSERT_TRUE(QFile::setPermissions(file, c.Mode));
+            ASSERT_TRUE(op.Run(path)) << name;
+            const QFileInfo info(path);
+            EXPECT_EQ(info.isSymLink(), c.Linked) << name;
+            EXPECT_EQ(info.canonicalFilePath(), QFileInfo(file).canonicalFilePath()) << name;
+            // The owner's, group's and others' permissions; the User ones are this process's.
+            const auto mode =
+                QFileInfo(file).permissions() & ~(P::ReadUser | P::WriteUser | P::ExeUser);
+            EXPECT_EQ(mode, c.Mode) << name;
+            EXPECT_EQ(CountRows(path, "table1"), 30) << name;
+            EXPECT_TRUE(QFile::exists(folder + "/" + op.Kept)) << name;
+            EXPECT_EQ(QDir(QFileInfo(file).absolutePath()).entryList({"New*", "Rep*"}, QDir::Files),
+                      QStringList())
+                << name;
         }
-        ASSERT_TRUE(QFile::setPermissions(file, c.Mode));
-        ASSERT_TRUE(CompactDB(path)) << c.Name;
-        const QFileInfo info(path);
-        EXPECT_EQ(info.isSymLink(), c.Linked) << c.Name;
-        EXPECT_EQ(info.canonicalFilePath(), QFileInfo(file).canonicalFilePath()) << c.Name;
-        // The owner's, group's and others' permissions; the User ones are this process's.
-        const auto mode =
-            QFileInfo(file).permissions() & ~(P::ReadUser | P::WriteUser | P::ExeUser);
-        EXPECT_EQ(mode, c.Mode) << c.Name;
-        EXPECT_EQ(CountRows(path, "table1"), 30) << c.Name;
-        EXPECT_TRUE(QFile::exists(folder + "/2024.BAK")) << c.Name;
-        EXPECT_FALSE(QFile::exists(QFileInfo(file).absolutePath() + "/New2024.mdb")) << c.Name;
-    }
 }
 
 TEST(Compaction, AFailureLeavesTheYearFileReadable)

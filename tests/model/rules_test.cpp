@@ -46,6 +46,26 @@ TEST(LocationRules, ToLowerCaseCapitalisesTheSecondWordOnly)
     EXPECT_EQ(ToLowerCase("ends "), "ends ");
 }
 
+// Names stored by hand in the settings file: cut to what the menus take, whole characters.
+TEST(LocationRules, StoredNamesAreBoundedForTheMenus)
+{
+    const std::string x79(79, 'x');
+    const struct {
+        std::string Stored;
+        std::string Shown;
+    } cases[] = {
+        {"Alexandria, LA", "Alexandria, LA"},
+        {std::string(100000, 'x'), std::string(80, 'x')},
+        {x79 + "y", x79 + "y"},
+        {x79 + "\u00e9\u00e9", x79 + "\u00e9"}, // two bytes a character
+        {x79 + " yz", x79},                     // no blank left at the cut's end
+        {"", "Camp"},
+        {"   ", "Camp"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(BoundedLocationName(c.Stored, "Camp"), c.Shown) << c.Stored.substr(0, 90);
+}
+
 TEST(CityRows, StatesZonesAndHemispheres)
 {
     const SourceCity miami{

@@ -1,3 +1,4 @@
+#include "model/locationrules.h"
 #include "platform/settingsio.h"
 #include "platform/settingsstore.h"
 
@@ -140,6 +141,11 @@ TEST(Settings, HandWrittenFileIsReadWholeAndRangeChecked)
     EXPECT_EQ(s.Locations[2].Name, "Key West, FL");
     EXPECT_TRUE(SaveSettings(s, store));
     EXPECT_EQ(store.Read("Usr1Name", ""), "Alexandria, LA");
+    // A name far longer than the menus take is cut when read; an empty one is the default's.
+    writeFile("Usr1Name=" + QByteArray(100000, 'x') + "\nUsr2Name=\n");
+    LoadSettings(s, store);
+    EXPECT_EQ(s.Locations[1].Name, std::string(MaxLocationNameLength, 'x'));
+    EXPECT_EQ(s.Locations[2].Name, "Miami, FL");
 
     for (const auto& [line, key] : {std::pair{"Usr1Lat=95", "Usr1Lat"},
                                     {"Usr3Lat=-90.5", "Usr3Lat"},

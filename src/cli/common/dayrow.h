@@ -17,6 +17,17 @@ struct DayEvent {
     static DayEvent At(double hours) { return {hours, EventStatus::Happens}; }
 };
 
+// The clock of one local day: universal time = local clock time + Before until the clock hour
+// Change, + After from then on. On a day whose clock does not change the two are equal and
+// Change is 24. A clock time that the change skips or shows twice is read on the clock before
+// the change (its first showing), as the tz database's readers do by default.
+struct DayClock {
+    double Before = 0, After = 0; // hours
+    double Change = 24;           // clock hours
+
+    double OffsetAt(double clockHours) const { return clockHours < Change ? Before : After; }
+};
+
 struct DayRow {
     int Year = 0, Month = 0, Day = 0;
     DayEvent Sunrise, Sunset, SunTransit;
@@ -34,7 +45,8 @@ struct DayRow {
     std::string Text; // the day's event and holiday captions
     double SunAzimuth = 0, SunAltitude = 0, MoonAzimuth = 0, MoonAltitude = 0; // degrees
     double MoonParallacticAngle = 0;                                           // degrees
-    double UtcOffsetHours = 0; // universal time = local clock time + this
+    double UtcOffsetHours = 0; // universal time = local clock time + this, at noon
+    DayClock Clock;            // the offsets through the whole day
 };
 
 // An event of the year: its kind ("new_moon", "perigee", ...), the instant in universal time,

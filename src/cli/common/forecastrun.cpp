@@ -156,6 +156,10 @@ DayRow ForecastRun::Day(int year, int month, int day)
     r.MoonParallacticAngle = Degrees(f.MoonParallacticAngle);
     // The day's offset: the clock's at local noon.
     r.UtcOffsetHours = 24.0 * Engine.Site.ClockDaysAt(Engine.Site.InstantOf(J + 0.5));
+    // The change read on both clocks; the later reading ends the clock before it.
+    const Observer::ClockDay clock = Engine.Site.ClockOn(J);
+    r.Clock = {24.0 * clock.Start, 24.0 * clock.End,
+               24.0 * (clock.Change - J - std::min(clock.Start, clock.End))};
     return r;
 }
 

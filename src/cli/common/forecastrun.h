@@ -17,7 +17,8 @@ struct ForecastPlace {
     double DstOffsetDays = 0.0;
     bool AmPm = true;
     int HourMinutes = NoonMinutes; // the chosen moment of the day
-    ZoneRules Clock; // the place's own clock ("Local Clock"); empty: zone and DstOffsetDays
+    ZoneRules Clock;  // the place's own clock ("Local Clock"); empty: zone and DstOffsetDays
+    std::string Name; // what the place is called, for what records it
 };
 
 class ForecastRun {

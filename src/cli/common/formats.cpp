@@ -1,6 +1,7 @@
 #include "cli/common/formats.h"
 
 #include "astro/timebase.h"
+#include "text/timeunits.h"
 
 #include <algorithm>
 #include <array>
@@ -271,12 +272,19 @@ std::string AllDays(const DaysLayout& layout, const std::vector<DayRow>& rows)
 
 namespace {
 
-// "YYYYMMDDTHHMMSSZ" of a local clock hour on the row's day, in universal time.
-std::string UtcStamp(const DayRow& r, double localHours)
+// The universal time of a clock hour on the row's day, with the clock's offset at that hour.
+std::chrono::sys_seconds UtcOf(const DayRow& r, double clockHours)
 {
     using namespace std::chrono;
     const sys_days day0{year{r.Year} / month{unsigned(r.Month)} / unsigned(r.Day)};
-    const sys_seconds t = day0 + seconds{std::llround((localHours + r.UtcOffsetHours) * 3600.0)};
+    return day0 +
+           seconds{std::llround((clockHours + r.Clock.OffsetAt(clockHours)) * SecondsPerHour)};
+}
+
+// "YYYYMMDDTHHMMSSZ".
+std::string UtcStamp(std::chrono::sys_seconds t)
+{
+    using namespace std::chrono;
     const sys_days day = floor<days>(t);
     const year_month_day ymd{day};
     const hh_mm_ss hms{t - day};
@@ -336,10 +344,12 @@ std::string TimedEvent(const DayRow& r, const std::string& what, double centre,
                        const std::string& stamp, const IcsPlace& place)
 {
     const bool major = what.starts_with("major");
-    const double halfMinutes = major ? 60.0 : 35.0;
+    // The period's length is real time either side of its centre's instant, also where the
+    // clock changes inside it.
+    const std::chrono::minutes half{major ? 60 : 35};
+    const std::chrono::sys_seconds at = UtcOf(r, centre);
     return IcsLine("BEGIN:VEVENT") + IcsLine(Uid(r, what, place.Id)) + IcsLine("DTSTAMP:" + stamp) +
-           IcsLine("DTSTART:" + UtcStamp(r, centre - halfMinutes / 60.0)) +
-           IcsLine("DTEND:" + UtcStamp(r, centre + halfMinutes / 60.0)) +
+           IcsLine("DTSTART:" + UtcStamp(at - half)) + IcsLine("DTEND:" + UtcStamp(at + half)) +
            IcsLine("SUMMARY:" + IcsText((major ? "Major period" : "Minor period") +
                                         std::string(" (") + place.Name + ")")) +
            IcsLine("TRANSP:TRANSPARENT") + IcsLine("END:VEVENT");

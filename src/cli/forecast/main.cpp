@@ -41,12 +41,6 @@ NamedPlace PlaceOf(const ForecastRequest& r)
         p.Place.Latitude = r.AtCoordinates->Latitude;
         p.Place.TimeZone = r.AtCoordinates->TimeZone;
         p.Place.Clock = NamedZoneClock(r.AtCoordinates->TzName, p.Place.TimeZone);
-        if (!r.AtCoordinates->TzName.empty() && p.Place.Clock.Empty())
-            std::fprintf(stderr, "quillmere-forecast: %s\n",
-                         UnknownZoneMessage({.Name = p.Name,
-                                             .TimeZone = std::int16_t(p.Place.TimeZone),
-                                             .TzName = r.AtCoordinates->TzName})
-                             .c_str());
         p.Name = r.AtCoordinates->Name;
     } else {
         SettingsStore store = SettingsStore::ReadOnly();
@@ -233,6 +227,12 @@ int Run(int argc, char** argv)
         return 2;
     }
     const ForecastRequest& r = std::get<ForecastRequest>(parsed);
+    if (r.AtCoordinates && !r.AtCoordinates->TzName.empty())
+        if (const std::string unknown = UnknownZoneOption(r.AtCoordinates->TzName);
+            !unknown.empty()) {
+            std::cerr << "quillmere-forecast: " << unknown << "\n";
+            return 2;
+        }
     const NamedPlace place = PlaceOf(r);
     if (!r.Pdf.empty()) {
         const std::string error = WritePdfPages(r, place.Place, place.Name);

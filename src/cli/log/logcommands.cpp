@@ -16,7 +16,9 @@
 #include "logdb/logimport.h"
 #include "logdb/logreport.h"
 #include "logdb/yearlock.h"
+#include "logdb/yearplace.h"
 #include "model/settings.h"
+#include "pages/pages.h"
 #include "pages/reportpage.h"
 #include "platform/clock.h"
 #include "platform/programfolder.h"
@@ -46,6 +48,7 @@ const char* const LogUsageText =
 Usage:
   quillmere-log list
   quillmere-log create --year YYYY [LOCATION] [--dst]
+  quillmere-log info --year YYYY
   quillmere-log compact --year YYYY
   quillmere-log repair --year YYYY
   quillmere-log restore --year YYYY
@@ -61,6 +64,7 @@ Commands:
   list     the year files of the program's folder (YYYY.mdb), one name a line.
   create   makes YYYY.mdb and fills it with the year's forecasts at the location, all at
            once: the file appears whole or not at all. An existing file is left alone.
+  info     the place, time zone and clock YYYY.mdb was filled for, as create recorded it.
   compact  compacts YYYY.mdb; the file before compaction is kept as YYYY.BAK.
   repair   checks YYYY.mdb and, when it is damaged, rebuilds it from every record that can
            still be read; the damaged file is kept as YYYY.BAD.
@@ -214,13 +218,18 @@ std::variant<ForecastPlace, UsageError> PlaceOf(const LogRequest& r, std::ostrea
     ForecastPlace p;
     p.AmPm = s.AmPm();
     if (f.AtCoordinates) {
+        if (!f.AtCoordinates->TzName.empty())
+            if (std::string unknown = UnknownZoneOption(f.AtCoordinates->TzName); !unknown.empty())
+                return UsageError{std::move(unknown)};
         p.Longitude = f.AtCoordinates->Longitude;
         p.Latitude = f.AtCoordinates->Latitude;
         p.TimeZone = f.AtCoordinates->TimeZone;
         p.Clock = NamedZoneClock(f.AtCoordinates->TzName, p.TimeZone);
+        p.Name = f.AtCoordinates->Name.empty() ? "Custom location" : f.AtCoordinates->Name;
     } else {
         const Location& loc =
             s.Locations[std::size_t(f.StoredLocation.value_or(s.DefaultLocation()))];
+        p.Name = loc.Name;
         p.Longitude = loc.Longitude;
         p.Latitude = loc.Latitude;
         p.TimeZone = loc.TimeZone;
@@ -252,11 +261,15 @@ int Create(const LogRequest& r, const Streams& io)
         io.Err << "quillmere-log: " << e->Message << "\n";
         return 2;
     }
-    ForecastRun run(std::get<ForecastPlace>(place));
+    const ForecastPlace& named = std::get<ForecastPlace>(place);
+    ForecastRun run(named);
     const Calendar cal = YearCalendar(run.Engine, r.Year, run.SouthernHemisphere);
     DataControl data0;
     const CreateYearResult created = CreateYearFile(io.Folder, r.Year, [&](const QString& path) {
-        return FillYearFile(data0, path, run.Engine, cal, SystemDaylightBias());
+        const DbResult filled = FillYearFile(data0, path, run.Engine, cal, SystemDaylightBias());
+        return filled ? WriteYearPlace(
+                            path, PlaceOfEngine(run.Engine, QString::fromStdString(named.Name)))
+                      : filled;
     });
     switch (created.Outcome) {
     case CreateYearResult::Status::AlreadyExists:
@@ -279,6 +292,19 @@ bool YearFileThere(int year, const Streams& io)
         return true;
     io.Fail("there is no " + Std(YearFileName(year)) + " in " + Std(io.Folder));
     return false;
+}
+
+int Info(const LogRequest& r, const Streams& io)
+{
+    if (!YearFileThere(r.Year, io))
+        return 1;
+    const std::optional<YearPlace> place = ReadYearPlace(io.YearPath(r.Year));
+    io.Out << r.Year << ".mdb: "
+           << (place ? "filled for " + Std(YearPlaceText(*place))
+                     : std::string("the place it was filled for is not recorded (a file made "
+                                   "before the log kept it)"))
+           << "\n";
+    return 0;
 }
 
 int Compact(const LogRequest& r, const Streams& io)
@@ -462,17 +488,9 @@ int Query(const LogRequest& r, const Streams& io)
     return 0;
 }
 
-// A report may replace an earlier report, never a year file or anything else.
-bool IsPdfOrAbsent(const QString& path)
-{
-    QFile file(path);
-    if (!file.exists())
-        return true;
-    return file.open(QIODevice::ReadOnly) && file.read(5) == QByteArrayLiteral("%PDF-");
-}
-
 int Report(const LogRequest& r, const Streams& io)
 {
+    // A report may replace an earlier report, never a year file or anything else.
     if (const auto pdf = r.Options.find("--pdf");
         pdf != r.Options.end() && !IsPdfOrAbsent(QString::fromStdString(pdf->second)))
         return io.Fail("will not print over " + pdf->second +
@@ -573,6 +591,7 @@ const std::vector<LogCommand>& Commands()
         {"create",
          {"--year", "--location", "--lon", "--lat", "--zone", "--tz", "--name", "--dst"},
          Create},
+        {"info", {"--year"}, Info},
         {"compact", {"--year"}, Compact},
         {"repair", {"--year"}, Repair},
         {"restore", {"--year"}, Restore},
@@ -660,8 +679,8 @@ int RunLogCommand(const std::vector<std::string>& args, std::ostream& out, std::
         return 2;
     };
     if (args.empty())
-        return usage("no command given: list, create, compact, repair, restore, export, import, "
-                     "query, report or stats (see --help)");
+        return usage("no command given: list, create, info, compact, repair, restore, export, "
+                     "import, query, report or stats (see --help)");
     if (args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
         out << LogUsageText;
         return 0;

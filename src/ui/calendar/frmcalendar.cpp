@@ -758,7 +758,8 @@ void FrmCalendar::RunDataBase_Click()
                              std::uint32_t(App.Config.MoonColor),
                              App.Cal.CurYear,
                              ProgramFolder::Path(),
-                             UnitsOf(App.Config.ImperialUnits)};
+                             UnitsOf(App.Config.ImperialUnits),
+                             Q(App.Config.Locations[std::size_t(App.Config.CurLoc)].Name)};
     hide();
     FrmSelectDB selectDB(context, this);
     selectDB.exec();

@@ -217,6 +217,11 @@ void FrmLocation::ConnectHandlers()
     connect(CmdDefault, &QPushButton::clicked, this, &FrmLocation::CmdDefault_Click);
     connect(CmdEdit, &QPushButton::clicked, this, &FrmLocation::CmdEdit_Click);
     connect(CloseLocation, &QPushButton::clicked, this, &FrmLocation::CloseLocation_Click);
+    // A zone typed and left is checked then, not first when the editor closes.
+    connect(TzCombo->lineEdit(), &QLineEdit::editingFinished, this, [this] {
+        if (TzCombo->currentText().trimmed() != TzRefused)
+            TzNameIsUsable();
+    });
     for (int i = 0; i < int(DegreeBars().size()); ++i)
         connect(Text[std::size_t(i)], &QLineEdit::editingFinished, this, [this, i] {
             if (Text[std::size_t(i)]->isModified())
@@ -341,6 +346,21 @@ bool FrmLocation::NameIsUsable()
     return !name.isEmpty() && name.size() <= MaxLocationNameLength;
 }
 
+bool FrmLocation::TzNameIsUsable()
+{
+    const QString name = TzCombo->currentText().trimmed();
+    if (name.isEmpty() || ZoneKnown(name.toStdString())) {
+        TzRefused.clear();
+        return true;
+    }
+    TzRefused = name;
+    Warn(QStringLiteral("\"%1\" is not a time zone this computer knows: pick one from the list "
+                        "(Asia/Kolkata, Europe/Oslo) or leave the box empty for the whole-hour "
+                        "zone only.")
+             .arg(name));
+    return false;
+}
+
 bool FrmLocation::TypedEntriesAreUsable()
 {
     for (int box = 0; box < int(DegreeBars().size()); ++box) {
@@ -357,7 +377,7 @@ bool FrmLocation::TypedEntriesAreUsable()
                       Text[lon > MostLongitude ? 1 : 3]->text()));
         return false;
     }
-    return NameIsUsable();
+    return NameIsUsable() && TzNameIsUsable();
 }
 
 void FrmLocation::List1_Click()

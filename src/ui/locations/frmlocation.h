@@ -97,6 +97,8 @@ private:
     void Warn(const QString& text);
     // The name box's text can name a location; a message says why not otherwise.
     bool NameIsUsable();
+    // The zone box is empty or names a zone the computer knows; a message says why not.
+    bool TzNameIsUsable();
     // Every typed entry can be stored: the degree boxes, the place within 180 and 90 degrees,
     // the name. The first that cannot is said in a message.
     bool TypedEntriesAreUsable();
@@ -111,4 +113,5 @@ private:
     LocationContext Ctx;
     bool Filling = true;       // from load until Populate: list clicks change nothing
     bool ComboFilling = false; // while the state list is filled: combo clicks change nothing
+    QString TzRefused;         // the zone text last said to be unknown, said once when left
 };

@@ -5,6 +5,7 @@
 #include "logdb/backups.h"
 #include "logdb/filldata.h"
 #include "logdb/logfiles.h"
+#include "logdb/yearplace.h"
 #include "platform/clock.h"
 #include "ui/common/busypointer.h"
 #include "ui/common/button.h"
@@ -209,8 +210,9 @@ DbResult FrmSelectDB::Fill(const QString& path, std::int16_t year)
     const Calendar cal = YearCalendar(engine, year, Ctx.SouthernHemisphere);
     PBar1->setRange(1, cal.YearSlots - 1);
     PBar1->show();
-    return FillYearFile(Data0, path, engine, cal, Ctx.DaylightBias,
-                        [this](int day, int) { PBar1->setValue(day); });
+    const DbResult filled = FillYearFile(Data0, path, engine, cal, Ctx.DaylightBias,
+                                         [this](int day, int) { PBar1->setValue(day); });
+    return filled ? WriteYearPlace(path, PlaceOfEngine(engine, Ctx.PlaceName)) : filled;
 }
 
 bool FrmSelectDB::OfferRestore(int year)

@@ -7,6 +7,7 @@
 #include "logdb/querybuilder.h"
 #include "logdb/queryrun.h"
 #include "logdb/yearlock.h"
+#include "logdb/yearplace.h"
 #include "pages/moonpicture.h"
 #include "pages/twips.h"
 #include "ui/common/busypointer.h"
@@ -447,6 +448,9 @@ void frmTable1::BindControls()
 
 void frmTable1::Form_Load()
 {
+    // Where and on which clock the year's times hold, when the file records it.
+    if (const auto place = ReadYearPlace(Ctx.State.DBPath))
+        setWindowTitle(QStringLiteral("Quillmere DataBase - %1").arg(YearPlaceText(*place)));
     Data1.SetDatabaseName(Ctx.State.DBPath);
     // Catch entries made while a query result is shown are kept in the log table too.
     Data1.SetMirrorTable(QStringLiteral("table1"));

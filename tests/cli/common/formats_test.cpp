@@ -26,6 +26,7 @@ DayRow Sample()
     r.Rating = 4;
     r.Text = " Moon at Perigee , \"x\"";
     r.UtcOffsetHours = 6.0;
+    r.Clock = {6.0, 6.0};
     return r;
 }
 

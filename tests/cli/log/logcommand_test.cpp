@@ -15,6 +15,8 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTime>
 
 #include <gtest/gtest.h>
@@ -318,6 +320,63 @@ TEST(LogCommand, LocalClockYearAgreesWithTheForecastsDayRows)
     ASSERT_TRUE(forecast.waitForFinished(120000));
     const QString rows = QString::fromUtf8(forecast.readAllStandardOutput());
     EXPECT_EQ(PythonCheck(LogAgainstForecast, rows, {QDir(home).filePath("2025.mdb")}), "");
+}
+
+// A zone typed on either command line that the computer does not know is refused in one line
+// that names it, before anything is made.
+TEST(LogCommand, AnUnknownZoneIsRefusedInOneLine)
+{
+    const QString home = testenv::FreshDir("log-unknown-zone");
+    const QStringList place = {"--lon", "74.01W", "--lat", "40.71N", "--tz", "Mars/Olympus"};
+    const LogRun created = RunLog(home, QStringList{"create", "--year", "2025"} + place);
+    ExpectOneLineRefusal(created, 2, "create");
+    EXPECT_TRUE(created.Err.contains("\"Mars/Olympus\" is not a time zone"))
+        << created.Err.toStdString();
+    EXPECT_FALSE(QFile::exists(QDir(home).filePath("2025.mdb")));
+    QProcess forecast;
+    forecast.start(QStringLiteral(QUILLMERE_FORECAST), QStringList{"month"} + place);
+    ASSERT_TRUE(forecast.waitForFinished(60000));
+    const QString said = QString::fromUtf8(forecast.readAllStandardError());
+    EXPECT_EQ(forecast.exitCode(), 2);
+    EXPECT_TRUE(forecast.readAllStandardOutput().isEmpty());
+    EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
+    EXPECT_TRUE(said.startsWith("quillmere-forecast: --tz: \"Mars/Olympus\""))
+        << said.toStdString();
+}
+
+// A year file records the place, zone and clock it was filled for; info reads it back, and a
+// file made before files kept it still opens and says so.
+TEST(LogCommand, AYearFileRecordsItsPlaceAndClock)
+{
+    const QString home = testenv::FreshDir("log-place");
+    const LogRun created =
+        RunLog(home, {"create", "--year", "2025", "--lon", "74.01W", "--lat", "40.71N", "--tz",
+                      "America/New_York", "--name", "Hudson pier"});
+    ASSERT_EQ(created.Status, 0) << created.Err.toStdString();
+    const QString path = QDir(home).filePath("2025.mdb");
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "place");
+        db.setDatabaseName(path);
+        ASSERT_TRUE(db.open());
+        QSqlQuery q(db);
+        ASSERT_TRUE(q.exec("SELECT Name, Latitude, Longitude, TzName, Clock FROM QuillmerePlace"));
+        ASSERT_TRUE(q.next());
+        EXPECT_EQ(q.value(0).toString(), "Hudson pier");
+        EXPECT_DOUBLE_EQ(q.value(1).toDouble(), 40.71);
+        EXPECT_DOUBLE_EQ(q.value(2).toDouble(), 74.01);
+        EXPECT_EQ(q.value(3).toString(), "America/New_York");
+        EXPECT_EQ(q.value(4).toString(), "Local Clock");
+        EXPECT_FALSE(q.next());
+        EXPECT_EQ(RunLog(home, {"info", "--year", "2025"}).Out,
+                  "2025.mdb: filled for Hudson pier  40.71N 74.01W  America/New_York, Local "
+                  "Clock\n");
+        ASSERT_TRUE(q.exec("DROP TABLE QuillmerePlace"));
+    }
+    QSqlDatabase::removeDatabase("place");
+    EXPECT_EQ(RunLog(home, {"info", "--year", "2025"}).Out,
+              "2025.mdb: the place it was filled for is not recorded (a file made before the log "
+              "kept it)\n");
+    EXPECT_EQ(RunLog(home, {"query", "--year", "2025", "--months", "1"}).Status, 0);
 }
 
 QString CreatedYear(const QString& folderName)

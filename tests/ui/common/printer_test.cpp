@@ -79,6 +79,41 @@ TEST(Printer, AnUnwritablePdfIsReportedInOneLineAndAnEarlierFileStaysWhole)
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 }
 
+// A print to a file that is not a PDF (a year file chosen by a slip) leaves it byte for byte
+// and says why in one line; an earlier PDF is replaced.
+TEST(Printer, NeverPrintsOverAFileThatIsNotAPdf)
+{
+    const QString dir = testenv::FreshDir("print-over");
+    MessageService messages;
+    messages.Script([](const ShownMessage&) { return MsgResult::OK; });
+    const struct {
+        const char* Name;
+        QByteArray Bytes;
+        PrintOutcome Outcome;
+    } cases[] = {
+        {"2024.mdb", QByteArray("SQLite format 3\0 the year's days", 34), PrintOutcome::Failed},
+        {"notes.txt", "a note", PrintOutcome::Failed},
+        {"earlier.pdf", "%PDF-1.4 an earlier report", PrintOutcome::Printed},
+    };
+    for (const auto& c : cases) {
+        const QString path = dir + "/" + c.Name;
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(c.Bytes);
+        file.close();
+        const PrintPdfTo target(path);
+        EXPECT_EQ(PrintDocument(nullptr, messages, "x", TwoPages), c.Outcome) << c.Name;
+        const bool kept = testenv::FileBytes(path) == c.Bytes;
+        EXPECT_EQ(kept, c.Outcome == PrintOutcome::Failed) << c.Name;
+    }
+    ASSERT_EQ(messages.Shown().size(), 2u);
+    for (const ShownMessage& shown : messages.Shown()) {
+        EXPECT_TRUE(shown.Text.contains("it is not a PDF")) << shown.Text.toStdString();
+        EXPECT_FALSE(shown.Text.contains('\n'));
+    }
+    EXPECT_EQ(testenv::PdfPages(dir + "/earlier.pdf"), 2);
+}
+
 // Without $QUILLMERE_PRINT_PDF the print dialog opens; cancelling it prints nothing, calls no
 // drawing and says nothing.
 TEST(Printer, ACancelledDialogPrintsNothingAndSaysNothing)

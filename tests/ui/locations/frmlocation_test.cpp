@@ -248,6 +248,38 @@ TEST(FrmLocation, UpperArrowRaisesTheDegrees)
     EXPECT_DOUBLE_EQ(e.Locations[3].Longitude, -146.77);
 }
 
+// A zone the computer does not know is said when the box is left and again on "&Done", which
+// keeps the editor open; a known zone or none is stored.
+TEST(FrmLocation, AnUnknownZoneIsSaidWhenTypedAndLeft)
+{
+    const QString folder = cityfolder::Make("loc-zone");
+    const Location home{"Home", 90.25, 30.5, 6};
+    Editor e(folder, home);
+    QApplication::setActiveWindow(e.W.get());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(e.W.get()));
+    const auto typeZone = [&e](const QString& keys) {
+        e.W->TzCombo->setFocus();
+        e.W->TzCombo->lineEdit()->selectAll();
+        QTest::keyClick(e.W->TzCombo->lineEdit(), Qt::Key_Delete);
+        QTest::keyClicks(e.W->TzCombo->lineEdit(), keys);
+        e.W->Text[4]->setFocus(); // the box is left
+    };
+    typeZone("Mars/Olympus");
+    ASSERT_EQ(e.Messages.Shown().size(), 1u);
+    EXPECT_EQ(e.Messages.Shown()[0].Text,
+              "\"Mars/Olympus\" is not a time zone this computer knows: pick one from the list "
+              "(Asia/Kolkata, Europe/Oslo) or leave the box empty for the whole-hour zone only.");
+    e.W->CloseLocation_Click();
+    EXPECT_EQ(e.Messages.Shown().size(), 2u);
+    EXPECT_TRUE(e.W->isVisible());
+    EXPECT_EQ(e.Locations[3].TzName, "");
+    typeZone("Asia/Kolkata");
+    e.W->CloseLocation_Click();
+    EXPECT_EQ(e.Messages.Shown().size(), 2u);
+    EXPECT_FALSE(e.W->isVisible());
+    EXPECT_EQ(e.Locations[3].TzName, "Asia/Kolkata");
+}
+
 TEST(FrmLocation, Screenshot)
 {
     Editor e(cityfolder::Make("loc-shot"), {"Alexandria, LA", 92.42, 31.25, 6});

@@ -199,6 +199,13 @@ TEST(FrmSelectDB, TheFillIsTheSameWhateverTheHourBarSaysAndEqualsTheCommandLines
         EXPECT_TRUE(differ.first == made.end()) << "hour bar at " << hourBar << ":\n"
                                                 << *differ.first << "\n"
                                                 << *differ.second;
+        // Both files record the same place and clock.
+        const auto place = [](const QString& path) {
+            return PlainRows(path, "SELECT Latitude, Longitude, TimeZone, TzName, Clock FROM "
+                                   "QuillmerePlace");
+        };
+        EXPECT_EQ(place(windows.State.DBPath), place(QDir(cliFolder).filePath("2024.mdb")));
+        EXPECT_EQ(place(windows.State.DBPath).size(), 1u);
     }
 }
 

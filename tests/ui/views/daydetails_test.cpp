@@ -1,6 +1,7 @@
 #include "astro/astronomy.h"
 #include "astro/timebase.h"
 #include "calendar/calendar.h"
+#include "platform/timezones.h"
 #include "ui/views/frmdetail.h"
 #include "viewrules/daydetails.h"
 
@@ -11,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdio>
 
 namespace {
@@ -115,6 +117,65 @@ TEST(DoDetails, EventLinesNameTheDaysEvents)
     int h = 0, m = 0;
     ASSERT_EQ(std::sscanf(aphelion.c_str(), "%d:%d", &h, &m), 2);
     EXPECT_NEAR(h * 60 + m, 5 * 60 + 6, 30);
+}
+
+// Under Local Clock the seasons of 2025 (USNO: 20 March 09:01, 21 June 02:42, 22 September
+// 18:19, 21 December 15:03 UT) read on the place's own clock at that instant (zoneinfo): summer
+// and winter time, half-hour zones and the southern hemisphere.
+TEST(DoDetails, SeasonsUnderLocalClockReadThePlacesClock)
+{
+    const struct {
+        const char* Zone;
+        double LonWest, LatNorth;
+        std::int16_t WholeHours;
+        std::array<const char*, 4> Shown; // local date and clock, spring to winter
+    } places[] = {
+        {"America/New_York",
+         74.01,
+         40.71,
+         5,
+         {"2025-03-20 05:01 AM", "2025-06-20 10:42 PM", "2025-09-22 02:19 PM",
+          "2025-12-21 10:03 AM"}},
+        {"Asia/Kolkata",
+         -77.2,
+         28.6,
+         -5,
+         {"2025-03-20 02:31 PM", "2025-06-21 08:12 AM", "2025-09-22 11:49 PM",
+          "2025-12-21 08:33 PM"}},
+        {"Australia/Sydney",
+         -151.21,
+         -33.87,
+         -10,
+         {"2025-03-20 08:01 PM", "2025-06-21 12:42 PM", "2025-09-23 04:19 AM",
+          "2025-12-22 02:03 AM"}},
+        {"America/St_Johns",
+         52.71,
+         47.56,
+         4,
+         {"2025-03-20 06:31 AM", "2025-06-21 12:12 AM", "2025-09-22 03:49 PM",
+          "2025-12-21 11:33 AM"}},
+    };
+    for (const auto& place : places) {
+        Place p(place.LonWest, place.LatNorth, place.WholeHours, 2025);
+        p.Engine.Site.Clock = LoadZoneRules(place.Zone, 2024, 2026);
+        p.Engine.Site.TimeFormats = LocalClockMode;
+        p.Cal.SetYearTables(p.Engine, place.LatNorth < 0 ? -1 : 0);
+        for (int season = 1; season <= 4; ++season) {
+            int year = 0, month = 0, day = 0;
+            char clock[9] = {};
+            const char* shown = place.Shown[std::size_t(season - 1)];
+            ASSERT_EQ(std::sscanf(shown, "%d-%d-%d %8[^\n]", &year, &month, &day, clock), 4);
+            const DetailLines d = DoDetails(p.Engine, p.Cal, CivilToJd(year, month, day), true);
+            const std::string line = SeasonNames[std::size_t(season)];
+            std::string found;
+            for (int i = 0; i < EventLabelCount; ++i)
+                if (d.at(FirstEventLabel + i).starts_with(line))
+                    found = d.at(FirstEventLabel + i);
+            ASSERT_FALSE(found.empty()) << place.Zone << " " << shown;
+            EXPECT_NEAR(ClockMinutes(found.substr(line.size())), ClockMinutes(clock), 1)
+                << place.Zone << " " << shown << ": " << found;
+        }
+    }
 }
 
 // The window beside the grid: Sunday to Wednesday on the right, Thursday to Saturday on the
