@@ -8,7 +8,7 @@
 const std::array<const char*, 8> DayNames = {"",          "Sunday",   "Monday", "Tuesday",
                                              "Wednesday", "Thursday", "Friday", "Saturday"};
 const std::array<const char*, 13> MonthNames = {
-    "",     "January", "Febuary",   "March",   "April",    "May",     "June",
+    "",     "January", "February",  "March",   "April",    "May",     "June",
     "July", "August",  "September", "October", "November", "December"};
 const std::array<const char*, 5> PhaseNames = {"", "New Moon", "First Quarter", "Full Moon",
                                                "Last Quarter"};

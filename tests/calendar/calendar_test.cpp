@@ -125,7 +125,7 @@ TEST(CalendarTexts, MonthDaysTextAbbrevAndShortClock)
     EXPECT_EQ(ShortClock("10:15 AM"), "10:15 A");
     EXPECT_EQ(ShortClock("****"), "****");
     EXPECT_EQ(ShortClock("*****"), "*****");
-    EXPECT_STREQ(MonthNames[2], "Febuary");
+    EXPECT_STREQ(MonthNames[2], "February");
     EXPECT_STREQ(DayNames[7], "Saturday");
     EXPECT_EQ(std::string(SeasonNames[3]).size(), 16u);
 }
