@@ -25,7 +25,8 @@ LAYERS = [
     (["db"], {"QtCore", "QtSql"}),
     (["logdb"], {"QtCore", "QtSql"}),
     (["pages"], {"QtCore", "QtSql", "QtGui"}),
-    (["platform"], {"QtCore", "QtGui"}),
+    # QtNetwork: the local channel on which a second start reaches the running copy.
+    (["platform"], {"QtCore", "QtGui", "QtNetwork"}),
     (["ui/common"], {"QtCore", "QtSql", "QtGui", "QtWidgets", "QtPrintSupport"}),
     (["ui/views", "ui/log", "ui/locations"],
      {"QtCore", "QtSql", "QtGui", "QtWidgets", "QtPrintSupport", "QtCharts"}),

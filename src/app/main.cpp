@@ -25,6 +25,7 @@ int main(int argc, char** argv)
     if (request.What != Kind::Run && request.What != Kind::Reset)
         return AnswerStartRequest(request, std::cout, std::cerr);
     QApplication::setApplicationName(QStringLiteral("Quillmere"));
+    ApplyRequestedPalette();
     // The desktop matches the windows to the installed launcher and its icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.quillmere.Quillmere"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("io.github.quillmere.Quillmere")));
@@ -39,6 +40,12 @@ int main(int argc, char** argv)
         break;
     }
     FrmCalendar window(app);
+    instance.Listen([&window] {
+        window.showNormal();
+        window.raise();
+        window.activateWindow();
+    });
+    ReportFirstPaint(window);
     window.show();
     return QApplication::exec();
 }

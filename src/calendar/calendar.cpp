@@ -52,6 +52,7 @@ std::int16_t Calendar::DaysInMonth(int month)
 
 void Calendar::SetYearTables(Astronomy& engine, std::int16_t southernHemisphere)
 {
+    ++YearTableBuilds;
     LeapYear();
     MonthDays = static_cast<std::int16_t>(DaysInMonth(CurMonth) + (CurMonth == 2 ? LeapFlag : 0));
     FirstWeekday = static_cast<std::int16_t>(WeekdayOf(CurYear, CurMonth, 1) - 1);
@@ -82,12 +83,11 @@ bool Calendar::StepMonth(int step)
     return true;
 }
 
-void Calendar::ComputePrevMonthDays(Astronomy& engine, std::int16_t southernHemisphere)
+void Calendar::ComputePrevMonthDays()
 {
     const std::int16_t month = CurMonth, year = CurYear;
     StepMonth(-1);
-    SetYearTables(engine, southernHemisphere);
-    PrevMonthDays = MonthDays;
+    PrevMonthDays = std::int16_t(DaysInMonth(CurMonth) + (CurMonth == 2 && IsLeapYear(CurYear)));
     CurMonth = month;
     CurYear = year;
 }

@@ -77,6 +77,7 @@ public:
     std::vector<DayMarks> YearDays; // 0..YearSlots + 1, indexed by day of year
     std::int16_t DstStartDay = 0, DstEndDay = 0;
     double DstStartJD = 0.0, DstEndJD = 0.0;
+    int YearTableBuilds = 0; // how often SetYearTables ran: the windows' speed is measured by it
 
     void LeapYear();
     // Moves CurMonth one month on (+1) or back (-1); true when that changes CurYear.
@@ -85,8 +86,8 @@ public:
     // Recomputes the tables for CurMonth/CurYear, then the year's events (with the engine at
     // its observer), the ratings for the hemisphere (-1 south) and the holidays.
     void SetYearTables(Astronomy& engine, std::int16_t southernHemisphere);
-    // Sets PrevMonthDays from the month before (leaves the tables at that month's year).
-    void ComputePrevMonthDays(Astronomy& engine, std::int16_t southernHemisphere);
+    // Sets PrevMonthDays from the month before; the tables stay as they are.
+    void ComputePrevMonthDays();
     // The 37 cells of the shown month; frames today when the shown month is the clock's,
     // else day 1 (TodayCell, SelCell).
     std::array<DayCell, MonthGridCells> DrawMonth(Astronomy& engine,
