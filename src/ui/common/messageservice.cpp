@@ -1,7 +1,10 @@
 #include "ui/common/messageservice.h"
 
+#include <QApplication>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QStyle>
 
 namespace {
 QMessageBox::StandardButtons ToQt(MsgButtons b)
@@ -60,6 +63,22 @@ MsgResult FromQt(int button)
         return MsgResult::OK;
     }
 }
+// A title bar elides a title wider than its window ("Comp... ases" over a short message): the
+// box is made at least as wide as its title in the title bar's bold font beside the bar's
+// buttons.
+void WideEnoughForTitle(QMessageBox& box)
+{
+    constexpr int TitleBarButtons = 4; // close, maximise, minimise and the menu, each square
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid == nullptr)
+        return;
+    QFont bold = QApplication::font("QMdiSubWindowTitleBar");
+    bold.setBold(true);
+    const int width = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) +
+                      TitleBarButtons * box.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    grid->addItem(new QSpacerItem(width, 0, QSizePolicy::Minimum, QSizePolicy::Minimum),
+                  grid->rowCount(), 0, 1, grid->columnCount());
+}
 } // namespace
 
 MsgResult MessageService::MsgBox(const QString& text, MsgButtons buttons, const QString& title,
@@ -76,6 +95,7 @@ MsgResult MessageService::MsgBox(const QString& text, MsgButtons buttons, const 
         box.setDefaultButton(QMessageBox::No);
         box.setEscapeButton(QMessageBox::No);
     }
+    WideEnoughForTitle(box);
     return FromQt(box.exec());
 }
 

@@ -4,15 +4,19 @@
 #include "model/locationrules.h"
 #include "ui/common/busypointer.h"
 #include "ui/common/databar.h"
+#include "ui/common/fittext.h"
 #include "ui/common/messageservice.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -107,31 +111,41 @@ EditDB::~EditDB()
 
 void EditDB::BuildControls()
 {
-    setFixedSize(430, 336);
+    // The city's fields in a form, the state list and the data bar under them, the buttons
+    // in a column beside; the window keeps the size they need.
+    auto* fields = new QGridLayout;
     for (std::size_t i = 0; i < Text.size(); ++i) {
-        const int y = 10 + int(i) * 30;
         auto* label = new QLabel(QString::fromLatin1(Labels[i]), this);
-        label->setGeometry(10, y, 90, 24);
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         Text[i] = new QLineEdit(this);
-        Text[i]->setGeometry(104, y, 200, 24);
+        FitToText(Text[i], {QStringLiteral("Llanfairpwllgwyngyll")});
         Text[i]->installEventFilter(this);
+        fields->addWidget(label, int(i), 0);
+        fields->addWidget(Text[i], int(i), 1);
         Bindings.push_back(std::make_unique<BoundText>(Text[i]));
         Data1.Bind(QString::fromLatin1(Columns[i]), Bindings.back().get());
     }
     Text[0]->setReadOnly(true);
     Combo = new QComboBox(this);
-    Combo->setGeometry(10, 260, 294, 26);
     Combo->setToolTip(QStringLiteral(" Show the cities of one state, or ALL "));
+    Combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     Data1Bar = new DataBar(Data1, this);
-    Data1Bar->setGeometry(10, 296, 294, 26);
+    fields->addWidget(Combo, int(Text.size()), 0, 1, 2);
+    fields->addWidget(Data1Bar, int(Text.size()) + 1, 0, 1, 2);
+
+    auto* buttons = new QVBoxLayout;
     for (std::size_t i = 0; i < CmdB.size(); ++i) {
         CmdB[i] = new QPushButton(QString::fromLatin1(Captions[i]), this);
-        CmdB[i]->setGeometry(320, 10 + int(i) * 36, 100, 30);
         CmdB[i]->setAutoDefault(false); // Enter moves between the boxes, it closes nothing
         if (i < std::size(Tips))
             CmdB[i]->setToolTip(QString::fromLatin1(Tips[i]));
+        buttons->addWidget(CmdB[i]);
     }
+    buttons->addStretch(1);
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(fields, 1);
+    layout->addLayout(buttons);
+    layout->setSizeConstraint(QLayout::SetMinimumSize);
 }
 
 void EditDB::ConnectHandlers()

@@ -4,12 +4,15 @@
 #include "db/qtext.h"
 #include "model/locationrules.h"
 #include "platform/timezones.h"
+#include "ui/common/fittext.h"
 #include "ui/common/messageservice.h"
 #include "ui/locations/editdb.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QCompleter>
+#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -17,7 +20,10 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QShowEvent>
+#include <QVBoxLayout>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -27,35 +33,51 @@ constexpr int MostHundredths = 99;
 constexpr const char* DegreeBoxNames[] = {"Longitude degrees", "Longitude hundredths",
                                           "Latitude degrees", "Latitude hundredths"};
 
-QScrollBar* DegreeBar(QWidget* parent, int maximum, const QRect& geometry)
+// A degree scroll bar whose upper arrow raises the value, as the box beside it reads: the
+// largest value sits at the top, and the arrows' and pages' steps run that way.
+QScrollBar* DegreeBar(QWidget* parent, int maximum)
 {
     auto* bar = new QScrollBar(Qt::Vertical, parent);
     bar->setRange(0, maximum);
-    bar->setGeometry(geometry);
+    bar->setInvertedAppearance(true);
+    bar->setInvertedControls(true);
+    QObject::connect(bar, &QAbstractSlider::actionTriggered, bar, [bar](int action) {
+        const int step = action == QAbstractSlider::SliderSingleStepSub   ? bar->singleStep()
+                         : action == QAbstractSlider::SliderSingleStepAdd ? -bar->singleStep()
+                         : action == QAbstractSlider::SliderPageStepSub   ? bar->pageStep()
+                         : action == QAbstractSlider::SliderPageStepAdd   ? -bar->pageStep()
+                                                                          : 0;
+        if (step != 0)
+            bar->setSliderPosition(std::clamp(bar->value() + step, bar->minimum(), bar->maximum()));
+    });
     return bar;
 }
 
-QLineEdit* Box(QWidget* parent, const char* tip, const QRect& geometry)
+QLineEdit* Box(QWidget* parent, const char* tip, const QString& widest = {})
 {
     auto* box = new QLineEdit(parent);
     box->setToolTip(QString::fromLatin1(tip));
-    box->setGeometry(geometry);
+    if (!widest.isEmpty())
+        FitToText(box, {widest});
     return box;
 }
 
-QRadioButton* Option(QWidget* parent, const char* caption, const char* tip, int x, int y)
+QRadioButton* Option(QWidget* parent, const char* caption, const char* tip)
 {
     auto* option = new QRadioButton(QString::fromLatin1(caption), parent);
     option->setToolTip(QString::fromLatin1(tip));
-    option->setGeometry(x, y, 40, 22);
     return option;
 }
 
-QLabel* Caption(QWidget* parent, const QString& text, const QRect& geometry)
+// Degrees, hundredths and the two sides on one row.
+QHBoxLayout* DegreeRow(const std::array<QWidget*, 6>& parts)
 {
-    auto* label = new QLabel(text, parent);
-    label->setGeometry(geometry);
-    return label;
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2);
+    for (QWidget* part : parts)
+        row->addWidget(part);
+    row->addStretch(1);
+    return row;
 }
 
 } // namespace
@@ -71,52 +93,47 @@ FrmLocation::FrmLocation(const LocationContext& context, QWidget* parent)
 
 void FrmLocation::BuildControls()
 {
-    setFixedSize(480, 376);
-    Caption(this, QStringLiteral("Longitude"), {10, 8, 120, 18});
-    Text[0] = Box(this, " Integer Degrees of Longitude ", {10, 30, 44, 24});
-    VsbDegLon = DegreeBar(this, MostLongitude, {56, 28, 16, 28});
-    Text[1] = Box(this, " Decimal degreesof longitude = Minutes/60 ", {78, 30, 34, 24});
-    VsbFracLon = DegreeBar(this, MostHundredths, {114, 28, 16, 28});
-    SSOption[0] = Option(this, "W", " Selects West Longitudes ", 142, 31);
-    SSOption[1] = Option(this, "E", " Selects East Longitudes ", 186, 31);
-    Caption(this, QStringLiteral("Latitude"), {10, 64, 120, 18});
-    Text[2] = Box(this, " Integer Degrees of Latitude ", {10, 86, 44, 24});
-    VsbDegLat = DegreeBar(this, MostLatitude, {56, 84, 16, 28});
-    Text[3] = Box(this, " Decimal Degress of Latitude = Minutes/60 ", {78, 86, 34, 24});
-    VsbFracLat = DegreeBar(this, MostHundredths, {114, 84, 16, 28});
-    SSOption[2] = Option(this, "N", " Selects North Latitudes ", 142, 87);
-    SSOption[3] = Option(this, "S", " Selects South Latitudes ", 186, 87);
+    const QString degrees = QStringLiteral("000");
+    Text[0] = Box(this, " Integer Degrees of Longitude ", degrees);
+    VsbDegLon = DegreeBar(this, MostLongitude);
+    Text[1] = Box(this, " Decimal degreesof longitude = Minutes/60 ", degrees);
+    VsbFracLon = DegreeBar(this, MostHundredths);
+    SSOption[0] = Option(this, "W", " Selects West Longitudes ");
+    SSOption[1] = Option(this, "E", " Selects East Longitudes ");
+    Text[2] = Box(this, " Integer Degrees of Latitude ", degrees);
+    VsbDegLat = DegreeBar(this, MostLatitude);
+    Text[3] = Box(this, " Decimal Degress of Latitude = Minutes/60 ", degrees);
+    VsbFracLat = DegreeBar(this, MostHundredths);
+    SSOption[2] = Option(this, "N", " Selects North Latitudes ");
+    SSOption[3] = Option(this, "S", " Selects South Latitudes ");
+    for (std::size_t i = 0; i < DegreeBars().size(); ++i)
+        Text[i]->setMaximumWidth(Text[i]->minimumWidth());
     for (int pair = 0; pair < 2; ++pair) {
         auto* group = new QButtonGroup(this);
         group->addButton(SSOption[std::size_t(2 * pair)]);
         group->addButton(SSOption[std::size_t(2 * pair + 1)]);
     }
 
-    Caption(this, QStringLiteral("Name"), {10, 120, 120, 18});
-    Text[4] = Box(this, " Name of Location ", {10, 140, 270, 24});
-    Text[6] = Box(this, " Current Default Location ", {10, 174, 70, 24});
+    const QString longName = QStringLiteral("Saint Petersburg, Florida");
+    Text[4] = Box(this, " Name of Location ", longName);
+    Text[6] = Box(this, " Current Default Location ", QStringLiteral("Default"));
     Text[6]->setText(QStringLiteral("Default"));
-    Text[5] = Box(this, " Name of current Default Location ", {84, 174, 196, 24});
+    Text[5] = Box(this, " Name of current Default Location ", longName);
     Text[5]->setReadOnly(true);
     Text[6]->setReadOnly(true);
 
-    Caption(this, QStringLiteral("Time Zone"), {300, 8, 170, 18});
     List1 = new QListWidget(this);
-    List1->setGeometry(300, 30, 170, 168);
     List1->setToolTip(QStringLiteral(" Click on Desired Time Zone "));
 
-    Caption(this, QStringLiteral("  State                   City"), {10, 208, 300, 18});
-    for (std::size_t i = 0; i < 2; ++i)
+    for (std::size_t i = 0; i < 2; ++i) {
         Combo[i] = new QComboBox(this);
-    Combo[0]->setGeometry(10, 228, 190, 26);
-    Combo[1]->setGeometry(206, 228, 264, 26);
-    CityNote = Caption(this, {}, {10, 258, 460, 34});
+        Combo[i]->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    }
+    CityNote = new QLabel(this);
     CityNote->setWordWrap(true);
 
-    Caption(this, QStringLiteral("Local Clock zone"), {10, 300, 120, 26});
     TzCombo = new QComboBox(this);
     TzCombo->setObjectName(QStringLiteral("TzCombo"));
-    TzCombo->setGeometry(130, 300, 340, 26);
     TzCombo->setEditable(true);
     TzCombo->setInsertPolicy(QComboBox::NoInsert);
     TzCombo->setToolTip(QStringLiteral(" Type part of a zone (Kolkata, Oslo) or pick one; empty "
@@ -129,12 +146,63 @@ void FrmLocation::BuildControls()
 
     CmdDefault = new QPushButton(QStringLiteral("Make Default"), this);
     CmdDefault->setToolTip(QStringLiteral(" Make Displayed Data the Default "));
-    CmdDefault->setGeometry(10, 336, 120, 30);
     CmdEdit = new QPushButton(QStringLiteral("Edit DB"), this);
-    CmdEdit->setGeometry(140, 336, 120, 30);
     CloseLocation = new QPushButton(QStringLiteral("&Done"), this);
     CloseLocation->setToolTip(QStringLiteral(" Click When Finished "));
-    CloseLocation->setGeometry(350, 336, 120, 30);
+    LayOut();
+}
+
+// The place on the left, the time zones on the right, the city pickers, the Local Clock zone
+// and the buttons below; the window keeps the size they need.
+void FrmLocation::LayOut()
+{
+    auto* place = new QVBoxLayout;
+    place->addWidget(new QLabel(QStringLiteral("Longitude"), this));
+    place->addLayout(
+        DegreeRow({Text[0], VsbDegLon, Text[1], VsbFracLon, SSOption[0], SSOption[1]}));
+    place->addWidget(new QLabel(QStringLiteral("Latitude"), this));
+    place->addLayout(
+        DegreeRow({Text[2], VsbDegLat, Text[3], VsbFracLat, SSOption[2], SSOption[3]}));
+    place->addWidget(new QLabel(QStringLiteral("Name"), this));
+    place->addWidget(Text[4]);
+    auto* defaultRow = new QHBoxLayout;
+    defaultRow->addWidget(Text[6]);
+    defaultRow->addWidget(Text[5], 1);
+    place->addLayout(defaultRow);
+    place->addStretch(1);
+    auto* zones = new QVBoxLayout;
+    zones->addWidget(new QLabel(QStringLiteral("Time Zone"), this));
+    zones->addWidget(List1, 1);
+
+    auto* grid = new QGridLayout(this);
+    grid->addLayout(place, 0, 0, 1, 2);
+    grid->addLayout(zones, 0, 2);
+    grid->addWidget(new QLabel(QStringLiteral("State"), this), 1, 0);
+    grid->addWidget(new QLabel(QStringLiteral("City"), this), 1, 1, 1, 2);
+    grid->addWidget(Combo[0], 2, 0);
+    grid->addWidget(Combo[1], 2, 1, 1, 2);
+    grid->addWidget(CityNote, 3, 0, 1, 3);
+    auto* clock = new QHBoxLayout;
+    clock->addWidget(new QLabel(QStringLiteral("Local Clock zone"), this));
+    clock->addWidget(TzCombo, 1);
+    grid->addLayout(clock, 4, 0, 1, 3);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(CmdDefault);
+    buttons->addWidget(CmdEdit);
+    buttons->addStretch(1);
+    buttons->addWidget(CloseLocation);
+    grid->addLayout(buttons, 5, 0, 1, 3);
+    grid->setColumnStretch(1, 1);
+    grid->setSizeConstraint(QLayout::SetMinimumSize);
+    // The tab order follows the rows: the place, the zone list, the pickers, the buttons.
+    QWidget* previous = Text[0];
+    for (QWidget* next : std::initializer_list<QWidget*>{
+             VsbDegLon, Text[1], VsbFracLon, SSOption[0], SSOption[1], Text[2], VsbDegLat, Text[3],
+             VsbFracLat, SSOption[2], SSOption[3], Text[4], List1, Combo[0], Combo[1], TzCombo,
+             CmdDefault, CmdEdit, CloseLocation}) {
+        setTabOrder(previous, next);
+        previous = next;
+    }
 }
 
 void FrmLocation::ConnectHandlers()

@@ -89,6 +89,7 @@ protected:
 
 private:
     void BuildControls();
+    void LayOut();
     void ConnectHandlers();
     Location& Current();
     std::array<QScrollBar*, 4> DegreeBars() const; // behind Text(0) to Text(3)

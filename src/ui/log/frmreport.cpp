@@ -41,9 +41,10 @@ frmReport::frmReport(const LogContext& context, const QString& recordSource, boo
     setWindowTitle(QStringLiteral("Quillmere DataBase Report"));
     setModal(true);
     auto* bar = new QMenuBar(this);
-    mnuPrint = bar->addAction(QStringLiteral("Print"));
+    mnuPrint = bar->addAction(QStringLiteral("&Print"));
+    mnuPrint->setShortcut(QKeySequence::Print);
     mnuPrint->setObjectName(QStringLiteral("mnuPrint"));
-    mnuExit = bar->addAction(QStringLiteral("Close"));
+    mnuExit = bar->addAction(QStringLiteral("&Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
     R1 = new QPlainTextEdit(this);
     R1->setObjectName(QStringLiteral("R1"));
@@ -82,7 +83,10 @@ QWidget* frmReport::BuildHeadings()
         auto* label = new QLabel(text, row);
         label->setFont(R1->font());
         label->setWordWrap(true);
-        label->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+        // A two-line heading is centred over its column, so that "Rating" and the "%" under
+        // "Moon" beside it read apart.
+        label->setAlignment((text.contains(QLatin1Char('\n')) ? Qt::AlignHCenter : Qt::AlignLeft) |
+                            Qt::AlignBottom);
         label->setFixedWidth(metrics.horizontalAdvance(QString(width, QLatin1Char('0'))));
         layout->addWidget(label);
     }

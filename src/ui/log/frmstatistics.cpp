@@ -20,6 +20,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -39,6 +41,7 @@ void AddDayCounts(QChart* chart, QBarSeries* series, const CatchGrouping& groupi
         const CatchGroup& g = grouping.Groups[i];
         auto* item = new QGraphicsSimpleTextItem(QString::number(g.DaysFished), chart);
         item->setZValue(10);
+        item->setBrush(chart->titleBrush()); // the theme's text colour
         counts.emplace_back(item, QPointF(double(i), g.PerDay()));
     }
     QObject::connect(chart, &QChart::plotAreaChanged, chart, [chart, series, counts] {
@@ -50,9 +53,14 @@ void AddDayCounts(QChart* chart, QBarSeries* series, const CatchGrouping& groupi
     });
 }
 
-QChart* BarChart(const CatchGrouping& grouping)
+// A chart in the dark theme on a dark window, so that its texts and grid read there too.
+QChart* BarChart(const CatchGrouping& grouping, const QPalette& palette)
 {
+    constexpr int DarkWindow = 128;
     auto* chart = new QChart;
+    chart->setTheme(palette.color(QPalette::Window).lightness() < DarkWindow
+                        ? QChart::ChartThemeDark
+                        : QChart::ChartThemeLight);
     chart->setTitle(Text(grouping.Title));
     chart->legend()->hide();
     auto* rates = new QBarSet(QStringLiteral("Fish per day fished"));
@@ -89,6 +97,7 @@ FrmStatistics::FrmStatistics(const LogContext& context, const QString& yearFile,
     setWindowTitle(QStringLiteral("Catch Statistics"));
     BuildControls();
     ScopeCombo_Click();
+    OpenWithinScreen();
 }
 
 void FrmStatistics::BuildControls()
@@ -107,6 +116,7 @@ void FrmStatistics::BuildControls()
     Summary->setFont(bigger);
 
     Tabs = new QTabWidget(this);
+    Tabs->tabBar()->setUsesScrollButtons(false); // every tab's caption whole, none hidden
     for (size_t i = 0; i < Stats.Groupings.size(); ++i) {
         auto* view = new QChartView(Tabs);
         view->setRenderHint(QPainter::Antialiasing);
@@ -132,7 +142,6 @@ void FrmStatistics::BuildControls()
     layout->addLayout(top);
     layout->addWidget(Summary);
     layout->addWidget(Tabs, 1);
-    resize(900, 600);
 
     connect(ScopeCombo, &QComboBox::activated, this, &FrmStatistics::ScopeCombo_Click);
     connect(CmdCopy, &QPushButton::clicked, this, &FrmStatistics::CmdCopy_Click);
@@ -176,7 +185,7 @@ void FrmStatistics::ShowFigures()
     Summary->setText(Text(CatchSummary(Stats)));
     for (size_t i = 0; i < Charts.size(); ++i) {
         QChart* old = Charts[i]->chart();
-        Charts[i]->setChart(BarChart(Stats.Groupings[i]));
+        Charts[i]->setChart(BarChart(Stats.Groupings[i], palette()));
         delete old;
         Tabs->setTabText(int(i), Text(Stats.Groupings[i].Title));
     }
@@ -211,6 +220,16 @@ void FrmStatistics::FillTable()
 void FrmStatistics::CmdCopy_Click()
 {
     QGuiApplication::clipboard()->setText(Text(CatchTableText(Stats)));
+}
+
+// The charts' customary size, or wider when the tabs need it, within the screen.
+void FrmStatistics::OpenWithinScreen()
+{
+    constexpr QSize ChartRoom(900, 600);
+    QSize size = ChartRoom.expandedTo(minimumSizeHint());
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        size = size.boundedTo(screen->availableGeometry().size());
+    resize(size);
 }
 
 void ShowStatistics(const LogContext& context, const QString& yearFile, QWidget* parent)

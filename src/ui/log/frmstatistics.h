@@ -39,6 +39,7 @@ public:
     QPushButton* CmdCopy = nullptr;
 
 private:
+    void OpenWithinScreen();
     void BuildControls();
     QStringList ChosenFiles() const;
     void ShowFigures();

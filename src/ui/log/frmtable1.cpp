@@ -11,6 +11,7 @@
 #include "pages/twips.h"
 #include "ui/common/busypointer.h"
 #include "ui/common/databar.h"
+#include "ui/common/fittext.h"
 #include "ui/common/messageservice.h"
 #include "ui/log/controlstate.h"
 #include "ui/log/frmstatistics.h"
@@ -28,14 +29,22 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSessionManager>
 #include <QToolTip>
+#include <QVBoxLayout>
 
 #include <functional>
 
 namespace {
 
 constexpr int TakenWithLength = 255;
+constexpr double ScreenShare = 0.9; // the most of the screen the window opens at
+// The widest texts the day's boxes show: clock times either way, dates, the stored
+// daylight hours with 15 significant digits.
+const QStringList ClockTexts = {QStringLiteral("00:00 AM"), QStringLiteral("00:00 PM")};
+const QStringList TwilightTexts = {QStringLiteral("00:00 AM/00:00 PM")};
 const QString TakenWithLimitText = QStringLiteral("Taken With holds at most 255 characters.");
 
 // A bound box: how it shows a stored value, and the entry it has for Update, if any.
@@ -85,7 +94,7 @@ QStringList NumberTexts(int from, int to)
 }
 
 // A fish filled from the tail to the given share of its length: the day's rating.
-QPixmap RatingFish(double share)
+QPixmap RatingFish(double share, const QColor& outline)
 {
     QPixmap picture(52, 22);
     picture.fill(Qt::transparent);
@@ -98,7 +107,7 @@ QPixmap RatingFish(double share)
     painter.setClipRect(QRectF(0, 0, 2 + 47 * share, 22));
     painter.fillPath(fish, QColor(0, 128, 128));
     painter.setClipping(false);
-    painter.setPen(QPen(QColor(0, 64, 64), 1.2));
+    painter.setPen(QPen(outline, 1.2));
     painter.drawPath(fish.simplified());
     painter.setBrush(Qt::black);
     painter.drawEllipse(QPointF(42, 9), 1.5, 1.5);
@@ -111,6 +120,14 @@ QLineEdit* NewBox(QWidget* parent, const QString& name)
     box->setObjectName(name);
     box->setReadOnly(true);
     return box;
+}
+
+// The perigee note's red, light enough to read on a dark window.
+QColor NoteColour(const QPalette& palette)
+{
+    constexpr int DarkWindow = 128;
+    return palette.color(QPalette::Window).lightness() < DarkWindow ? QColor(255, 110, 110)
+                                                                    : QColor(192, 0, 0);
 }
 
 QLabel* Caption(const QString& text, QWidget* parent)
@@ -162,22 +179,29 @@ frmTable1::~frmTable1()
 void frmTable1::BuildControls()
 {
     auto* bar = new QMenuBar(this);
-    mnuExit = bar->addAction(QStringLiteral("Close"));
+    mnuExit = bar->addAction(QStringLiteral("&Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
     connect(mnuExit, &QAction::triggered, this, &frmTable1::mnuExit_Click);
     BuildQueryMenus(bar);
-    bar->addAction("Statistics", this, [this] { ShowStatistics(Ctx, Data1.DatabaseName(), this); });
+    bar->addAction("&Statistics", this,
+                   [this] { ShowStatistics(Ctx, Data1.DatabaseName(), this); });
 
+    // The panels scroll when the window is smaller than they need; the menus and the data
+    // bar stay in view.
+    auto* body = new QWidget(this);
+    auto* panels = new QHBoxLayout(body);
+    panels->addWidget(BuildDayPanel(), 3);
+    panels->addWidget(BuildCatchPanel(), 2);
+    panels->addWidget(BuildQueryPanel(), 2);
+    Scroll = new QScrollArea(this);
+    Scroll->setWidget(body);
+    Scroll->setWidgetResizable(true);
+    Scroll->setFrameShape(QFrame::NoFrame);
     Data1Bar = new DataBar(Data1, this);
-    auto* layout = new QGridLayout(this);
+    auto* layout = new QVBoxLayout(this);
     layout->setMenuBar(bar);
-    layout->addWidget(BuildDayPanel(), 0, 0);
-    layout->addWidget(BuildCatchPanel(), 0, 1);
-    layout->addWidget(BuildQueryPanel(), 0, 2, 2, 1);
-    layout->addWidget(Data1Bar, 1, 0, 1, 2);
-    layout->setColumnStretch(0, 3);
-    layout->setColumnStretch(1, 2);
-    layout->setColumnStretch(2, 2);
+    layout->addWidget(Scroll, 1);
+    layout->addWidget(Data1Bar);
 
     connect(&Data1, &DataControl::Reposition, this, &frmTable1::Data1_Reposition);
     connect(Data1Bar, &DataBar::Error, this, &frmTable1::Data1_Error);
@@ -200,6 +224,16 @@ QWidget* frmTable1::BuildDayPanel()
     Text5 = NewBox(panel, QStringLiteral("Text5"));
     Label7 = new QLabel(panel);
     Label7->setObjectName(QStringLiteral("Label7"));
+    for (QLineEdit* box : FakeTextBox)
+        FixToText(box, ClockTexts);
+    for (int i : {7, 8, 11, 12})
+        FixToText(txtFields[std::size_t(i)], ClockTexts);
+    for (int i : {4, 5, 6})
+        FixToText(txtFields[std::size_t(i)], TwilightTexts);
+    FixToText(txtFields[1], {QStringLiteral("00/00/0000")});
+    FixToText(Text4, {QStringLiteral("00.0000000000000")});
+    for (QLineEdit* box : {txtFields[0], txtFields[13], txtFields[14], txtFields[15], Text3, Text5})
+        FixToText(box, {QStringLiteral("00000")});
 
     const auto pair = [grid, panel](int row, int column, const QString& caption, QWidget* box,
                                     int span = 1) {
@@ -250,7 +284,8 @@ QWidget* frmTable1::BuildCatchPanel()
     std::array<QLabel**, 4> fish = {&QuarterFish, &HalfFish, &ThreeQuarterfish, &WholeFish};
     for (std::size_t k = 0; k < fish.size(); ++k) {
         *fish[k] = new QLabel(panel);
-        (*fish[k])->setPixmap(RatingFish(double(k + 1) / 4.0));
+        (*fish[k])->setPixmap(
+            RatingFish(double(k + 1) / 4.0, palette().color(QPalette::WindowText)));
         (*fish[k])->hide();
         grid->addWidget(*fish[k], 1, 1, 1, 2, Qt::AlignLeft);
     }
@@ -260,7 +295,12 @@ QWidget* frmTable1::BuildCatchPanel()
     WholeFish->setObjectName(QStringLiteral("WholeFish"));
     Label8 = new QLabel(panel);
     Label8->setObjectName(QStringLiteral("Label8"));
-    Label8->setStyleSheet(QStringLiteral("color: #c00000; font-weight: bold"));
+    QPalette note = Label8->palette();
+    note.setColor(QPalette::WindowText, NoteColour(palette()));
+    Label8->setPalette(note);
+    QFont bold = Label8->font();
+    bold.setBold(true);
+    Label8->setFont(bold);
     grid->addWidget(Label8, 2, 1, 1, 2);
     Label9 = new QLabel(panel);
     Label9->setObjectName(QStringLiteral("Label9"));
@@ -281,6 +321,7 @@ QWidget* frmTable1::BuildCatchPanel()
     PeakTimeCombo->setInsertPolicy(QComboBox::NoInsert);
     Text7 = new QPlainTextEdit(catchBox);
     Text7->setObjectName(QStringLiteral("Text7"));
+    Text7->setTabChangesFocus(true); // Tab leaves the notes for the next control
     txtFields[17]->setParent(catchBox);
     txtFields[18]->setParent(catchBox);
     // The column holds 255 characters; the box takes no more and says so when it refuses.
@@ -301,6 +342,8 @@ QWidget* frmTable1::BuildCatchPanel()
     form->addWidget(Caption(QStringLiteral("Notes:"), catchBox), 3, 0, Qt::AlignTop);
     form->addWidget(Text7, 3, 1, 1, 2);
     grid->addWidget(catchBox, 4, 0, 1, 3);
+    CatchArea = new QVBoxLayout;
+    grid->addLayout(CatchArea, 5, 0, 1, 3);
 
     cmdEdit = new QPushButton(QStringLiteral("Edit"), panel);
     cmdEdit->setObjectName(QStringLiteral("cmdEdit"));
@@ -310,10 +353,17 @@ QWidget* frmTable1::BuildCatchPanel()
     cmdUpdate->setToolTip(QStringLiteral(" Click To Update Record "));
     for (QPushButton* b : {cmdEdit, cmdUpdate})
         b->setAutoDefault(false);
-    grid->addWidget(cmdEdit, 5, 0);
-    grid->addWidget(cmdUpdate, 5, 1);
+    grid->addWidget(cmdEdit, 6, 0);
+    grid->addWidget(cmdUpdate, 6, 1);
     grid->setRowStretch(4, 1);
 
+    // The catch entries in the order they are filled in, then the two buttons.
+    QWidget* previous = txtFields[17];
+    for (QWidget* next :
+         std::initializer_list<QWidget*>{txtFields[18], PeakTimeCombo, Text7, cmdEdit, cmdUpdate}) {
+        setTabOrder(previous, next);
+        previous = next;
+    }
     connect(cmdEdit, &QPushButton::clicked, this, &frmTable1::cmdEdit_Click);
     connect(cmdUpdate, &QPushButton::clicked, this, &frmTable1::cmdUpdate_Click);
     connect(Combo4, &QComboBox::activated, this, &frmTable1::Combo4_Click);
@@ -393,8 +443,6 @@ void frmTable1::Form_Load()
     // Catch entries made while a query result is shown are kept in the log table too.
     Data1.SetMirrorTable(QStringLiteral("table1"));
     Label9->setText(QStringLiteral("Sorted by Date"));
-    if (const QScreen* screen = QGuiApplication::primaryScreen())
-        resize(screen->availableGeometry().size());
     PeakTimeCombo->addItems(HourTexts());
     Combo4->addItems(NumberTexts(0, 100));
     TimeCombo->addItems(HourTexts());
@@ -408,6 +456,23 @@ void frmTable1::Form_Load()
     BindControls();
     SetBrowsing(true);
     FirstActivation = true;
+    OpenWithinScreen();
+}
+
+// As large as the panels need, up to most of the screen, centred on it; what does not fit
+// then scrolls.
+void frmTable1::OpenWithinScreen()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr)
+        return;
+    const QRect room = screen->availableGeometry();
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QSize wanted = sizeHint() - Scroll->sizeHint() + Scroll->widget()->sizeHint() +
+                         QSize(scrollBar, scrollBar);
+    const QSize size = wanted.boundedTo(room.size() * ScreenShare);
+    resize(size);
+    move(room.center() - QPoint(size.width() / 2, size.height() / 2));
 }
 
 void frmTable1::showEvent(QShowEvent* event)
@@ -443,6 +508,11 @@ void frmTable1::Data1_Reposition()
     Data1Bar->SetCaption(QStringLiteral("Record: ") +
                          QString::number(Data1.AbsolutePosition() + 1) + QStringLiteral(" of ") +
                          QString::number(Data1.RecordCount()) + QStringLiteral(" Record(s)"));
+    cmdEdit->setEnabled(Data1Bar->isEnabled() && (Data1.AbsolutePosition() >= 0));
+    if (Data1.AbsolutePosition() < 0) {
+        ClearDay();
+        return;
+    }
     ShowTimes();
     ShowNotes();
     ShowMoon();
@@ -510,6 +580,22 @@ void frmTable1::ShowMoon()
     PicM->setPixmap(QPixmap::fromImage(DrawMoon(PicM->size(), look, std::nullopt).PicM));
 }
 
+// No record is current (a selection that found none): nothing of the last day stays on show.
+void frmTable1::ClearDay()
+{
+    for (QLineEdit* box : FakeTextBox)
+        box->clear();
+    for (int i : {7, 8, 11, 12})
+        txtFields[std::size_t(i)]->clear();
+    for (QLabel* label : {Label3, Label7, Label8})
+        label->clear();
+    for (QLineEdit* box : {Text3, Text5})
+        box->clear();
+    for (QLabel* fish : {QuarterFish, HalfFish, ThreeQuarterfish, WholeFish})
+        fish->hide();
+    PicM->clear();
+}
+
 void frmTable1::Data1_Error(const QString& message)
 {
     Ctx.Messages.MsgBox(QStringLiteral("Data error event hit err:") + message);
@@ -520,8 +606,8 @@ void frmTable1::SetBrowsing(bool browsing)
     const auto set = [](auto* control, bool enabled) {
         enabled ? EnableControl(control) : DisableControl(control);
     };
-    for (QWidget* w : std::initializer_list<QWidget*>{Data1Bar, cmdEdit})
-        set(w, browsing);
+    set(Data1Bar, browsing);
+    set(cmdEdit, browsing && (Data1.AbsolutePosition() >= 0));
     set(mnuExit, browsing);
     set(Command1, browsing);
     set(mnutableview, browsing);

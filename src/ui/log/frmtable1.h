@@ -18,6 +18,8 @@ class QAction;
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
+class QScrollArea;
+class QVBoxLayout;
 class QMenuBar;
 class QLabel;
 class QLineEdit;
@@ -75,6 +77,8 @@ public:
     bool ConfirmLeaveEditing();
 
     DataControl Data1;
+    // Under the catch fields: the place for the day's list of catches.
+    QVBoxLayout* CatchArea = nullptr;
     DataBar* Data1Bar = nullptr;            // Data1's arrows and record counter
     std::array<QLineEdit*, 19> txtFields{}; // the indices the window uses; 16 stays null
     std::array<QLineEdit*, 4> FakeTextBox{};
@@ -130,6 +134,8 @@ private:
     // Makes the owner's closing and the program's end ask about an open edit too.
     void WatchTheWayOut();
     void SetBrowsing(bool browsing);
+    void OpenWithinScreen();
+    void ClearDay();
     bool PeakTimeEdited() const;
     // The first catch entry that cannot be stored as typed, as the message saying why; empty
     // when every edited entry can.
@@ -156,5 +162,6 @@ private:
     int TimeComboServes = 1;          // the box TimeCombo fills, 1 to 4
     int PickerBox = 0;                // the Text6 box MonthList, DOWList or Combo2 fills
     QGridLayout* QueryGrid = nullptr; // the query panel's rows, where the pickers show
+    QScrollArea* Scroll = nullptr;    // the three panels
     QWidget* Owner = nullptr;         // the window this one belongs to, whose closing asks too
 };

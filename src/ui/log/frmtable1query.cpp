@@ -8,6 +8,7 @@
 #include "logdb/querybuilder.h"
 #include "logdb/queryrun.h"
 #include "ui/common/button.h"
+#include "ui/common/fittext.h"
 #include "ui/common/messageservice.h"
 #include "ui/log/frmreport.h"
 #include "ui/log/frmtable2.h"
@@ -48,7 +49,6 @@ private:
 
 // The grid column of the conditions' hints, where a picker shows beside its box.
 constexpr int HintColumn = 3;
-constexpr int PickerWidth = 96;
 
 void OnClick(QWidget* widget, std::function<void()> clicked)
 {
@@ -65,7 +65,9 @@ QWidget* frmTable1::BuildQueryPanel()
     for (std::size_t b = 0; b < Text6.size(); ++b) {
         Text6[b] = new QLineEdit(panel);
         Text6[b]->setObjectName(QStringLiteral("Text6%1").arg(b));
-        Text6[b]->setFixedWidth(b >= 10 ? 84 : 56);
+        FixToText(Text6[b],
+                  b >= 10 ? QStringList{QStringLiteral("00:00 AM"), QStringLiteral("00:00 PM")}
+                          : QStringList{QStringLiteral("Fri-Sun")});
         OnClick(Text6[b], [this, b] { Text6_Click(int(b)); });
     }
     Text1 = new QLineEdit(panel);
@@ -73,7 +75,7 @@ QWidget* frmTable1::BuildQueryPanel()
     Text2 = new QLineEdit(panel);
     Text2->setObjectName(QStringLiteral("Text2"));
     for (QLineEdit* clock : {Text1, Text2})
-        clock->setFixedWidth(84);
+        FixToText(clock, {QStringLiteral("00:00 AM"), QStringLiteral("00:00 PM")});
     // Typed clock times are shown as the list writes them ("7:30 PM").
     for (QLineEdit* clock : {Text1, Text2, Text6[10], Text6[11]}) {
         connect(clock, &QLineEdit::editingFinished, this, [clock] {
@@ -159,10 +161,10 @@ void frmTable1::BuildPickers(QWidget* panel)
 
 void frmTable1::BuildQueryMenus(QMenuBar* bar)
 {
-    mnutableview = bar->addAction(QStringLiteral("Table View"));
+    mnutableview = bar->addAction(QStringLiteral("&Table View"));
     mnutableview->setObjectName(QStringLiteral("mnutableview"));
     connect(mnutableview, &QAction::triggered, this, &frmTable1::mnutableview_Click);
-    QMenu* mnuMonth = bar->addMenu(QStringLiteral("Months"));
+    QMenu* mnuMonth = bar->addMenu(QStringLiteral("&Months"));
     for (std::size_t k = 0; k < mnuMonths.size(); ++k) {
         // "January" to "December", as the browser writes month names.
         const auto name = FormatStored(
@@ -170,7 +172,7 @@ void frmTable1::BuildQueryMenus(QMenuBar* bar)
         mnuMonths[k] = mnuMonth->addAction(QString::fromStdString(name.value_or("")));
         connect(mnuMonths[k], &QAction::triggered, this, [this, k] { mnuMonths_Click(int(k)); });
     }
-    QMenu* mnuYear = bar->addMenu(QStringLiteral("Days"));
+    QMenu* mnuYear = bar->addMenu(QStringLiteral("&Days"));
     for (std::size_t k = 0; k < mnuYears.size(); ++k) {
         mnuYears[k] = mnuYear->addAction(QStringOf(DaySelections()[k].Caption));
         connect(mnuYears[k], &QAction::triggered, this, [this, k] { mnuYears_Click(int(k)); });
@@ -307,7 +309,7 @@ void frmTable1::ShowPicker(QComboBox* picker, QLineEdit* box)
     int row = 0, column = 0, rowSpan = 0, columnSpan = 0;
     QueryGrid->getItemPosition(QueryGrid->indexOf(box), &row, &column, &rowSpan, &columnSpan);
     picker->setGeometry(QueryGrid->cellRect(row, HintColumn).x(), box->y(),
-                        std::max(box->width(), PickerWidth), box->height());
+                        std::max(box->width(), picker->sizeHint().width()), box->height());
     picker->setCurrentIndex(std::max(0, picker->findText(box->text())));
     picker->raise();
 }

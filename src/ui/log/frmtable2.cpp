@@ -6,11 +6,16 @@
 #include "ui/common/databar.h"
 #include "ui/common/messageservice.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStandardItemModel>
+#include <QStyle>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -51,14 +56,13 @@ frmTable2::frmTable2(const LogContext& context, const QString& recordSource, QWi
     setWindowTitle(QStringLiteral("Quillmere DataBase"));
     setModal(true);
     auto* bar = new QMenuBar(this);
-    mnuExit = bar->addAction(QStringLiteral("Close"));
+    mnuExit = bar->addAction(QStringLiteral("&Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
     DBGrid1 = new QTableView(this);
     DBGrid1->setObjectName(QStringLiteral("DBGrid1"));
     DBGrid1->setEditTriggers(QAbstractItemView::NoEditTriggers);
     DBGrid1->setSelectionBehavior(QAbstractItemView::SelectRows);
     DBGrid1->setSelectionMode(QAbstractItemView::SingleSelection);
-    DBGrid1->verticalHeader()->setDefaultSectionSize(18);
     Rows = new QStandardItemModel(this);
     DBGrid1->setModel(Rows);
     Data1Bar = new DataBar(Data1, this);
@@ -128,8 +132,24 @@ void frmTable2::SetColumns()
             continue;
         Rows->setHeaderData(g.Position, Qt::Horizontal, QString::fromLatin1(g.Caption));
         DBGrid1->setColumnHidden(g.Position, false);
-        DBGrid1->setColumnWidth(g.Position, Twips(g.Width));
+        // The column's own width, or wider when its heading or values need it.
+        DBGrid1->resizeColumnToContents(g.Position);
+        DBGrid1->setColumnWidth(g.Position,
+                                std::max(Twips(g.Width), DBGrid1->columnWidth(g.Position)));
     }
+    FitWindowToColumns();
+}
+
+// Wide enough for every shown column, within the screen.
+void frmTable2::FitWindowToColumns()
+{
+    int width = DBGrid1->verticalHeader()->width() + 2 * DBGrid1->frameWidth() +
+                style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    for (const GridColumn& g : ShownColumns)
+        width += DBGrid1->isColumnHidden(g.Position) ? 0 : DBGrid1->columnWidth(g.Position);
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        width = std::min(width, screen->availableGeometry().width());
+    resize(std::max(width, this->width()), height());
 }
 
 void frmTable2::Data1_Reposition()

@@ -42,6 +42,7 @@ protected:
 private:
     void FillGrid();
     void SetColumns();
+    void FitWindowToColumns();
     void GridRowChanged(int row);
 
     LogContext Ctx;

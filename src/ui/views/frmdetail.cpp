@@ -1,8 +1,7 @@
 #include "ui/views/frmdetail.h"
 
-#include "pages/twips.h"
-
 #include <QApplication>
+#include <QGridLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -11,7 +10,7 @@
 #include <algorithm>
 
 namespace {
-constexpr int RowHeight = 19, CaptionWidth = 150, ValueWidth = 170, Margin = 8;
+constexpr int SectionGap = 8;
 
 // The rows of the window: a caption and the value label beside it, the Sun first.
 struct Row {
@@ -41,32 +40,39 @@ FrmDetail::FrmDetail(QWidget* parent) : QDialog(parent), Beep([] { QApplication:
 
 void FrmDetail::BuildControls()
 {
-    int y = Margin;
-    const auto valueLabel = [this](int index, const QRect& geometry) {
+    // Captions beside their values, the Sun's rows apart from the Moon's, the day's events
+    // under them; the window takes the size its rows need in its font.
+    auto* grid = new QGridLayout(this);
+    grid->setVerticalSpacing(1);
+    const QString widestValue = QStringLiteral("00:00 AM/00:00 PM");
+    int row = 0;
+    const auto valueLabel = [this, grid, &row, &widestValue](int index, int column, int span) {
         auto* label = new QLabel(this);
         label->setObjectName(QString("Label%1").arg(index));
-        label->setGeometry(geometry);
+        label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widestValue));
         label->setMouseTracking(true);
         label->installEventFilter(this);
         Label[std::size_t(index)] = label;
+        grid->addWidget(label, row, column, 1, span);
     };
     for (const Row& r : Rows) {
         auto* caption = new QLabel(QString::fromLatin1(r.Caption), this);
-        caption->setGeometry(Margin, y, CaptionWidth, RowHeight);
         caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        valueLabel(r.Value, {Margin + CaptionWidth + 10, y, ValueWidth, RowHeight});
-        // A gap between the Sun's rows and the Moon's.
-        y += RowHeight + (r.Value == 7 ? 8 : 0);
+        grid->addWidget(caption, row, 0);
+        valueLabel(r.Value, 1, 1);
+        ++row;
+        if (r.Value == 7) // a gap between the Sun's rows and the Moon's
+            grid->setRowMinimumHeight(row++, SectionGap);
     }
-    y += 8;
-    for (int i = 0; i < EventLabelCount; ++i, y += RowHeight)
-        valueLabel(FirstEventLabel + i, {Margin, y, CaptionWidth + 10 + ValueWidth, RowHeight});
+    grid->setRowMinimumHeight(row++, SectionGap);
+    for (int i = 0; i < EventLabelCount; ++i, ++row)
+        valueLabel(FirstEventLabel + i, 0, 2);
     for (QLabel* label : Label)
         if (label)
             label->setTextInteractionFlags(Qt::NoTextInteraction);
     CMDClose = new QPushButton(QStringLiteral("Close"), this);
-    CMDClose->setGeometry(Margin + CaptionWidth + 10 + ValueWidth - 80, y + 6, 80, 26);
-    setFixedSize(2 * Margin + CaptionWidth + 10 + ValueWidth, y + 6 + 26 + Margin);
+    grid->addWidget(CMDClose, row, 1, Qt::AlignRight);
+    grid->setSizeConstraint(QLayout::SetFixedSize);
     Timer1 = new QTimer(this);
     Timer1->setInterval(10000);
 }

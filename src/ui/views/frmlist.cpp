@@ -11,6 +11,7 @@
 
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,6 +19,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QShowEvent>
+#include <QStyle>
 #include <QVBoxLayout>
 
 FrmList::FrmList(Astronomy& engine, const Calendar& cal, std::string locationName, bool ampm,
@@ -26,24 +28,27 @@ FrmList::FrmList(Astronomy& engine, const Calendar& cal, std::string locationNam
       AmPm(ampm), Messages(messages), MainWindow(mainWindow)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    QFont times(QStringLiteral("Times New Roman"), 11);
+    // The columns in a fixed-pitch font at the window's size, so that every row's times line
+    // up whatever digits they hold; the month and year above them in bold.
+    QFont columns = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    columns.setPointSizeF(font().pointSizeF());
     for (auto& label : Label) {
         label = new QLabel(this);
-        label->setFont(times);
+        label->setFont(columns);
     }
-    QFont heading = times;
+    QFont heading = font();
     heading.setBold(true);
     Label[0]->setFont(heading);
     Label[1]->setFont(heading);
     Text1 = new QPlainTextEdit(this);
     Text1->setReadOnly(true);
-    Text1->setFont(times);
+    Text1->setFont(columns);
     Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
-    Command1 = Button(QStringLiteral("Close"), QStringLiteral("Command1"),
+    Command1 = Button(QStringLiteral("&Close"), QStringLiteral("Command1"),
                       QStringLiteral(" Close List Screen "), this);
-    Command2 = Button(QStringLiteral("ClipBoard"), QStringLiteral("Command2"),
+    Command2 = Button(QStringLiteral("Clip&Board"), QStringLiteral("Command2"),
                       QStringLiteral(" Copy text to clipboard "), this);
-    Command3 = Button(QStringLiteral("Print"), QStringLiteral("Command3"),
+    Command3 = Button(QStringLiteral("&Print"), QStringLiteral("Command3"),
                       QStringLiteral(" Print a Calendar "), this);
     auto* month = new QHBoxLayout;
     month->addWidget(Label[0]);
@@ -67,9 +72,15 @@ FrmList::FrmList(Astronomy& engine, const Calendar& cal, std::string locationNam
 
 void FrmList::Form_Load()
 {
-    // Wide enough for a line of the list, and most of the screen's height.
+    // Wide enough for the longest line of the list and its headings, and most of the
+    // screen's height.
+    constexpr int LongestLine = 90; // characters of a list line, its heading included
     const QRect screen = this->screen()->availableGeometry();
-    resize(std::min(screen.width(), 640), std::min(screen.height() * 9 / 10, 760));
+    const int line = Text1->fontMetrics().horizontalAdvance(QString(LongestLine, QLatin1Char('0')));
+    const int chrome = 2 * (Text1->frameWidth() + layout()->contentsMargins().left()) +
+                       style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
+                       2 * int(Text1->document()->documentMargin());
+    resize(std::min(screen.width(), line + chrome), std::min(screen.height() * 9 / 10, 760));
 }
 
 void FrmList::Form_Activate()

@@ -19,6 +19,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <tuple>
 
 namespace {
@@ -221,6 +222,30 @@ TEST(FrmLocation, TypedDegreesAndNamesAreStoredOrRefusedWithTheEditorsMessage)
         EXPECT_DOUBLE_EQ(stored.Longitude, c.Stored.Longitude) << where;
         EXPECT_DOUBLE_EQ(stored.Latitude, c.Stored.Latitude) << where;
     }
+}
+
+// The upper arrow of a degree bar and the Up key raise the number in its box, the lower arrow
+// and Down lower it; typing 147 in the box gives 147 at once.
+TEST(FrmLocation, UpperArrowRaisesTheDegrees)
+{
+    Editor e(cityfolder::Make("loc-arrows"), {"Cairns, QLD", -145.77, -16.92, -10});
+    QScrollBar* bar = e.W->VsbDegLon;
+    const QPoint upper(bar->width() / 2, 2), lower(bar->width() / 2, bar->height() - 3);
+    const struct {
+        std::function<void()> Act;
+        const char* Shown;
+    } steps[] = {{[&] { QTest::mouseClick(bar, Qt::LeftButton, {}, upper); }, "146"},
+                 {[&] { QTest::mouseClick(bar, Qt::LeftButton, {}, upper); }, "147"},
+                 {[&] { QTest::mouseClick(bar, Qt::LeftButton, {}, lower); }, "146"},
+                 {[&] { QTest::keyClick(bar, Qt::Key_Up); }, "147"},
+                 {[&] { QTest::keyClick(bar, Qt::Key_Down); }, "146"}};
+    for (const auto& step : steps) {
+        step.Act();
+        EXPECT_EQ(e.Text(0), step.Shown);
+    }
+    EXPECT_TRUE(e.W->SSOption[1]->isChecked()); // still east
+    e.W->CloseLocation->click();
+    EXPECT_DOUBLE_EQ(e.Locations[3].Longitude, -146.77);
 }
 
 TEST(FrmLocation, Screenshot)

@@ -136,7 +136,7 @@ TEST(FrmStatistics, OpensFromTheBrowserWithSummaryChartsAndACopyableTable)
     browser.Data1.SetDatabaseName(path);
     QAction* statistics = nullptr;
     for (QAction* a : browser.findChild<QMenuBar*>()->actions())
-        if (a->text() == "Statistics")
+        if (a->text() == "&Statistics")
             statistics = a;
     ASSERT_NE(statistics, nullptr);
     QString shownTitle;

@@ -207,12 +207,20 @@ TEST(QueryBuilderWindow, EmptySelectionShowsAnEmptyBrowser)
     EXPECT_EQ(w->Data1.RecordCount(), 0);
     EXPECT_EQ(w->Data1Bar->Caption(), "Record: 0 of 0 Record(s)");
     EXPECT_EQ(w->txtFields[0]->text(), "");
+    // Nothing of the last day stays on show, and there is no record to edit.
+    for (const QString& shown : {w->Label3->text(), w->Label7->text(), w->FakeTextBox[0]->text(),
+                                 w->txtFields[7]->text(), w->Text5->text()})
+        EXPECT_EQ(shown, "");
+    EXPECT_FALSE(w->WholeFish->isVisibleTo(&*w) || w->QuarterFish->isVisibleTo(&*w));
+    EXPECT_FALSE(w->cmdEdit->isEnabled());
     EXPECT_TRUE(w.Env.Messages.Shown().empty());
 
     // All Records brings back the year and makes Table3 whole again.
     w->Command1_Click();
     EXPECT_EQ(w->Data1.RecordCount(), 366);
     EXPECT_EQ(CountRows(SharedYear(), "table3"), 366);
+    EXPECT_TRUE(w->cmdEdit->isEnabled());
+    EXPECT_FALSE(w->Label3->text().isEmpty());
 }
 
 TEST(QueryBuilderWindow, MonthsAndDaysMenus)

@@ -1,0 +1,191 @@
+// Every window of the program, opened as the program opens it, at 96 and 144 dpi: no label,
+// button, box, menu, column heading or cell shows less than its whole text, and no child lies
+// outside its window. Each window's picture goes to the screenshots folder.
+#include "app/startup.h"
+#include "platform/singleinstance.h"
+#include "support/cityfolder.h"
+#include "support/filledyear.h"
+#include "support/layoutcheck.h"
+#include "support/testenv.h"
+#include "ui/calendar/frmcalendar.h"
+#include "ui/common/appstate.h"
+#include "ui/locations/editdb.h"
+#include "ui/log/frmbackups.h"
+#include "ui/log/frmreport.h"
+#include "ui/log/frmselectdb.h"
+#include "ui/log/frmstatistics.h"
+#include "ui/log/frmtable1.h"
+#include "ui/log/frmtable2.h"
+#include "ui/log/logwindowenv.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QScreen>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <iostream>
+#include <set>
+
+namespace {
+
+using Opener = std::function<void()>;
+
+std::set<QWidget*> ShownWindows()
+{
+    std::set<QWidget*> shown;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->isVisible())
+            shown.insert(w);
+    return shown;
+}
+
+// The faults of the window the opener brings up (modal or not), then closes it unless it is
+// the main window, which stays for the windows it opens.
+QStringList FaultsOfWindowOpenedBy(const Opener& open, const QString& shot, const QWidget* main)
+{
+    const std::set<QWidget*> before = ShownWindows();
+    QStringList faults;
+    bool checked = false;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        for (QWidget* w : ShownWindows()) {
+            if (before.count(w) != 0 || checked)
+                continue;
+            checked = true;
+            poll.stop();
+            faults = layoutcheck::ClippedItems(*w);
+            logtest::Screenshot(*w, shot);
+            if (w != main)
+                w->close();
+        }
+    });
+    poll.start(0);
+    open();
+    for (int spins = 0; !checked && spins < 100; ++spins)
+        QApplication::processEvents();
+    if (!checked)
+        faults << QStringLiteral("no new window opened");
+    return faults;
+}
+
+struct Window {
+    const char* Name;
+    std::function<Opener(struct Program&)> Open;
+    int KnownClippedFrom; // dpi from which the window is known to clip until its rework lands
+};
+
+// The program at its first start with a filled year of the log and the main window shown.
+struct Program {
+    AppState App;
+    SingleInstance Instance{QStringLiteral("everywindow-test")};
+    std::unique_ptr<FrmCalendar> Main;
+    logtest::LogWindowEnv Log{testenv::FreshDir("everywindow-log")};
+    QString YearFile = logtest::MakeFilledYearFile("everywindow-year");
+    std::vector<std::unique_ptr<QWidget>> Opened;
+
+    Program()
+    {
+        qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
+        App.Messages.Script([](const ShownMessage&) { return MsgResult::OK; });
+        EXPECT_EQ(StartUp(App, true, Instance), StartOutcome::Run);
+        Main = std::make_unique<FrmCalendar>(App);
+        Log.State.DBPath = YearFile;
+    }
+    // A log window made over the filled year and shown.
+    template <typename W, typename... Args> Opener Show(Args&&... args)
+    {
+        return [this, args...] {
+            Opened.push_back(std::make_unique<W>(Log.Context(), args...));
+            Opened.back()->show();
+        };
+    }
+    // The record browser on the filled year with its first record current.
+    Opener Browser()
+    {
+        return [this] {
+            auto browser = std::make_unique<frmTable1>(Log.Context());
+            browser->show();
+            browser->Form_Activate();
+            Opened.push_back(std::move(browser));
+        };
+    }
+};
+
+const QString AllDays = QStringLiteral("select * from table1 order by juliandate");
+
+// KnownClippedFrom marks a window whose rework is on another branch (the developer named) or
+// still to come: 0 when the window must be whole at both sizes.
+const std::vector<Window> Windows = {
+    {"main", [](Program& p) -> Opener { return [&p] { p.Main->show(); }; }, 96}, // ui27main
+    {"yearcalendar", [](Program& p) -> Opener { return [&p] { p.Main->mnuyearly_Click(); }; },
+     96}, // ui27main
+    {"daygraph", [](Program& p) -> Opener { return [&p] { p.Main->ShowDayGraph(); }; },
+     96}, // ui27main
+    {"printpreview", [](Program& p) -> Opener { return [&p] { p.Main->PrintCalendar_Click(); }; },
+     0},
+    {"glance", [](Program& p) -> Opener { return [&p] { p.Main->AtAGlance_Click(); }; }, 0},
+    {"help", [](Program& p) -> Opener { return [&p] { p.Main->HelpContents_Click(); }; }, 0},
+    {"about", [](Program& p) -> Opener { return [&p] { p.Main->MnuAbout_Click(); }; }, 0},
+    {"detail", [](Program& p) -> Opener { return [&p] { p.Main->txtpic_DblClick(10); }; }, 0},
+    {"table", [](Program& p) -> Opener { return [&p] { p.Main->ShowList_Click(); }; }, 0},
+    {"databasefunctions", [](Program& p) { return p.Show<FrmSelectDB>(); }, 0},
+    {"recordbrowser", [](Program& p) { return p.Browser(); }, 0},
+    {"grid", [](Program& p) { return p.Show<frmTable2>(AllDays); }, 0},
+    {"report", [](Program& p) { return p.Show<frmReport>(AllDays, true); }, 0},
+    // At 144 dpi the six tabs need 927 px, more than the test's 800 px screen.
+    {"statistics", [](Program& p) { return p.Show<FrmStatistics>(p.YearFile); }, 144},
+    {"backups", [](Program& p) { return p.Show<FrmBackups>(p.YearFile); }, 0},
+    {"locationeditor", [](Program& p) -> Opener { return [&p] { p.Main->Loc_Click(1); }; }, 0},
+    {"cityeditor",
+     [](Program& p) -> Opener {
+         return [&p] {
+             p.Opened.push_back(
+                 std::make_unique<EditDB>(p.App.Messages, cityfolder::Make("everywindow-cities")));
+             p.Opened.back()->show();
+         };
+     },
+     0},
+};
+
+// The screenshots of a dark or enlarged run (QUILLMERE_TEST_DARK, a larger offscreen screen)
+// are kept apart from the plain ones.
+QString Look()
+{
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    QString look =
+        qEnvironmentVariableIsSet("QUILLMERE_TEST_DARK") ? QStringLiteral("_dark") : QString();
+    return screen == QSize(800, 800)
+               ? look
+               : look + QStringLiteral("_%1x%2").arg(screen.width()).arg(screen.height());
+}
+
+class EveryWindow : public ::testing::TestWithParam<int> {};
+
+TEST_P(EveryWindow, ShowsEveryTextWholeAndEveryChildInside)
+{
+    const QFont base = QApplication::font();
+    QApplication::setFont(layoutcheck::FontAtDpi(base, GetParam()));
+    Program program;
+    for (const Window& window : Windows) {
+        const QString shot =
+            QStringLiteral("everywindow_%1_%2dpi%3").arg(window.Name).arg(GetParam()).arg(Look());
+        const QStringList faults =
+            FaultsOfWindowOpenedBy(window.Open(program), shot, program.Main.get());
+        const bool known = window.KnownClippedFrom != 0 && GetParam() >= window.KnownClippedFrom;
+        if (known) {
+            std::cout << window.Name << " at " << GetParam() << " dpi, known to clip:\n  "
+                      << faults.join(QStringLiteral("\n  ")).toStdString() << '\n';
+            EXPECT_FALSE(faults.isEmpty()) << window.Name << " is whole now: clear its known mark";
+        } else
+            EXPECT_TRUE(faults.isEmpty()) << window.Name << " at " << GetParam() << " dpi:\n  "
+                                          << faults.join(QStringLiteral("\n  ")).toStdString();
+    }
+    QApplication::setFont(base);
+}
+
+INSTANTIATE_TEST_SUITE_P(Dpi, EveryWindow, ::testing::Values(96, 144));
+
+} // namespace
