@@ -52,7 +52,7 @@
 namespace {
 constexpr int FormHeightTwips = 6390;
 constexpr int FormWidthTwips = 10200;
-constexpr int CellGap = 1, DaysPerWeek = 7, GridRows = 6, HeadingPoints = 13;
+constexpr int CellGap = 1, DaysPerWeek = 7, GridRows = 6, HeadingPoints = 13, ColumnGap = 4;
 constexpr int GridStretch = 3, PanelStretch = 2; // how the width grows between them
 constexpr int MoonSmallest = 80;                 // the moon picture's least side, pixels
 
@@ -96,6 +96,15 @@ QPoint BesideCell(const QWidget* cell, QSize window)
 class WeekdayHeader : public QLabel {
 public:
     using QLabel::QLabel;
+    // Room for the names in equal columns, not for the spaced text.
+    QSize minimumSizeHint() const override
+    {
+        int widest = 0;
+        for (const QString& name : text().split(QLatin1Char(' '), Qt::SkipEmptyParts))
+            widest = std::max(widest, fontMetrics().horizontalAdvance(name));
+        return {DaysPerWeek * (widest + ColumnGap), fontMetrics().height()};
+    }
+    QSize sizeHint() const override { return minimumSizeHint(); }
 
 protected:
     void paintEvent(QPaintEvent*) override
@@ -413,7 +422,7 @@ void FrmCalendar::BuildStatusBar()
 void FrmCalendar::Form_Load()
 {
     const int top = Twips(Q(App.Config.FormTop).toDouble());
-    resize(QSize(Twips(FormWidthTwips), Twips(FormHeightTwips)).expandedTo(sizeHint()));
+    resize(QSize(Twips(FormWidthTwips), Twips(FormHeightTwips)).expandedTo(minimumSizeHint()));
     move(Twips(App.Config.FormLeft), top);
     ComputingSuppressed = true;
     for (int phase = 1; phase <= 4; ++phase)

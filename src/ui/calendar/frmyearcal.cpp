@@ -18,42 +18,40 @@
 namespace {
 constexpr int BlanksPerColumn = 5, DaysPerWeek = 7, WeekRows = 6, ColumnPadding = 6;
 
-// A label whose text is a row of day numbers (a weekday header, or a month's days with five
-// blanks per weekday before the 1st) and which paints it in seven columns, wrapping into week
-// rows, sized by its font.
-class WeekColumns : public QLabel {
-public:
-    WeekColumns(int rows, QWidget* parent) : QLabel(parent), Rows(rows) {}
-    QSize sizeHint() const override { return {DaysPerWeek * ColumnWidth(), Rows * RowHeight()}; }
-    QSize minimumSizeHint() const override { return sizeHint(); }
+} // namespace
 
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter p(this);
-        p.setPen(palette().color(QPalette::WindowText));
-        const QString t = text();
-        const auto lead = std::find_if(t.begin(), t.end(), [](QChar c) { return c != ' '; });
-        int column = int(lead - t.begin()) / BlanksPerColumn, row = 0;
-        const int w = width() / DaysPerWeek, h = RowHeight();
-        for (const QString& word : t.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-            p.drawText(QRect(column * w, row * h, w, h), Qt::AlignCenter, word);
-            if (++column == 7) {
-                column = 0;
-                ++row;
-            }
+WeekColumns::WeekColumns(int rows, QWidget* parent) : QWidget(parent), Rows(rows) {}
+
+void WeekColumns::setText(const QString& text)
+{
+    Shown = text;
+    update();
+}
+
+QSize WeekColumns::sizeHint() const { return {DaysPerWeek * ColumnWidth(), Rows * RowHeight()}; }
+
+int WeekColumns::ColumnWidth() const
+{
+    return fontMetrics().horizontalAdvance(QStringLiteral("88")) + ColumnPadding;
+}
+
+int WeekColumns::RowHeight() const { return fontMetrics().height(); }
+
+void WeekColumns::paintEvent(QPaintEvent*)
+{
+    QPainter p(this);
+    p.setPen(palette().color(QPalette::WindowText));
+    const auto lead = std::find_if(Shown.begin(), Shown.end(), [](QChar c) { return c != ' '; });
+    int column = int(lead - Shown.begin()) / BlanksPerColumn, row = 0;
+    const int w = width() / DaysPerWeek, h = RowHeight();
+    for (const QString& word : Shown.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        p.drawText(QRect(column * w, row * h, w, h), Qt::AlignCenter, word);
+        if (++column == DaysPerWeek) {
+            column = 0;
+            ++row;
         }
     }
-
-private:
-    int ColumnWidth() const
-    {
-        return fontMetrics().horizontalAdvance(QStringLiteral("88")) + ColumnPadding;
-    }
-    int RowHeight() const { return fontMetrics().height(); }
-    int Rows;
-};
-} // namespace
+}
 
 FrmYearCal::FrmYearCal(MainWindow main, QWidget* parent) : QDialog(parent), Main(std::move(main))
 {

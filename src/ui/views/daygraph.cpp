@@ -19,7 +19,9 @@
 namespace {
 constexpr std::uint32_t Night = 0x400000, SunYellow = 65535, MoonWhite = 0xFFFFFF;
 constexpr std::uint32_t StripBack = 0x603010, TickRed = 0x0000FF;
-constexpr int LineWidth = 728, StripWidth = 520, StripHeight = 28; // least sizes, pixels
+constexpr int LineWidth = 560, StripWidth = 360, StripHeight = 28; // least sizes, pixels
+constexpr int DesignLineWidth = 728;                               // its width at 96 dpi
+constexpr int LegendPerRow = 4;
 
 QString DegreesText(double degrees) { return Q(VbFormat(degrees, "##0.0")) + QChar(0x00B0); }
 
@@ -210,6 +212,7 @@ void DayGraph::BuildControls()
     layout->addLayout(BuildLegend());
     PicTi = new DayTimeLine(this);
     PicTi->setMinimumWidth(LineWidth);
+    resize(DesignLineWidth + 2 * layout->contentsMargins().left(), 0);
     PicTi->setFixedHeight(DayTimeLine::BandHeight + fontMetrics().height() + 4);
     layout->addWidget(PicTi);
     QFont bold = font();
@@ -268,7 +271,7 @@ QLayout* DayGraph::BuildSky()
     return grid;
 }
 
-// Colour swatches and their names in one row above the line.
+// Colour swatches and their names in two rows above the line.
 QLayout* DayGraph::BuildLegend()
 {
     struct Entry {
@@ -282,7 +285,7 @@ QLayout* DayGraph::BuildLegend()
                                                       {0x0000FF, "Major Times"},
                                                       {0x80FF80, "Minor Times"},
                                                       {0xFFFFFF, "Moon"}}};
-    auto* row = new QHBoxLayout;
+    auto* grid = new QGridLayout;
     const int side = fontMetrics().height() - 2;
     for (std::size_t i = 0; i < entries.size(); ++i) {
         QLabel* swatch = MakeLabel(int(14 + 2 * i), {});
@@ -292,12 +295,13 @@ QLayout* DayGraph::BuildLegend()
         QPalette palette = swatch->palette();
         palette.setColor(QPalette::Window, VbColor(entries[i].Colour));
         swatch->setPalette(palette);
-        row->addWidget(swatch);
-        row->addWidget(MakeLabel(int(15 + 2 * i), QString::fromLatin1(entries[i].Name)));
-        row->addSpacing(side);
+        const int row = int(i) / LegendPerRow, column = 2 * (int(i) % LegendPerRow);
+        grid->addWidget(swatch, row, column);
+        grid->addWidget(MakeLabel(int(15 + 2 * i), QString::fromLatin1(entries[i].Name)), row,
+                        column + 1);
     }
-    row->addStretch();
-    return row;
+    grid->setColumnStretch(2 * LegendPerRow, 1);
+    return grid;
 }
 
 void DayGraph::Form_Load()
