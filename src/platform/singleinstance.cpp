@@ -27,7 +27,7 @@ SingleInstance::~SingleInstance() = default;
 
 bool SingleInstance::Acquire() { return Lock->tryLock(0); }
 
-void SingleInstance::Listen(std::function<void()> raise)
+void SingleInstance::Listen(const std::function<void()>& raise)
 {
     Server = new QLocalServer(this);
     Server->setSocketOptions(QLocalServer::UserAccessOption);

@@ -20,7 +20,7 @@ public:
     // True when this process holds the lock; false when another copy runs.
     bool Acquire();
     // Once the lock is held: calls raise whenever a second start asks.
-    void Listen(std::function<void()> raise);
+    void Listen(const std::function<void()>& raise);
     // From a second start: asks the running copy to come to the front; true when it was told.
     bool AskToRaise() const;
 
