@@ -27,7 +27,7 @@ void BM_MonthChange(benchmark::State& state)
     cal.CurYear = 2024;
     for (auto _ : state) {
         cal.CurMonth = std::int16_t(cal.CurMonth % 12 + 1);
-        cal.ComputePrevMonthDays(engine, 0);
+        cal.ComputePrevMonthDays();
         benchmark::DoNotOptimize(cal.DrawMonth(engine, 0, 2026, 11, 23));
     }
 }

@@ -25,8 +25,9 @@ LAYERS = [
     (["db"], {"QtCore", "QtSql"}),
     (["logdb"], {"QtCore", "QtSql"}),
     (["pages"], {"QtCore", "QtSql", "QtGui"}),
-    # The desktop's notification service is reached over D-Bus from here only.
-    (["platform"], {"QtCore", "QtGui", "QtDBus"}),
+    # QtDBus: the desktop's notification service; QtNetwork: the local channel on which a second
+    # start reaches the running copy.
+    (["platform"], {"QtCore", "QtGui", "QtDBus", "QtNetwork"}),
     (["ui/common"], {"QtCore", "QtSql", "QtGui", "QtWidgets", "QtPrintSupport"}),
     (["ui/views", "ui/log", "ui/locations"],
      {"QtCore", "QtSql", "QtGui", "QtWidgets", "QtPrintSupport", "QtCharts"}),

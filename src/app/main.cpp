@@ -29,6 +29,7 @@ int main(int argc, char** argv)
         return AnswerStartRequest(request, std::cout, std::cerr);
     QApplication::setApplicationName(QStringLiteral("Quillmere"));
     InstallTranslations(qapp);
+    ApplyRequestedPalette();
     // The desktop matches the windows to the installed launcher and its icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.quillmere.Quillmere"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("io.github.quillmere.Quillmere")));
@@ -52,6 +53,12 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&window, &FrmCalendar::Closed, &tray, &ReminderTray::WindowClosed);
     QObject::connect(&window, &FrmCalendar::RemindersChanged, &tray, &ReminderTray::Refresh);
+    instance.Listen([&window] {
+        window.showNormal();
+        window.raise();
+        window.activateWindow();
+    });
+    ReportFirstPaint(window);
     window.show();
     return QApplication::exec();
 }

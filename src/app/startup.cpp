@@ -10,9 +10,35 @@
 #include "text/version.h"
 #include "ui/common/appstate.h"
 
+#include <QApplication>
+#include <QEvent>
+#include <QLoggingCategory>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QWidget>
+
 #include <cstdio>
 
 namespace {
+
+Q_LOGGING_CATEGORY(StartupLog, "quillmere.startup", QtWarningMsg)
+
+// Watches the window for its first paint, says so, and goes.
+class FirstPaintWatch : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            qCInfo(StartupLog) << "first paint";
+            watched->removeEventFilter(this);
+            deleteLater();
+        }
+        return false;
+    }
+};
 
 const char* const UsageLine = "Usage: quillmere [--reset | --help | --version]";
 
@@ -109,8 +135,10 @@ StartOutcome StartUp(AppState& app, bool reset, SingleInstance& instance)
     Settings& s = app.Config;
     s.DaylightBias = SystemDaylightBias();
     if (!instance.Acquire()) {
-        app.Messages.MsgBox(QStringLiteral("Program Already Running!"), MsgButtons::OK,
-                            QStringLiteral("Error Loading"));
+        // The running copy comes to the front; only one that cannot be reached is reported.
+        if (!instance.AskToRaise())
+            app.Messages.MsgBox(QStringLiteral("Program Already Running!"), MsgButtons::OK,
+                                QStringLiteral("Error Loading"));
         return StartOutcome::AlreadyRunning;
     }
     if (reset)
@@ -142,4 +170,35 @@ StartOutcome StartUp(AppState& app, bool reset, SingleInstance& instance)
     else
         CleanLeftovers(folder); // what a crash of a create or compaction left behind
     return StartOutcome::Run;
+}
+
+void ReportFirstPaint(QWidget& window)
+{
+    if (StartupLog().isInfoEnabled())
+        window.installEventFilter(new FirstPaintWatch(&window));
+}
+
+void ApplyRequestedPalette()
+{
+    if (qEnvironmentVariable("QUILLMERE_PALETTE") != QStringLiteral("dark"))
+        return;
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QColor window(53, 53, 53), base(42, 42, 42), accent(42, 130, 218);
+    QPalette p;
+    p.setColor(QPalette::Window, window);
+    p.setColor(QPalette::WindowText, Qt::white);
+    p.setColor(QPalette::Base, base);
+    p.setColor(QPalette::AlternateBase, window.lighter(125));
+    p.setColor(QPalette::ToolTipBase, window);
+    p.setColor(QPalette::ToolTipText, Qt::white);
+    p.setColor(QPalette::Text, Qt::white);
+    p.setColor(QPalette::Button, window);
+    p.setColor(QPalette::ButtonText, Qt::white);
+    p.setColor(QPalette::BrightText, Qt::red);
+    p.setColor(QPalette::Link, accent);
+    p.setColor(QPalette::Highlight, accent);
+    p.setColor(QPalette::HighlightedText, Qt::black);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, Qt::gray);
+    QApplication::setPalette(p);
 }

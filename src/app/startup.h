@@ -28,3 +28,13 @@ enum class StartOutcome { Run, AlreadyRunning, BadSetting };
 // `reset` (--reset) puts the defaults in place of the stored settings, which are kept
 // beside them as Quillmere.ini.bak.
 StartOutcome StartUp(AppState& app, bool reset, SingleInstance& instance);
+
+// QUILLMERE_PALETTE=dark: the Fusion style with a dark palette, whatever the desktop's theme
+// (to see and check the windows on a dark desktop).
+void ApplyRequestedPalette();
+
+class QWidget;
+// Logs "first paint" (category quillmere.startup, info: off unless QT_LOGGING_RULES turns it
+// on) when the window is first painted, so that the time from start to a window on the screen
+// can be measured from outside.
+void ReportFirstPaint(QWidget& window);

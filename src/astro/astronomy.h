@@ -105,6 +105,7 @@ public:
 
     // ---- the day forecast ----
     DayForecast Forecast;
+    int DaysComputed = 0; // ComputeDay calls so far: the windows' speed is measured by it
     // The Sun's events, texts, day length and sky position for the day at 0h jd.
     void ComputeSunDay(double jd);
     // The Moon's events, the majors and minors, phase and sky position for the day at 0h jd.

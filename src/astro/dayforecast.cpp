@@ -33,6 +33,7 @@ void Astronomy::ComputeSunDay(double jd)
 
 void Astronomy::ComputeDay(double jd)
 {
+    ++DaysComputed;
     DayForecast& f = Forecast;
     MoonEventsForDay(jd);
     double T = MoonTransitHour;

@@ -8,7 +8,7 @@
 const std::array<const char*, 8> DayNames = {"",          "Sunday",   "Monday", "Tuesday",
                                              "Wednesday", "Thursday", "Friday", "Saturday"};
 const std::array<const char*, 13> MonthNames = {
-    "",     "January", "Febuary",   "March",   "April",    "May",     "June",
+    "",     "January", "February",  "March",   "April",    "May",     "June",
     "July", "August",  "September", "October", "November", "December"};
 const std::array<const char*, 5> PhaseNames = {"", "New Moon", "First Quarter", "Full Moon",
                                                "Last Quarter"};
@@ -50,6 +50,14 @@ std::int16_t Calendar::DaysInMonth(int month)
         std::stoi(MonthDaysTable.substr(std::size_t(2 * month - 1), 2)));
 }
 
+Calendar::YearKey Calendar::KeyOf(const Astronomy& engine, std::int16_t southernHemisphere) const
+{
+    const Observer& o = engine.Site;
+    return {CurYear,     southernHemisphere, o.CurLongitude,        o.CurLatitude, o.CurTimeZone,
+            o.ZoneDays,  o.DstOffsetDays,    o.TwilightsInClockDay, o.TimeFormats, o.AMPM,
+            o.Clock.Name};
+}
+
 void Calendar::SetYearTables(Astronomy& engine, std::int16_t southernHemisphere)
 {
     LeapYear();
@@ -57,14 +65,20 @@ void Calendar::SetYearTables(Astronomy& engine, std::int16_t southernHemisphere)
     FirstWeekday = static_cast<std::int16_t>(WeekdayOf(CurYear, CurMonth, 1) - 1);
     YearSlots = LeapFlag ? 367 : 366;
     const std::string& starts = LeapFlag ? LeapStarts : CommonStarts;
-    YearDays.assign(std::size_t(YearSlots) + 2, DayMarks{});
     YearStartJD = CivilToJd(CurYear, 1, 1);
     for (std::size_t m = 1; m <= 12; ++m) {
         MonthStartDoy[m] = static_cast<std::int16_t>(std::stoi(starts.substr(3 * m - 1, 3)));
         MonthStartJD[m] = YearStartJD + MonthStartDoy[m] - 1;
     }
+    // The year's events and holidays stand while the year, the place and its clock do.
+    YearKey key = KeyOf(engine, southernHemisphere);
+    if (key == BuiltFor && !YearDays.empty())
+        return;
+    ++YearTableBuilds;
+    YearDays.assign(std::size_t(YearSlots) + 2, DayMarks{});
     SetYearEvents(*this, engine, southernHemisphere);
     SetHolidays(*this, engine.Site.Clock);
+    BuiltFor = std::move(key);
 }
 
 bool Calendar::StepMonth(int step)
@@ -82,12 +96,11 @@ bool Calendar::StepMonth(int step)
     return true;
 }
 
-void Calendar::ComputePrevMonthDays(Astronomy& engine, std::int16_t southernHemisphere)
+void Calendar::ComputePrevMonthDays()
 {
     const std::int16_t month = CurMonth, year = CurYear;
     StepMonth(-1);
-    SetYearTables(engine, southernHemisphere);
-    PrevMonthDays = MonthDays;
+    PrevMonthDays = std::int16_t(DaysInMonth(CurMonth) + (CurMonth == 2 && IsLeapYear(CurYear)));
     CurMonth = month;
     CurYear = year;
 }

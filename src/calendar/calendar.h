@@ -77,21 +77,40 @@ public:
     std::vector<DayMarks> YearDays; // 0..YearSlots + 1, indexed by day of year
     std::int16_t DstStartDay = 0, DstEndDay = 0;
     double DstStartJD = 0.0, DstEndJD = 0.0;
+    int YearTableBuilds = 0; // how often the year's events were built: the windows' speed
+                             // is measured by it
 
     void LeapYear();
     // Moves CurMonth one month on (+1) or back (-1); true when that changes CurYear.
     bool StepMonth(int step);
     static std::int16_t DaysInMonth(int month); // February 28
     // Recomputes the tables for CurMonth/CurYear, then the year's events (with the engine at
-    // its observer), the ratings for the hemisphere (-1 south) and the holidays.
+    // its observer), the ratings for the hemisphere (-1 south) and the holidays, unless they
+    // were last built for the same year, hemisphere, place and clock.
     void SetYearTables(Astronomy& engine, std::int16_t southernHemisphere);
-    // Sets PrevMonthDays from the month before (leaves the tables at that month's year).
-    void ComputePrevMonthDays(Astronomy& engine, std::int16_t southernHemisphere);
+    // Sets PrevMonthDays from the month before; the tables stay as they are.
+    void ComputePrevMonthDays();
     // The 37 cells of the shown month; frames today when the shown month is the clock's,
     // else day 1 (TodayCell, SelCell).
     std::array<DayCell, MonthGridCells> DrawMonth(Astronomy& engine,
                                                   std::int16_t southernHemisphere, int todayYear,
                                                   int todayMonth, int todayDay);
+
+private:
+    // What the year's events and holidays were built for.
+    struct YearKey {
+        int Year = 0, Southern = 0;
+        double Longitude = 0, Latitude = 0;
+        int Zone = 0;
+        double ZoneDays = 0, DstOffsetDays = 0;
+        bool TwilightsInClockDay = false;
+        int TimeFormats = 0;
+        bool AmPm = true;
+        std::string Clock;
+        bool operator==(const YearKey&) const = default;
+    };
+    YearKey KeyOf(const Astronomy& engine, std::int16_t southernHemisphere) const;
+    YearKey BuiltFor;
 };
 
 bool IsLeapYear(int year);

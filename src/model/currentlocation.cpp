@@ -30,7 +30,6 @@ void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site, cons
         const bool dst = s.TimeFormats == DaylightSavingsMode;
         site.DstOffsetDays = dst ? MinutesToDays(s.DaylightBias) : 0.0;
         mode = dst ? "DST" : site.Clock.Empty() ? "STD" : "LOCAL";
-        s.AMPM = "True";
     }
     site.TimeFormats = s.TimeFormats;
     site.AMPM = s.AmPm();

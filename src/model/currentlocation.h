@@ -15,7 +15,8 @@ struct CurrentLocation {
 };
 
 // The computing steps of applying the current location: the engine's working values, the
-// hemisphere, the daylight-saving offset (by TimeFormats) and the caption. Sets AMPM. Under
+// hemisphere, the daylight-saving offset (by TimeFormats) and the caption; the engine follows
+// the chosen clock (AMPM: 12 or 24 hours). Under
 // "Local Clock" the engine follows clock, the offsets of the location's zone; a location
 // without a zone (clock empty) keeps its whole-hour zone in standard time.
 void ApplyLocationValues(Settings& s, CurrentLocation& cur, Observer& site,

@@ -6,8 +6,11 @@
 #include "pages/pages.h"
 #include "pages/stockpictures.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QStringList>
+
+#include <array>
 
 const char* const CalendarPageHeader =
     "        Sun               Mon               Tue              Wed                Thu       "
@@ -86,6 +89,31 @@ CalendarPage CalendarPageOf(Astronomy& engine, const Calendar& cal, std::int16_t
     return page;
 }
 
+// The fish of ratings 4 down to 1 with their words, right-aligned within the line.
+void DrawRatingLegend(QPainter& p, const QRectF& line)
+{
+    static constexpr std::array<const char*, 4> Words = {"Best", "V.Good", "Good", "Fair"};
+    constexpr double LegendFishWidth = 450, LegendFishHeight = 190, Space = 80;
+    p.setFont(TwipsFont(PageFont, 9, false));
+    const QFontMetricsF metrics(p.font());
+    double width = 0;
+    for (const char* word : Words)
+        width +=
+            LegendFishWidth + Space + metrics.horizontalAdvance(QLatin1String(word)) + 2 * Space;
+    double x = line.right() - width;
+    for (std::size_t k = 0; k < Words.size(); ++k) {
+        PaintFish(
+            p,
+            QRectF(x, line.center().y() - LegendFishHeight / 2, LegendFishWidth, LegendFishHeight),
+            int(Words.size() - k));
+        x += LegendFishWidth + Space;
+        const QString word = QLatin1String(Words[k]);
+        p.drawText(QRectF(x, line.top(), metrics.horizontalAdvance(word) + Space, line.height()),
+                   Qt::AlignLeft | Qt::AlignVCenter, word);
+        x += metrics.horizontalAdvance(word) + 2 * Space;
+    }
+}
+
 void DrawCalendarPage(QPainter& p, const CalendarPage& page)
 {
     p.save();
@@ -95,10 +123,14 @@ void DrawCalendarPage(QPainter& p, const CalendarPage& page)
     for (const CalendarPageBox& b : page.Boxes)
         DrawBox(p, b);
     p.setPen(Qt::black);
+    const QRectF foot(0, CalendarHeaderHeight + 6 * CalendarBoxHeight + 100,
+                      CalendarPageTwips.width(), 500);
     p.setFont(TwipsFont(PageFont, 16, true));
-    p.drawText(QRectF(0, CalendarHeaderHeight + 6 * CalendarBoxHeight + 100,
-                      CalendarPageTwips.width(), 500),
-               Qt::AlignHCenter | Qt::AlignVCenter, Q(page.Title));
+    p.drawText(foot, Qt::AlignHCenter | Qt::AlignVCenter, Q(page.Title));
+    const QRectF under(0, foot.bottom(), foot.width(), CalendarLegendHeight);
+    p.setFont(TwipsFont(PageFont, 10, false));
+    p.drawText(under, Qt::AlignLeft | Qt::AlignVCenter, Q(page.Place));
+    DrawRatingLegend(p, under);
     p.restore();
 }
 

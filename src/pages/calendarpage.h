@@ -27,6 +27,7 @@ struct CalendarPageBox {
 
 struct CalendarPage {
     std::string Title; // "February   2024"
+    std::string Place; // the location's name, printed beside the title
     int Rows = 0;
     std::vector<CalendarPageBox> Boxes;
 };
@@ -35,10 +36,11 @@ struct CalendarPage {
 extern const char* const CalendarPageHeader;
 // Box size and the header's height, in twips.
 constexpr int CalendarBoxWidth = 1325, CalendarBoxHeight = 1000, CalendarHeaderHeight = 450;
-// The page's drawing is always this large (six rows and the title below them), so that every
-// month prints at the same scale.
-const QSizeF CalendarPageTwips(7 * CalendarBoxWidth,
-                               CalendarHeaderHeight + 6 * CalendarBoxHeight + 650);
+constexpr int CalendarLegendHeight = 350; // the line of the place and the rating legend
+// The page's drawing is always this large (six rows, and below them the place, the title and
+// the rating legend), so that every month prints at the same scale.
+const QSizeF CalendarPageTwips(7 * CalendarBoxWidth, CalendarHeaderHeight + 6 * CalendarBoxHeight +
+                                                         650 + CalendarLegendHeight);
 
 // The month `cal` shows (its year tables set for CurMonth and CurYear), with each day's
 // forecast computed by the engine at its observer; southernHemisphere is -1 in the south.

@@ -5,7 +5,10 @@
 #include "pages/pages.h"
 #include "pages/stockpictures.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace {
 constexpr double AxisAboveBottom = 300, StemRight = 100, Tick = 100, LineHeight = 200;
@@ -21,13 +24,71 @@ GlanceStem Stem(double x, double axis, double height)
     return s;
 }
 
-GlanceStem Labelled(double x, double axis, double height, const char* label, double left,
-                    double above)
+constexpr double LabelGap = 40, LabelPoints = 8;
+
+GlanceStem Labelled(double x, double axis, double height, const char* label, double above)
 {
     GlanceStem s = Stem(x, axis, height);
     s.Label = label;
-    s.LabelBox = {s.X - left, s.Top - above, 0, LineHeight};
+    const QFontMetricsF metrics(TwipsFont(QStringLiteral("Arial"), LabelPoints, false));
+    s.LabelBox = {s.X + LabelGap, s.Top - above,
+                  metrics.horizontalAdvance(QString::fromLatin1(label)), LineHeight};
     return s;
+}
+
+bool Overlap(const TwipsBox& a, const TwipsBox& b)
+{
+    return a.Left < b.Left + b.Width && b.Left < a.Left + a.Width && a.Top < b.Bottom() &&
+           b.Top < a.Bottom();
+}
+
+// What a label must keep clear of: every stem but its own (as a line from the axis up), every
+// phase picture and the labels placed before it.
+std::vector<TwipsBox> Obstacles(const GlanceChart& chart, const GlanceStem* own)
+{
+    std::vector<TwipsBox> boxes;
+    bool placedBefore = true; // the labels before own's are placed; the later ones are not yet
+    for (const GlanceDay& day : chart.Days)
+        for (const GlanceStem& s : day.Stems) {
+            if (&s == own) {
+                placedBefore = false;
+                continue;
+            }
+            boxes.push_back({s.X - LabelGap / 2, s.Top, LabelGap, chart.Axis - s.Top});
+            if (s.PhaseSymbol > 0)
+                boxes.push_back(s.Picture);
+            if (!s.Label.empty() && placedBefore)
+                boxes.push_back(s.LabelBox);
+        }
+    return boxes;
+}
+
+bool Clear(const TwipsBox& box, const std::vector<TwipsBox>& obstacles)
+{
+    return std::none_of(obstacles.begin(), obstacles.end(),
+                        [&box](const TwipsBox& o) { return Overlap(box, o); });
+}
+
+// A label stands beside its stem's top, on the right or else on the left; where both sides
+// are crossed by a neighbour's stem or picture it rises above them, its stem with it.
+void PlaceLabel(const GlanceChart& chart, GlanceStem& s)
+{
+    const std::vector<TwipsBox> obstacles = Obstacles(chart, &s);
+    TwipsBox box = s.LabelBox;
+    if (Clear(box, obstacles))
+        return;
+    box.Left = s.X - LabelGap - box.Width;
+    if (Clear(box, obstacles)) {
+        s.LabelBox = box;
+        return;
+    }
+    box.Left = s.LabelBox.Left;
+    for (const TwipsBox& o : obstacles)
+        if (o.Left < box.Left + box.Width && box.Left < o.Left + o.Width)
+            box.Top = std::min(box.Top, o.Top - box.Height);
+    box.Top = std::max(0.0, box.Top);
+    s.LabelBox = box;
+    s.Top = std::min(s.Top, box.Top + box.Height / 2);
 }
 
 } // namespace
@@ -56,15 +117,18 @@ GlanceChart GlanceChartOf(const Calendar& cal, std::int16_t southernHemisphere, 
             day.Stems.push_back(s);
         }
         if (r.Perigee == 2)
-            day.Stems.push_back(Labelled(day.X, chart.Axis, PerigeeStem, "Apogee", 350, 150));
+            day.Stems.push_back(Labelled(day.X, chart.Axis, PerigeeStem, "Apogee", 150));
         else if (r.Perigee == 1)
-            day.Stems.push_back(Labelled(day.X, chart.Axis, PerigeeStem, "Perigee", 300, 150));
+            day.Stems.push_back(Labelled(day.X, chart.Axis, PerigeeStem, "Perigee", 150));
         if (r.Declination == 2 || r.Declination == 1)
             day.Stems.push_back(Labelled(day.X, chart.Axis, DeclinationStem,
-                                         r.Declination == 2 ? "Max S Decl." : "Max N Decl.", 350,
-                                         175));
+                                         r.Declination == 2 ? "Max S Decl." : "Max N Decl.", 175));
         chart.Days.push_back(std::move(day));
     }
+    for (GlanceDay& day : chart.Days)
+        for (GlanceStem& s : day.Stems)
+            if (!s.Label.empty())
+                PlaceLabel(chart, s);
     return chart;
 }
 
@@ -101,7 +165,7 @@ PageDrawing GlanceChartDrawing(GlanceChart chart)
         PlaceTwips(p, area, QSizeF(chart.Width, PictureBelowTop + chart.Height), PrintScale);
         p.setFont(TwipsFont(QStringLiteral("Arial"), 10, false));
         p.drawText(QRectF(0, TitleLine, chart.Width, TitleLine), Qt::AlignLeft | Qt::AlignTop,
-                   Q(chart.Title));
+                   Q(chart.Place.empty() ? chart.Title : chart.Title + "  " + chart.Place));
         p.translate(0, PictureBelowTop);
         DrawGlanceChart(p, chart);
         return false;

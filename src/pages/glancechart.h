@@ -26,7 +26,7 @@ struct GlanceStem {
     int PhaseSymbol = 0;   // the picture above a phase stem (stockpictures), else 0
     TwipsBox Picture;      // where that picture goes
     std::string Label;     // "Perigee", "Apogee", "Max N Decl.", "Max S Decl." or empty
-    TwipsBox LabelBox;     // where the label's text starts (top-left) and its line height
+    TwipsBox LabelBox;     // the label's text: beside the stem, clear of the other stems
 };
 
 struct GlanceDay {
@@ -37,6 +37,7 @@ struct GlanceDay {
 
 struct GlanceChart {
     std::string Title; // "Lunar Events for Feb/2024"
+    std::string Place; // the location's name, printed after the title
     double Width = 0, Height = 0, Axis = 0;
     std::vector<GlanceDay> Days;
 };

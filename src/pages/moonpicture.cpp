@@ -48,18 +48,40 @@ void DrawOutlines(QImage& image, QPointF centre, double R, int p)
     painter.drawArc(ellipse, crescent ? -90 * 16 : 90 * 16, 180 * 16);
 }
 
+// The percentage from the disc's centre rightwards, in a font small enough to stay clear of
+// the rim whatever the screen's resolution.
 void PrintPercent(QImage& image, QPointF topLeft, int percent)
 {
+    constexpr int RimGap = 3, SmallestPixels = 6;
     QPainter painter(&image);
     // Solid red on the disc, no blended edge pixels.
     painter.setRenderHint(QPainter::TextAntialiasing, false);
     QFont font = painter.font();
     font.setStyleStrategy(QFont::NoAntialias);
+    const QString text = QStringLiteral(" %1%").arg(percent);
+    const double room = std::min(image.width(), image.height()) / 2.0 - 2.0 - RimGap;
+    font.setPixelSize(std::max(SmallestPixels, QFontMetrics(font).height()));
+    while (font.pixelSize() > SmallestPixels && QFontMetrics(font).horizontalAdvance(text) > room)
+        font.setPixelSize(font.pixelSize() - 1);
     painter.setFont(font);
     painter.setPen(QColor(Red));
-    const QFontMetrics metrics(font);
-    painter.drawText(QPointF(topLeft.x(), topLeft.y() + metrics.ascent()),
-                     QStringLiteral(" %1%").arg(percent));
+    painter.drawText(QPointF(topLeft.x(), topLeft.y() + QFontMetrics(font).ascent()), text);
+}
+
+// Redraws the rim in its own colour and clears the box beyond it.
+void CutOutDisc(QImage& image, QPointF centre, double R, QRgb rim)
+{
+    image = image.convertToFormat(QImage::Format_ARGB32);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(QColor(rim), 1));
+    painter.drawEllipse(centre, R, R);
+    painter.end();
+    const double beyond = R + 1.0; // the aliased rim's pixels lie within half a pixel of R
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (std::hypot(x + 0.5 - centre.x(), y + 0.5 - centre.y()) > beyond)
+                image.setPixel(x, y, qRgba(0, 0, 0, 0));
 }
 
 } // namespace
@@ -100,12 +122,15 @@ QImage DrawMoonDisc(QSize size, const MoonLook& look)
     const QPoint centre{int(cx), int(cy)};
     if (p <= 0 || p >= 100) {
         FloodFill(image, centre, p <= 0 ? Black : lit, Black);
-        return image;
+    } else {
+        const int y = int(cy);
+        const QPoint left(int(std::lround(cx - R + 1.1)), y),
+            right(int(std::lround(cx + R - 1.1)), y);
+        FloodFill(image, left, side == 0 ? lit : Black, Black);
+        FloodFill(image, right, side == 0 ? Black : lit, Black);
     }
-    const int y = int(cy);
-    const QPoint left(int(std::lround(cx - R + 1.1)), y), right(int(std::lround(cx + R - 1.1)), y);
-    FloodFill(image, left, side == 0 ? lit : Black, Black);
-    FloodFill(image, right, side == 0 ? Black : lit, Black);
+    if (look.Rim)
+        CutOutDisc(image, {cx, cy}, R, RgbOf(*look.Rim));
     return image;
 }
 
@@ -122,8 +147,8 @@ MoonPictures DrawMoon(QSize picSize, const MoonLook& look, const std::optional<M
     // The southern disc is drawn half a turn round, so it turns by pi - q to stand as in the sky.
     const double angle = look.SouthernHemisphere == -1 ? Pi - turn->MoonParallacticAngle
                                                        : -turn->MoonParallacticAngle;
-    result.ToPict = QImage(turn->ToPictSize, QImage::Format_RGB32);
-    result.ToPict.fill(RgbOf(look.BackColor));
+    result.ToPict = QImage(turn->ToPictSize, result.PicM.format());
+    result.ToPict.fill(look.Rim ? qRgba(0, 0, 0, 0) : RgbOf(look.BackColor));
     const int tw = turn->ToPictSize.width(), th = turn->ToPictSize.height();
     RotatePicture(result.PicM, result.ToPict, angle, 0, 0, W - 1, H - 1, W / 2, H / 2, tw / 2,
                   th / 2);

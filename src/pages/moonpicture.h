@@ -21,6 +21,9 @@ struct MoonLook {
     std::int16_t SouthernHemisphere = 0;        // -1 south of the equator: the lit side swaps
     std::uint32_t MoonColor = DefaultMoonColor; // the lit part, 0x00BBGGRR
     std::uint32_t BackColor = 0xC0C0C0;         // the picture box behind the disc
+    // When set, no box: the picture is transparent around the disc and the disc's rim takes
+    // this colour, so that a disc of any colour shows on any background.
+    std::optional<std::uint32_t> Rim;
 };
 
 // The main window's turned view; the log browser has none.
@@ -36,7 +39,8 @@ struct MoonPictures {
     QImage ToPict; // null when the turned view is hidden
 };
 
-// The disc alone: black outline and dark part, lit part in MoonColor, on BackColor.
+// The disc alone: black outline (or Rim) and dark part, lit part in MoonColor, on BackColor
+// (or transparent).
 QImage DrawMoonDisc(QSize size, const MoonLook& look);
 
 // The disc with the percentage, and the turned view when asked for and the Moon is up.

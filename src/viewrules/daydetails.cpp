@@ -91,8 +91,6 @@ DetailLines DoDetails(Astronomy& engine, const Calendar& cal, double jd, bool am
     return out;
 }
 
-int DetailsLeft(int cell) { return cell % 7 <= 3 ? 4500 : 500; }
-
 std::string DetailsCaption(int year, int month, int day, bool monthFirst, char separator)
 {
     if (monthFirst)

@@ -20,10 +20,5 @@ constexpr int EventLabelCount = 5;
 // (which must hold jd's year). Recomputes the engine's forecast for jd.
 DetailLines DoDetails(Astronomy& engine, const Calendar& cal, double jd, bool ampm);
 
-// Left edge in twips of the detail window for a grid cell 0..36: the right half of the screen
-// for a day from Sunday to Wednesday, the left half from Thursday to Saturday.
-int DetailsLeft(int cell);
-constexpr int DetailsTop = 1400;
-
 // "Details for " and the date, month first (" 3/5/2024") or day first with the separator.
 std::string DetailsCaption(int year, int month, int day, bool monthFirst, char separator);

@@ -106,14 +106,20 @@ void AddPeriods(DayGraphSeries& g, const DayForecast& f)
 
 std::string EventClock(double jd) { return VbFormatDate(jd - SerialEpochJD, "hh:mm AMPM"); }
 
+// The event's text with its clock time, placed on the line at that time.
+void AddEvent(DayGraphSeries& g, const std::string& name, double jd)
+{
+    const double serial = jd - SerialEpochJD;
+    g.EventTexts.push_back(name + EventClock(jd));
+    g.EventX.push_back(AdjForBias(Place((serial - std::floor(serial)) * 24.0)));
+}
+
 void AddEventTexts(DayGraphSeries& g, const DayMarks& day)
 {
     if (day.Perigee == 1 || day.Perigee == 2)
-        g.EventTexts.push_back((day.Perigee == 1 ? "Perigee " : "Apogee ") +
-                               EventClock(day.PerigeeJD));
+        AddEvent(g, day.Perigee == 1 ? "Perigee " : "Apogee ", day.PerigeeJD);
     if (day.Declination == 1 || day.Declination == 2)
-        g.EventTexts.push_back((day.Declination == 1 ? "Max North " : "Max South ") +
-                               EventClock(day.DeclinationJD));
+        AddEvent(g, day.Declination == 1 ? "Max North " : "Max South ", day.DeclinationJD);
 }
 
 } // namespace

@@ -43,6 +43,7 @@ struct DayGraphSeries {
     std::vector<double> HourTicks;    // 1..23 h
     double NoonX = TimeLineWidth / 2.0;
     std::vector<std::string> EventTexts; // "Perigee 03:12 PM", "Max North 10:00 AM"
+    std::vector<double> EventX;          // where on the line each text's time lies
     double SunriseX = 0.0, SunsetX = 0.0;
 };
 

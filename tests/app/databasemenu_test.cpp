@@ -23,7 +23,7 @@ TEST(FrmCalendar, DataBaseMenuOpensDatabaseFunctionsModallyForTheShownYear)
     FrmCalendar w(app);
     w.show();
     EXPECT_EQ(w.menuBar()->actions().first(), w.RunDataBase);
-    EXPECT_EQ(w.RunDataBase->text(), "DataBase");
+    EXPECT_EQ(w.RunDataBase->text(), "&DataBase");
 
     QString title;
     bool mainVisible = true;

@@ -50,7 +50,7 @@ TEST(CurrentLocation, EasternSouthernLocationWithDaylightSaving)
     EXPECT_DOUBLE_EQ(site.ZoneDays, -10.0 / 24.0);
     EXPECT_EQ(s.HemiSphere, "South");
     EXPECT_EQ(cur.SouthernHemisphere, -1);
-    EXPECT_EQ(s.AMPM, "True"); // applying a location always turns the 12-hour clock on
+    EXPECT_FALSE(site.AMPM); // the chosen 24-hour clock is kept
 }
 
 TEST(CurrentLocation, SignsAtZeroAndHalfADegree)

@@ -111,6 +111,30 @@ TEST(MoonPicture, NewIsAllBlackAndFullAllLitInsideABlackOutline)
     EXPECT_GT(LitShare(full), 90);
 }
 
+// Without a box: a white full moon on any background shows by its rim, in the rim's colour,
+// and nothing around the disc is painted; at any size "100%" stays clear of the rim.
+TEST(MoonPicture, RimInsteadOfABox)
+{
+    for (const QSize size : {Size, QSize(120, 120), QSize(300, 300)}) {
+        MoonLook look = Look(100, 0);
+        look.MoonColor = 0xFFFFFF;
+        look.Rim = 0x00FF00; // green, so that no other part can be taken for it
+        const QImage full = DrawMoon(size, look, std::nullopt).PicM;
+        const int c = size.width() / 2, R = c - 2;
+        EXPECT_EQ(qAlpha(full.pixel(0, 0)), 0) << size.width();
+        EXPECT_EQ(qAlpha(full.pixel(c, 0)), 0) << size.width();
+        EXPECT_EQ(full.pixel(c, c - R), qRgb(0, 255, 0)) << size.width();
+        EXPECT_EQ(full.pixel(c, c - R / 2), qRgb(255, 255, 255)) << size.width();
+        // The percentage's red stays inside the disc, at least two pixels from the rim.
+        for (int y = 0; y < size.height(); ++y)
+            for (int x = 0; x < size.width(); ++x)
+                if (full.pixel(x, y) == qRgb(255, 0, 0)) {
+                    ASSERT_LT(std::hypot(x + 0.5 - c, y + 0.5 - c), R - 2.0)
+                        << size.width() << " at " << x << "," << y;
+                }
+    }
+}
+
 TEST(MoonPicture, PrintsThePercentAsPassedInRed)
 {
     const QImage withText = DrawMoon(Size, Look(30, 0), std::nullopt).PicM;

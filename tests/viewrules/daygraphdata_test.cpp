@@ -177,6 +177,8 @@ TEST(DayGraph, PerigeeAndApogeeDaysNameTheirTimes)
         EXPECT_EQ(t.substr(0, std::string(c.Word).size()), c.Word);
         EXPECT_NEAR(ClockMinutes(t.substr(std::string(c.Word).size())), c.Minutes, c.Tolerance)
             << t;
+        ASSERT_EQ(s.EventX.size(), s.EventTexts.size());
+        EXPECT_NEAR(s.EventX[0] / TimeLineWidth * 24 * 60, c.Minutes, c.Tolerance) << t;
     }
 }
 

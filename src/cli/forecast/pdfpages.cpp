@@ -19,12 +19,14 @@ std::string WritePdfPages(const ForecastRequest& r, const ForecastPlace& place,
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
     if (r.What == Command::CalendarPage) {
         CalendarPage page = CalendarPageOf(run.Engine, cal, run.SouthernHemisphere);
+        page.Place = placeName;
         title = QString::fromStdString(page.Title);
         drawing = CalendarPageDrawing(std::move(page));
         orientation = CalendarPageOrientation;
     } else if (r.What == Command::Glance) {
         GlanceChart chart =
             GlanceChartOf(cal, run.SouthernHemisphere, GlancePictureWidth, GlancePictureHeight);
+        chart.Place = placeName;
         title = QString::fromStdString(chart.Title);
         drawing = GlanceChartDrawing(std::move(chart));
         orientation = GlanceChartOrientation;

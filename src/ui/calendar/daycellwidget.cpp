@@ -1,14 +1,19 @@
 #include "ui/calendar/daycellwidget.h"
 
+#include "pages/stockpictures.h"
 #include "pages/twips.h"
+#include "ui/common/themecolours.h"
 
 #include <QMouseEvent>
 #include <QPainter>
+
+#include <algorithm>
 
 DayCellWidget::DayCellWidget(int index, QWidget* parent) : QWidget(parent), CellIndex(index)
 {
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 void DayCellWidget::SetContent(Content content)
@@ -36,7 +41,31 @@ QFont BoldOf(const QFont& f)
 }
 
 QString MarksText(int marks) { return QString("^^").repeated(marks); }
+
+// The widest content a cell holds: a two-digit day with its three marks, a phase picture
+// beside the number, a rating fish below.
+constexpr int WidestMarks = 3;
+const QString WidestNumber = QStringLiteral("30");
+constexpr int DesignWidth = 57, DesignHeight = 48; // the cell at 96 dpi
 } // namespace
+
+QSize DayCellWidget::minimumSizeHint() const
+{
+    static const QSize phase = PhaseSymbol(1).size(), fish = FishPicture(4).size();
+    const QFontMetrics fm(BoldOf(font()));
+    const int frame = 2 * (FramePen + Margin);
+    const int numberLine = std::max(fm.horizontalAdvance(WidestNumber) + Margin + phase.width(),
+                                    fm.horizontalAdvance(MarksText(WidestMarks)));
+    const int width = std::max(numberLine, fish.width());
+    const int height =
+        fm.height() + fm.tightBoundingRect(QStringLiteral("^")).height() + fish.height() + Margin;
+    return {frame + width, frame + height};
+}
+
+QSize DayCellWidget::sizeHint() const
+{
+    return minimumSizeHint().expandedTo({DesignWidth, DesignHeight});
+}
 
 DayCellWidget::Placement DayCellWidget::Place() const
 {
@@ -72,12 +101,13 @@ void DayCellWidget::paintEvent(QPaintEvent*)
     const QFontMetrics fm(p.font());
     p.setPen(Now.TextColor);
     p.drawText(at.Number.left(), at.Number.top() + fm.ascent(), Now.Number);
-    p.setPen(VbColor(0x0000FF));
+    const QColor red = ThemedText(VbColor(0x0000FF), palette());
+    p.setPen(red);
     const int caretTop = fm.tightBoundingRect(QStringLiteral("^")).top(); // above the baseline
     p.drawText(at.Marks.left(), at.Marks.top() - caretTop, MarksText(Now.Marks));
 
     if (IsFramed) {
-        p.setPen(QPen(VbColor(0x0000FF), FramePen));
+        p.setPen(QPen(red, FramePen));
         p.drawRect(QRectF(1.5, 1.5, width() - 3.0, height() - 3.0));
     }
 }

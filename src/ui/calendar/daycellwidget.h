@@ -33,6 +33,9 @@ public:
         QRect Inside; // within the selection frame
     };
     Placement Place() const;
+    // Room for the widest content in the cell's font; the cell grows from there.
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
 
 signals:
     void Clicked(int index);

@@ -19,6 +19,7 @@
 #include "ui/calendar/helpwindow.h"
 #include "ui/common/appstate.h"
 #include "ui/common/busypointer.h"
+#include "ui/common/themecolours.h"
 #include "ui/locations/frmlocation.h"
 #include "ui/log/frmselectdb.h"
 #include "ui/log/unitsmenu.h"
@@ -29,25 +30,42 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShowEvent>
+#include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolTip>
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 
 namespace {
 constexpr int FormHeightTwips = 6390;
 constexpr int FormWidthTwips = 10200;
-constexpr int CellWidth = 57, CellHeight = 48, CellGap = 1, GridLeft = 6, GridTop = 50;
+constexpr int CellGap = 1, DaysPerWeek = 7, GridRows = 6, HeadingPoints = 13, ColumnGap = 4;
+constexpr int GridStretch = 3, PanelStretch = 2; // how the width grows between them
+constexpr int MoonSmallest = 80;                 // the moon picture's least side, pixels
+
+QString LongestMonthName()
+{
+    QString longest;
+    for (const char* name : MonthNames)
+        if (std::strlen(name) > std::size_t(longest.size()))
+            longest = QString::fromLatin1(name);
+    return longest;
+}
 
 // The hour bar's moment as the clock shows it.
 QString HourBarText(int minutes, bool ampm)
@@ -55,11 +73,40 @@ QString HourBarText(int minutes, bool ampm)
     return Q(FormatClock(0, MinutesToHours(minutes), ampm));
 }
 
+// Where a window of this size stands beside the cell without covering it: to the right for the
+// first days of the week, to the left for the last, on the other side when the screen has no
+// room there, and within the screen.
+QPoint BesideCell(const QWidget* cell, QSize window)
+{
+    constexpr int Gap = 8;
+    const QRect at(cell->mapToGlobal(QPoint(0, 0)), cell->size());
+    const QScreen* screen = cell->screen();
+    const QRect room = screen ? screen->availableGeometry() : QRect(at.topLeft(), window);
+    const int right = at.right() + 1 + Gap, left = at.left() - Gap - window.width();
+    const bool rightFits = right + window.width() <= room.right() + 1;
+    const bool leftFits = left >= room.left();
+    const bool preferRight = at.center().x() < cell->window()->geometry().center().x();
+    const int x = (preferRight && rightFits) || !leftFits ? right : left;
+    const int y =
+        std::clamp(at.top(), room.top(), std::max(room.top(), room.bottom() + 1 - window.height()));
+    return {std::clamp(x, room.left(), std::max(room.left(), room.right() + 1 - window.width())),
+            y};
+}
+
 // The weekday header: its text spaces the names for the grid, and it paints each name
 // centred over its column whatever the font.
 class WeekdayHeader : public QLabel {
 public:
     using QLabel::QLabel;
+    // Room for the names in equal columns, not for the spaced text.
+    QSize minimumSizeHint() const override
+    {
+        int widest = 0;
+        for (const QString& name : text().split(QLatin1Char(' '), Qt::SkipEmptyParts))
+            widest = std::max(widest, fontMetrics().horizontalAdvance(name));
+        return {DaysPerWeek * (widest + ColumnGap), fontMetrics().height()};
+    }
+    QSize sizeHint() const override { return minimumSizeHint(); }
 
 protected:
     void paintEvent(QPaintEvent*) override
@@ -112,11 +159,10 @@ void FrmCalendar::ConnectHandlers()
     Timer1->start();
 }
 
-QLabel* FrmCalendar::MakeLabel(int index, QWidget* parent, const QRect& geometry)
+QLabel* FrmCalendar::MakeLabel(int index, QWidget* parent)
 {
     auto* label = new QLabel(parent);
     label->setObjectName(QString("Label%1").arg(index));
-    label->setGeometry(geometry);
     Label[std::size_t(index)] = label;
     return label;
 }
@@ -125,113 +171,166 @@ void FrmCalendar::BuildControls()
 {
     auto* central = new QWidget(this);
     setCentralWidget(central);
-
-    DecMonth = new QPushButton(QStringLiteral("<<"), central);
-    DecMonth->setGeometry(GridLeft, 4, 32, 26);
-    DecMonth->setToolTip(QStringLiteral(" Previous Month "));
-    QFont heading = font();
-    heading.setPointSize(13);
-    heading.setBold(true);
-    MakeLabel(11, central, {44, 4, 130, 26})->setFont(heading);
-    Label[11]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    MakeLabel(12, central, {176, 4, 70, 26})->setFont(heading);
-    IncMonth = new QPushButton(QStringLiteral(">>"), central);
-    IncMonth->setGeometry(250, 4, 32, 26);
-    IncMonth->setToolTip(QStringLiteral(" Next Month "));
-    CmdNOW = new QPushButton(QStringLiteral("Now"), central);
-    CmdNOW->setGeometry(290, 4, 56, 26);
-
-    Label[1] = new WeekdayHeader(central);
-    Label[1]->setObjectName(QStringLiteral("Label1"));
-    Label[1]->setGeometry(GridLeft, 32, 7 * (CellWidth + CellGap), 16);
-    Label[1]->setText(
-        QStringLiteral("    Sun            Mon           Tue            Wed          Thu "
-                       "            Fri             Sat"));
-    for (int i = 0; i < MonthGridCells; ++i) {
-        auto* cell = new DayCellWidget(i, central);
-        cell->setGeometry(GridLeft + (i % 7) * (CellWidth + CellGap),
-                          GridTop + (i / 7) * (CellHeight + CellGap), CellWidth, CellHeight);
-        txtpic[std::size_t(i)] = cell;
-    }
-    const int gridRight = GridLeft + 7 * (CellWidth + CellGap);
-    VsbYear = new QScrollBar(Qt::Vertical, central);
-    VsbYear->setGeometry(gridRight + 2, GridTop, 16, 6 * (CellHeight + CellGap) - CellGap);
-    VsbYear->setRange(FirstYear, LastYear);
-    VsbYear->setTracking(false); // dragging scrolls; the change comes on release
-    VsbYear->setToolTip(QStringLiteral(" Change the Year "));
-    MakeLabel(3, central, {GridLeft, GridTop + 6 * (CellHeight + CellGap) + 2, 330, 18});
-
-    BuildDetailsPanel(central);
+    auto* columns = new QHBoxLayout(central);
+    columns->addLayout(BuildMonthGrid(central), GridStretch);
+    columns->addLayout(BuildDetailsPanel(central), PanelStretch);
     Timer1 = new QTimer(this);
     Timer1->setInterval(10000);
     central->setMouseTracking(true);
     central->installEventFilter(this);
 }
 
-void FrmCalendar::BuildDetailsPanel(QWidget* central)
+QLayout* FrmCalendar::BuildMonthGrid(QWidget* central)
 {
-    const int left = 438, right = 556;
-    auto frame = [central](const QString& title, const QRect& r) {
+    DecMonth = new QPushButton(QStringLiteral("<<"), central);
+    DecMonth->setToolTip(QStringLiteral(" Previous Month "));
+    QFont heading = font();
+    heading.setPointSize(HeadingPoints);
+    heading.setBold(true);
+    MakeLabel(11, central)->setFont(heading);
+    Label[11]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    Label[11]->setMinimumWidth(QFontMetrics(heading).horizontalAdvance(LongestMonthName()));
+    MakeLabel(12, central)->setFont(heading);
+    IncMonth = new QPushButton(QStringLiteral(">>"), central);
+    IncMonth->setToolTip(QStringLiteral(" Next Month "));
+    CmdNOW = new QPushButton(QStringLiteral("Now"), central);
+    for (QPushButton* b : {DecMonth, IncMonth, CmdNOW})
+        b->setFocusPolicy(Qt::NoFocus); // the keys belong to the grid
+    auto* heads = new QHBoxLayout;
+    heads->addWidget(DecMonth);
+    heads->addWidget(Label[11]);
+    heads->addWidget(Label[12]);
+    heads->addWidget(IncMonth);
+    heads->addWidget(CmdNOW);
+    heads->addStretch();
+
+    auto* grid = new QGridLayout;
+    grid->setSpacing(CellGap);
+    Label[1] = new WeekdayHeader(central);
+    Label[1]->setObjectName(QStringLiteral("Label1"));
+    Label[1]->setText(
+        QStringLiteral("    Sun            Mon           Tue            Wed          Thu "
+                       "            Fri             Sat"));
+    grid->addWidget(Label[1], 0, 0, 1, DaysPerWeek);
+    for (int i = 0; i < MonthGridCells; ++i) {
+        auto* cell = new DayCellWidget(i, central);
+        grid->addWidget(cell, 1 + i / DaysPerWeek, i % DaysPerWeek);
+        txtpic[std::size_t(i)] = cell;
+    }
+    for (int row = 1; row <= GridRows; ++row)
+        grid->setRowStretch(row, 1);
+    for (int column = 0; column < DaysPerWeek; ++column)
+        grid->setColumnStretch(column, 1);
+    VsbYear = new QScrollBar(Qt::Vertical, central);
+    VsbYear->setRange(FirstYear, LastYear);
+    VsbYear->setTracking(false); // dragging scrolls; the change comes on release
+    VsbYear->setToolTip(QStringLiteral(" Change the Year "));
+    VsbYear->setFocusPolicy(Qt::NoFocus);
+    grid->addWidget(VsbYear, 1, DaysPerWeek, GridRows, 1);
+
+    auto* left = new QVBoxLayout;
+    left->addLayout(heads);
+    left->addLayout(grid, 1);
+    left->addWidget(MakeLabel(3, central));
+    return left;
+}
+
+QLayout* FrmCalendar::BuildDetailsPanel(QWidget* central)
+{
+    // A framed box of labels in rows; the pairs put a caption before its value.
+    auto frame = [central](const QString& title) {
         auto* box = new QGroupBox(title, central);
-        box->setGeometry(r);
+        new QGridLayout(box);
         return box;
     };
-    QGroupBox* daylightFrame = frame(QStringLiteral("Daylight Hours"), {left, 0, 112, 42});
-    MakeLabel(7, daylightFrame, {10, 18, 90, 18});
-    QGroupBox* majors = frame(QStringLiteral("Majors"), {left, 44, 112, 62});
-    MakeLabel(0, majors, {10, 18, 94, 18});
-    MakeLabel(2, majors, {10, 38, 94, 18});
-    QGroupBox* minors = frame(QStringLiteral("Minors"), {left, 108, 112, 62});
-    MakeLabel(4, minors, {10, 18, 94, 18});
-    MakeLabel(5, minors, {10, 38, 94, 18});
+    auto add = [this](QGroupBox* box, int index, int row, int column) {
+        auto* grid = static_cast<QGridLayout*>(box->layout());
+        grid->addWidget(MakeLabel(index, box), row, column);
+        return Label[std::size_t(index)];
+    };
+    QGroupBox* daylightFrame = frame(QStringLiteral("Daylight Hours"));
+    add(daylightFrame, 7, 0, 0);
+    QGroupBox* majors = frame(QStringLiteral("Majors"));
+    add(majors, 0, 0, 0);
+    add(majors, 2, 1, 0);
+    QGroupBox* minors = frame(QStringLiteral("Minors"));
+    add(minors, 4, 0, 0);
+    add(minors, 5, 1, 0);
     for (int i : {0, 2, 4, 5}) {
         Label[std::size_t(i)]->setToolTip(QStringLiteral(" Moon is due South/North "));
-        // A mid grey behind the periods, so that both the black and the yellow text read.
+        // A mid grey behind the periods, so that both the black and the yellow text read on
+        // any palette.
         Label[std::size_t(i)]->setAutoFillBackground(true);
         QPalette palette = Label[std::size_t(i)]->palette();
         palette.setColor(QPalette::Window, QColor(128, 128, 128));
         Label[std::size_t(i)]->setPalette(palette);
         Label[std::size_t(i)]->setAlignment(Qt::AlignCenter);
     }
-    QGroupBox* sun = frame(QStringLiteral("Sun"), {left, 172, 112, 62});
-    MakeLabel(13, sun, {6, 18, 30, 18})->setText(QStringLiteral("Rise"));
-    MakeLabel(14, sun, {36, 18, 72, 18});
-    MakeLabel(17, sun, {6, 38, 30, 18})->setText(QStringLiteral("Set"));
-    MakeLabel(16, sun, {36, 38, 72, 18});
-    QGroupBox* moon = frame(QStringLiteral("Moon"), {right, 0, 118, 62});
-    MakeLabel(18, moon, {6, 18, 30, 18});
-    MakeLabel(19, moon, {36, 18, 76, 18});
-    MakeLabel(21, moon, {6, 38, 30, 18});
-    MakeLabel(22, moon, {36, 38, 76, 18});
+    QGroupBox* sun = frame(QStringLiteral("Sun"));
+    add(sun, 13, 0, 0)->setText(QStringLiteral("Rise"));
+    add(sun, 14, 0, 1);
+    add(sun, 17, 1, 0)->setText(QStringLiteral("Set"));
+    add(sun, 16, 1, 1);
+    QGroupBox* moon = frame(QStringLiteral("Moon"));
+    add(moon, 18, 0, 0);
+    add(moon, 19, 0, 1);
+    add(moon, 21, 1, 0);
+    add(moon, 22, 1, 1);
 
     PicM = new QLabel(central);
-    PicM->setGeometry(right + 4, 68, 80, 80);
+    PicM->setObjectName(QStringLiteral("PicM"));
+    PicM->setAlignment(Qt::AlignCenter);
+    PicM->setMinimumSize(MoonSmallest, MoonSmallest);
+    PicM->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // grows; never pushes
     PicM->setMouseTracking(true);
     PicM->installEventFilter(this);
-    ToPict = new QLabel(central);
-    ToPict->setGeometry(PicM->geometry());
+    ToPict = new QLabel(PicM); // the turned view lies over the picture
+    ToPict->setAlignment(Qt::AlignCenter);
     ToPict->hide();
-    MakeLabel(32, central, {right, 152, 100, 18});
+    MakeLabel(32, central)->setAlignment(Qt::AlignCenter);
 
     VsbHour = new QScrollBar(Qt::Vertical, central);
-    VsbHour->setGeometry(right + 92, 68, 18, 166);
     VsbHour->setRange(0, MinutesPerDay - 1);
     VsbHour->setPageStep(MinutesPerHour);
     VsbHour->setTracking(false);
     VsbHour->setToolTip(QStringLiteral(" Move the moment of the day "));
-    MakeLabel(15, central, {right, 236, 118, 18})->setAlignment(Qt::AlignCenter);
+    VsbHour->setFocusPolicy(Qt::NoFocus);
+    MakeLabel(15, central)->setAlignment(Qt::AlignCenter);
     Label[15]->setToolTip(QStringLiteral(" Click to Reset Hour Bar "));
     Label[15]->installEventFilter(this);
     for (int i : {0, 2, 4, 5, 7, 14, 16}) {
         Label[std::size_t(i)]->setMouseTracking(true);
         Label[std::size_t(i)]->installEventFilter(this);
     }
+    // The widest texts the labels take, so that the panel keeps its shape from day to day.
+    const QFontMetrics fm(font());
+    for (int i : {0, 2, 4, 5, 7, 14, 15, 16, 19, 22})
+        Label[std::size_t(i)]->setMinimumWidth(fm.horizontalAdvance(QStringLiteral(" 12:00 PM ")));
+    Label[32]->setMinimumWidth(fm.horizontalAdvance(QStringLiteral("Moon has Set")));
+
+    auto* times = new QVBoxLayout;
+    for (QGroupBox* box : {daylightFrame, majors, minors, sun})
+        times->addWidget(box);
+    times->addStretch();
+    auto* picture = new QGridLayout;
+    picture->addWidget(PicM, 0, 0);
+    picture->addWidget(Label[32], 1, 0);
+    picture->addWidget(VsbHour, 0, 1, 2, 1);
+    picture->setRowStretch(0, 1);
+    auto* sky = new QVBoxLayout;
+    sky->addWidget(moon);
+    sky->addLayout(picture, 1);
+    sky->addWidget(Label[15]);
+    auto* panel = new QHBoxLayout;
+    panel->addLayout(times);
+    panel->addLayout(sky, 1);
+    return panel;
 }
 
 void FrmCalendar::BuildMenus()
 {
     QMenuBar* bar = menuBar();
-    RunDataBase = bar->addAction(QStringLiteral("DataBase"));
+    RunDataBase = bar->addAction(QStringLiteral("&DataBase"));
     RunDataBase->setObjectName(QStringLiteral("RunDataBase"));
     connect(RunDataBase, &QAction::triggered, this, &FrmCalendar::RunDataBase_Click);
     mnuyearly = bar->addAction(QStringLiteral("&Yearly"));
@@ -240,27 +339,30 @@ void FrmCalendar::BuildMenus()
     QMenu* functions = bar->addMenu(QStringLiteral("&Functions"));
     functions->setObjectName(QStringLiteral("ProgFunctions"));
     PrintCalendar = Item(functions, QStringLiteral("&Print"), QStringLiteral("PrintCalendar"));
-    AtAGlance = Item(functions, QStringLiteral("@Glance"), QStringLiteral("AtAGlance"));
+    PrintCalendar->setShortcut(QKeySequence::Print);
+    AtAGlance = Item(functions, QStringLiteral("@&Glance"), QStringLiteral("AtAGlance"));
     ShowList = Item(functions, QStringLiteral("&Table"), QStringLiteral("ShowList"));
     connect(PrintCalendar, &QAction::triggered, this, &FrmCalendar::PrintCalendar_Click);
     connect(AtAGlance, &QAction::triggered, this, &FrmCalendar::AtAGlance_Click);
     connect(ShowList, &QAction::triggered, this, &FrmCalendar::ShowList_Click);
     QMenu* options = bar->addMenu(QStringLiteral("&Options"));
     options->setObjectName(QStringLiteral("SetOptions"));
-    QMenu* formats = options->addMenu(QStringLiteral("Time Formats"));
+    QMenu* formats = options->addMenu(QStringLiteral("&Time Formats"));
     formats->setObjectName(QStringLiteral("TFormat"));
-    DST[0] = Item(formats, QStringLiteral("Daylight Savings"), QStringLiteral("DST0"), true);
-    DST[1] = Item(formats, QStringLiteral("Standard"), QStringLiteral("DST1"), true);
-    DST[2] = Item(formats, QStringLiteral("Local Clock"), QStringLiteral("DST2"), true);
-    QMenu* mice = options->addMenu(QStringLiteral("Mouse"));
+    DST[0] = Item(formats, QStringLiteral("&Daylight Savings"), QStringLiteral("DST0"), true);
+    DST[1] = Item(formats, QStringLiteral("&Standard"), QStringLiteral("DST1"), true);
+    DST[2] = Item(formats, QStringLiteral("&Local Clock"), QStringLiteral("DST2"), true);
+    Clock24 = Item(options, QStringLiteral("&24-Hour Clock"), QStringLiteral("Clock24"), true);
+    connect(Clock24, &QAction::triggered, this, &FrmCalendar::Clock24_Click);
+    QMenu* mice = options->addMenu(QStringLiteral("&Mouse"));
     mice->setObjectName(QStringLiteral("Mice"));
-    Mouse[0] = Item(mice, QStringLiteral("On Move"), QStringLiteral("Mouse0"), true);
-    Mouse[1] = Item(mice, QStringLiteral("On Click"), QStringLiteral("Mouse1"), true);
-    QMenu* pan = options->addMenu(QStringLiteral("PAngle"));
+    Mouse[0] = Item(mice, QStringLiteral("On &Move"), QStringLiteral("Mouse0"), true);
+    Mouse[1] = Item(mice, QStringLiteral("On &Click"), QStringLiteral("Mouse1"), true);
+    QMenu* pan = options->addMenu(QStringLiteral("&PAngle"));
     pan->setObjectName(QStringLiteral("Pan"));
-    Pangle[0] = Item(pan, QStringLiteral("Parallactic Off"), QStringLiteral("Pangle0"), true);
-    Pangle[1] = Item(pan, QStringLiteral("Parallactic On"), QStringLiteral("Pangle1"), true);
-    Reminders = Item(options, QStringLiteral("Reminders..."), QStringLiteral("Reminders"));
+    Pangle[0] = Item(pan, QStringLiteral("Parallactic O&ff"), QStringLiteral("Pangle0"), true);
+    Pangle[1] = Item(pan, QStringLiteral("Parallactic O&n"), QStringLiteral("Pangle1"), true);
+    Reminders = Item(options, QStringLiteral("&Reminders..."), QStringLiteral("Reminders"));
     connect(Reminders, &QAction::triggered, this, &FrmCalendar::Reminders_Click);
     AddUnitsMenu(options, App.Config.ImperialUnits);
     for (int i = 0; i < 3; ++i)
@@ -270,11 +372,11 @@ void FrmCalendar::BuildMenus()
         connect(Pangle[std::size_t(i)], &QAction::triggered, this, [this, i] { Pangle_Click(i); });
     }
 
-    QMenu* locations = bar->addMenu(QStringLiteral("Locations"));
+    QMenu* locations = bar->addMenu(QStringLiteral("&Locations"));
     locations->setObjectName(QStringLiteral("LoccationOptions"));
-    QMenu* select = locations->addMenu(QStringLiteral("Select A Location"));
+    QMenu* select = locations->addMenu(QStringLiteral("&Select A Location"));
     select->setObjectName(QStringLiteral("SelectLocation"));
-    QMenu* edit = locations->addMenu(QStringLiteral("Edit A Location"));
+    QMenu* edit = locations->addMenu(QStringLiteral("&Edit A Location"));
     edit->setObjectName(QStringLiteral("EditLocation"));
     for (int i = 1; i <= LocationCount; ++i) {
         DLoc[std::size_t(i)] = Item(select, {}, QString("DLoc%1").arg(i), true);
@@ -286,12 +388,15 @@ void FrmCalendar::BuildMenus()
     QMenu* help = bar->addMenu(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("Fhelp"));
     HelpContents = Item(help, QStringLiteral("&Contents"), QStringLiteral("HelpContents"));
+    HelpContents->setShortcut(QKeySequence::HelpContents);
     MnuAbout = Item(help, QStringLiteral("&About"), QStringLiteral("MnuAbout"));
     connect(HelpContents, &QAction::triggered, this, &FrmCalendar::HelpContents_Click);
     connect(MnuAbout, &QAction::triggered, this, &FrmCalendar::MnuAbout_Click);
 
     mnuexit = bar->addAction(QStringLiteral("E&xit"));
     mnuexit->setObjectName(QStringLiteral("mnuexit"));
+    mnuexit->setShortcut(QKeySequence::Quit);
+    mnuexit->setToolTip(QStringLiteral("Exit (%1)").arg(mnuexit->shortcut().toString()));
     connect(mnuexit, &QAction::triggered, this, &FrmCalendar::mnuexit_Click);
 }
 
@@ -322,7 +427,7 @@ void FrmCalendar::BuildStatusBar()
 void FrmCalendar::Form_Load()
 {
     const int top = Twips(Q(App.Config.FormTop).toDouble());
-    resize(Twips(FormWidthTwips), Twips(FormHeightTwips));
+    resize(QSize(Twips(FormWidthTwips), Twips(FormHeightTwips)).expandedTo(minimumSizeHint()));
     move(Twips(App.Config.FormLeft), top);
     ComputingSuppressed = true;
     for (int phase = 1; phase <= 4; ++phase)
@@ -333,9 +438,8 @@ void FrmCalendar::Form_Load()
     Calendar& cal = App.Cal;
     cal.CurMonth = std::int16_t(today.month());
     cal.CurYear = std::int16_t(today.year());
-    VsbYear->setValue(cal.CurYear);
+    SetBars(cal.CurYear, NoonMinutes);
     RefreshMonth();
-    VsbHour->setValue(NoonMinutes);
 }
 
 void FrmCalendar::Form_Activate()
@@ -343,7 +447,7 @@ void FrmCalendar::Form_Activate()
     Calendar& cal = App.Cal;
     App.Config.SelectedJD = CellJD(cal.TodayCell);
     ApplyCurrentLocation();
-    VsbHour->setValue(NoonMinutes);
+    SetBars(cal.CurYear, NoonMinutes);
     ComputingSuppressed = false;
     ComputeSelectedDay();
 }
@@ -361,33 +465,33 @@ double FrmCalendar::CellJD(int cell) const
     return cal.MonthStartJD[std::size_t(cal.CurMonth)] + cell - cal.FirstWeekday;
 }
 
-void FrmCalendar::RefreshMonth()
+void FrmCalendar::RefreshMonth(int selectDay)
 {
-    if (SkipRefresh == 1) {
-        SkipRefresh = 0;
-        return;
-    }
     Calendar& cal = App.Cal;
     Label[12]->setText(" " + QString::number(cal.CurYear));
     Label[11]->setText(QString::fromLatin1(MonthNames[std::size_t(cal.CurMonth)]));
     DrawMonthCells();
+    if (selectDay > 0)
+        SelectCell(std::min(cal.FirstWeekday + selectDay, cal.FirstWeekday + cal.MonthDays) - 1);
     SelDay = std::int16_t(cal.TodayCell - cal.FirstWeekday + 1);
     App.Config.SelectedJD = CellJD(cal.TodayCell);
-    ComputeSelectedDay();
+    // Before the window first shows, its activation computes the day.
+    if (!ComputingSuppressed)
+        ComputeSelectedDay();
 }
 
 void FrmCalendar::DrawMonthCells()
 {
     Calendar& cal = App.Cal;
     const QDate today = PlaceNow().date();
-    cal.ComputePrevMonthDays(App.Astro, Here.SouthernHemisphere);
+    cal.ComputePrevMonthDays();
     const auto cells =
         cal.DrawMonth(App.Astro, Here.SouthernHemisphere, today.year(), today.month(), today.day());
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const DayCell& c = cells[i];
         DayCellWidget::Content content;
-        content.Background = VbColor(c.Background);
-        content.TextColor = VbColor(c.TextColor);
+        content.Background = ThemedBackground(VbColor(c.Background), palette());
+        content.TextColor = ThemedText(VbColor(c.TextColor), palette());
         content.Number = QString::number(c.Number);
         content.Marks = c.Marks;
         content.Enabled = c.Enabled;
@@ -419,9 +523,14 @@ void FrmCalendar::DoLabels()
     for (const auto& [i, text] : Panel.Captions)
         Label[std::size_t(i)]->setText(Q(text));
     for (const auto& [i, colour] : Panel.Colors) {
-        QPalette palette = Label[std::size_t(i)]->palette();
-        palette.setColor(QPalette::WindowText, VbColor(colour));
-        Label[std::size_t(i)]->setPalette(palette);
+        QLabel* label = Label[std::size_t(i)];
+        // The periods keep their colours on their own grey; the others stand on the palette.
+        const QColor shown = label->autoFillBackground()
+                                 ? VbColor(colour)
+                                 : ThemedText(VbColor(colour), label->palette());
+        QPalette palette = label->palette();
+        palette.setColor(QPalette::WindowText, shown);
+        label->setPalette(palette);
     }
 }
 
@@ -439,14 +548,17 @@ void FrmCalendar::DrawMoonPicture(bool parallacticView)
     look.Waxing = f.Waxing;
     look.SouthernHemisphere = Here.SouthernHemisphere;
     look.MoonColor = std::uint32_t(App.Config.MoonColor);
-    look.BackColor = std::uint32_t(ToVbColor(PicM->palette().color(QPalette::Window)));
+    look.BackColor = ToVbColor(PicM->palette().color(QPalette::Window));
+    look.Rim = ToVbColor(PicM->palette().color(QPalette::WindowText));
+    const int side = std::min(PicM->width(), PicM->height());
     MoonTurn turn;
     turn.MoonAltitude = f.SkyPosition.MoonAltitude;
     turn.MoonParallacticAngle = f.MoonParallacticAngle;
     turn.ParallacticAngle = parallacticView;
-    turn.ToPictSize = ToPict->size();
-    const MoonPictures pictures = DrawMoon(PicM->size(), look, turn);
+    turn.ToPictSize = QSize(side, side);
+    const MoonPictures pictures = DrawMoon(QSize(side, side), look, turn);
     PicM->setPixmap(QPixmap::fromImage(pictures.PicM));
+    ToPict->setGeometry(PicM->rect());
     ToPict->setVisible(!pictures.ToPict.isNull());
     if (!pictures.ToPict.isNull())
         ToPict->setPixmap(QPixmap::fromImage(pictures.ToPict));
@@ -463,53 +575,58 @@ void FrmCalendar::SetHemispherePictures()
     Pic[23] = south ? ImageA[8] : ImageA[10];
 }
 
-void FrmCalendar::IncMonth_Click()
+void FrmCalendar::SetBars(int year, int minutes)
+{
+    {
+        // Their change events would redraw the month a second time.
+        const QSignalBlocker yearQuiet(VsbYear), hourQuiet(VsbHour);
+        VsbYear->setValue(year);
+        VsbHour->setValue(minutes);
+    }
+    ShowHour(minutes);
+}
+
+void FrmCalendar::ShowHour(int minutes)
+{
+    Label[15]->setText(HourBarText(minutes, App.Config.AmPm()));
+    App.Astro.Site.HourInstant = MinutesToDays(minutes) + App.Astro.Site.ZoneDays;
+}
+
+void FrmCalendar::ShowMonth(int year, int month, int selectDay)
 {
     const BusyPointer busy;
-    if (App.Cal.StepMonth(1))
-        SkipRefresh = 1;
-    VsbYear->setValue(App.Cal.CurYear);
-    VsbHour->setValue(NoonMinutes);
-    RefreshMonth();
+    year = std::clamp(year, int(FirstYear), int(LastYear));
+    App.Cal.CurYear = std::int16_t(year);
+    App.Cal.CurMonth = std::int16_t(month);
+    SetBars(year, NoonMinutes);
+    RefreshMonth(selectDay);
+}
+
+void FrmCalendar::IncMonth_Click()
+{
+    App.Cal.StepMonth(1);
+    ShowMonth(App.Cal.CurYear, App.Cal.CurMonth);
 }
 
 void FrmCalendar::DecMonth_Click()
 {
-    const BusyPointer busy;
-    if (App.Cal.StepMonth(-1)) {
-        SkipRefresh = 1;
-        VsbYear->setValue(App.Cal.CurYear);
-    }
-    VsbHour->setValue(NoonMinutes);
-    RefreshMonth();
+    App.Cal.StepMonth(-1);
+    ShowMonth(App.Cal.CurYear, App.Cal.CurMonth);
 }
 
 void FrmCalendar::CmdNOW_Click()
 {
-    const BusyPointer busy;
     const QDate today = PlaceNow().date();
-    App.Cal.CurMonth = std::int16_t(today.month());
-    App.Cal.CurYear = std::int16_t(today.year());
-    VsbYear->setValue(App.Cal.CurYear);
-    VsbHour->setValue(NoonMinutes);
-    RefreshMonth();
+    ShowMonth(today.year(), today.month());
 }
 
-void FrmCalendar::VsbYear_Change()
-{
-    const BusyPointer busy;
-    App.Cal.CurYear = std::int16_t(VsbYear->value());
-    VsbHour->setValue(NoonMinutes);
-    RefreshMonth();
-}
+void FrmCalendar::VsbYear_Change() { ShowMonth(VsbYear->value(), App.Cal.CurMonth); }
 
 void FrmCalendar::VsbYear_Scroll() { App.Cal.CurYear = std::int16_t(VsbYear->sliderPosition()); }
 
 void FrmCalendar::VsbHour_Change()
 {
-    const int minutes = VsbHour->value();
-    Label[15]->setText(HourBarText(minutes, App.Config.AmPm()));
-    App.Astro.Site.HourInstant = MinutesToDays(minutes) + App.Astro.Site.ZoneDays;
+    ShowHour(VsbHour->value());
     App.Config.SelectedJD = CellJD(App.Cal.TodayCell);
     if (!ComputingSuppressed)
         ComputeSelectedDay();
@@ -549,10 +666,64 @@ void FrmCalendar::txtpic_Click(int index)
     // The open details belong to the day they were opened on; a click on another day hides them.
     if (Detail && Detail->isVisible() && index != DetailCell)
         Detail->hide();
-    if (!App.Config.MouseClick)
-        return;
-    VsbHour->setValue(NoonMinutes);
+    if (App.Config.MouseClick)
+        ComputeAtNoon();
+}
+
+void FrmCalendar::ComputeAtNoon()
+{
+    SetBars(App.Cal.CurYear, NoonMinutes);
     ComputeSelectedDay();
+}
+
+void FrmCalendar::MoveSelection(int days)
+{
+    const CivilDate to = JdToCivil(CellJD(App.Cal.TodayCell) + days);
+    if (to.Year < FirstYear || to.Year > LastYear)
+        return;
+    if (to.Year != App.Cal.CurYear || to.Month != App.Cal.CurMonth) {
+        ShowMonth(to.Year, to.Month, to.Day);
+        return;
+    }
+    txtpic_Click(App.Cal.FirstWeekday + to.Day - 1);
+    if (!App.Config.MouseClick) // the click left the computing to the pointer
+        ComputeAtNoon();
+}
+
+void FrmCalendar::keyPressEvent(QKeyEvent* event)
+{
+    const bool ctrl = event->modifiers().testFlag(Qt::ControlModifier);
+    switch (event->key()) {
+    case Qt::Key_Left:
+        MoveSelection(-1);
+        break;
+    case Qt::Key_Right:
+        MoveSelection(1);
+        break;
+    case Qt::Key_Up:
+        MoveSelection(-DaysPerWeek);
+        break;
+    case Qt::Key_Down:
+        MoveSelection(DaysPerWeek);
+        break;
+    case Qt::Key_PageUp:
+        ctrl ? ShowMonth(App.Cal.CurYear - 1, App.Cal.CurMonth) : DecMonth_Click();
+        break;
+    case Qt::Key_PageDown:
+        ctrl ? ShowMonth(App.Cal.CurYear + 1, App.Cal.CurMonth) : IncMonth_Click();
+        break;
+    case Qt::Key_Home:
+        CmdNOW_Click();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        DisplayDetails(CellJD(App.Cal.TodayCell), App.Cal.TodayCell);
+        break;
+    default:
+        QMainWindow::keyPressEvent(event);
+        return;
+    }
+    event->accept();
 }
 
 void FrmCalendar::txtpic_MouseMove(int index)
@@ -577,8 +748,7 @@ void FrmCalendar::txtpic_MouseMove(int index)
     LastComputedDay = day;
     if (App.Config.MouseClick)
         return;
-    VsbHour->setValue(NoonMinutes); // its change event recomputes the framed day ...
-    App.Config.SelectedJD = jd;     // ... but the panel shows the day under the pointer
+    SetBars(cal.CurYear, NoonMinutes); // the panel shows the day under the pointer at noon
     ComputeSelectedDay();
 }
 
@@ -605,7 +775,8 @@ void FrmCalendar::DisplayDetails(double jd, int cell)
     if (!Detail)
         Detail = new FrmDetail(this);
     DetailCell = cell;
-    Detail->move(Twips(DetailsLeft(cell)), Twips(DetailsTop));
+    Detail->adjustSize();
+    Detail->move(BesideCell(txtpic[std::size_t(cell)], Detail->frameGeometry().size()));
     const CivilDate d = JdToCivil(jd);
     Detail->SetDay(d.Year, d.Month, d.Day, {App.Config.MonthFirstDates, App.Config.DateSeparator});
     Detail->Timer1->start();
@@ -626,7 +797,8 @@ void FrmCalendar::ShowDayGraph()
 void FrmCalendar::mnuyearly_Click()
 {
     FrmYearCal yearCal({App.Cal, App.Astro, Here.SouthernHemisphere,
-                        [this](int year) { VsbYear->setValue(year); }, [this] { RefreshMonth(); }},
+                        [this](int year) { SetBars(year, NoonMinutes); },
+                        [this] { RefreshMonth(); }},
                        this);
     yearCal.ShowYearCal();
     yearCal.exec();
@@ -674,6 +846,7 @@ void FrmCalendar::ApplyCurrentLocation()
         DLoc[std::size_t(i)]->setChecked(i == s.CurLoc);
         Loc[std::size_t(i)]->setText(caption);
     }
+    Clock24->setChecked(!s.AmPm());
     Mouse[0]->setChecked(!s.MouseClick);
     Mouse[1]->setChecked(s.MouseClick);
     if (s.ParallacticAngle == "True" || s.ParallacticAngle == "False") {
@@ -687,9 +860,17 @@ void FrmCalendar::DST_Click(int index)
 {
     App.Config.TimeFormats = index == 2 ? LocalClockMode : static_cast<std::int16_t>(index);
     ApplyCurrentLocation();
-    RefreshMonth();
-    VsbHour->setValue(NoonMinutes);
-    VsbHour->update();
+    SetBars(App.Cal.CurYear, NoonMinutes);
+    RefreshMonth(FramedDay());
+}
+
+int FrmCalendar::FramedDay() const { return App.Cal.TodayCell - App.Cal.FirstWeekday + 1; }
+
+void FrmCalendar::Clock24_Click()
+{
+    App.Config.AMPM = Clock24->isChecked() ? "False" : "True";
+    ApplyCurrentLocation();
+    RefreshMonth(FramedDay());
 }
 
 void FrmCalendar::Mouse_Click(int index)
@@ -714,9 +895,10 @@ void FrmCalendar::DLoc_Click(int index)
     App.Config.CurLoc = static_cast<std::int16_t>(index);
     for (int i = 1; i <= LocationCount; ++i)
         DLoc[std::size_t(i)]->setChecked(i == index);
-    // The month redraw rebuilds the year's events for the new zone and hemisphere.
+    // The month redraw rebuilds the year's events for the new zone and hemisphere; the framed
+    // day stays.
     ApplyCurrentLocation();
-    RefreshMonth();
+    RefreshMonth(FramedDay());
 }
 
 void FrmCalendar::Loc_Click(int index)
@@ -793,6 +975,8 @@ bool FrmCalendar::eventFilter(QObject* watched, QEvent* event)
         PicM_MouseMove();
     } else if (watched == PicM && event->type() == QEvent::MouseButtonRelease) {
         PicM_Click();
+    } else if (watched == PicM && event->type() == QEvent::Resize && !ComputingSuppressed) {
+        DrawMoonPicture(App.Config.ParallacticOn());
     } else if (watched == centralWidget() && event->type() == QEvent::MouseMove) {
         Form_MouseMove();
     } else if (event->type() == QEvent::MouseMove) {
@@ -857,12 +1041,13 @@ void FrmCalendar::PrintCalendar_Click()
     const BusyPointer busy;
     if (!PrintWindow)
         PrintWindow = new FrmPrint(App.Astro, App.Cal, App.Messages, this);
-    PrintWindow->PrintACalendar(Here.SouthernHemisphere);
+    PrintWindow->PrintACalendar(Here.SouthernHemisphere, Here.CurLocName);
 }
 
 void FrmCalendar::AtAGlance_Click()
 {
-    auto* glance = new FrmGlance(App.Cal, Here.SouthernHemisphere, App.Messages, this);
+    auto* glance =
+        new FrmGlance(App.Cal, Here.SouthernHemisphere, Here.CurLocName, App.Messages, this);
     hide();
     glance->show();
 }

@@ -20,6 +20,7 @@ class FrmDetail;
 class FrmPrint;
 class QAction;
 class QGroupBox;
+class QLayout;
 class QLabel;
 class QPushButton;
 class QScrollBar;
@@ -71,8 +72,16 @@ public:
     // The location-dependent parts of the window: captions, menus, status bar, hour label,
     // hemisphere pictures.
     void ApplyCurrentLocation();
-    // Redraws the shown month and recomputes the selected day (skipped once after SkipRefresh).
-    void RefreshMonth();
+    // Redraws the shown month and recomputes the selected day: day selectDay of the month when
+    // given (the last day when the month is shorter), else today in today's month, else day 1.
+    void RefreshMonth(int selectDay = 0);
+    // The shown month becomes month/year, the bars follow, the month is drawn once.
+    void ShowMonth(int year, int month, int selectDay = 0);
+    // The framed day moves by days, into the next or previous month if need be; the details
+    // beside the grid follow it.
+    void MoveSelection(int days);
+    // "24-Hour Clock": the AMPM setting off or on, everywhere the program shows a time.
+    void Clock24_Click();
     // The month grid's moon-phase pictures for the current hemisphere.
     void SetHemispherePictures();
     // Fills the day details beside the grid from the selected day's forecast.
@@ -109,6 +118,7 @@ public:
     QAction* Reminders = nullptr;
     std::array<QAction*, 11> DLoc{}; // 1..10
     std::array<QAction*, 11> Loc{};  // 1..10
+    QAction* Clock24 = nullptr;
     QAction* HelpContents = nullptr;
     QAction* MnuAbout = nullptr;
 
@@ -122,7 +132,6 @@ public:
     std::vector<std::string> ZonesTold; // unknown zone names already reported
     // Navigation state.
     std::int16_t SelDay = 1;
-    std::int16_t SkipRefresh = 0;
     int LastHoveredCell = -1;
     struct ComputedDay {
         int Year = 0, Month = 0, Day = 0;
@@ -147,12 +156,16 @@ protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    // Arrows move the framed day, Page Up/Down the month (with Ctrl the year), Home goes to
+    // today, Enter opens the day's details.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     bool Exiting = false; // Exit was chosen
 
     void BuildControls();
-    void BuildDetailsPanel(QWidget* central);
+    QLayout* BuildMonthGrid(QWidget* central);
+    QLayout* BuildDetailsPanel(QWidget* central);
     void BuildMenus();
     void BuildStatusBar();
     void RecordPosition();
@@ -162,11 +175,16 @@ private:
     // Now on the current location's clock under "Local Clock", else on the computer's.
     QDateTime PlaceNow() const;
     void SelectCell(int index);
+    int FramedDay() const;
+    // Sets the year and hour bars without their change events, and shows the hour.
+    void SetBars(int year, int minutes);
+    void ShowHour(int minutes);
+    void ComputeAtNoon();
     // ComputeSunDay, ComputeDay, DoLabels and the moon picture for SelectedJD.
     void ComputeSelectedDay();
     void DrawMoonPicture(bool parallacticView);
     void ShowLabelToolTip(int index);
-    QLabel* MakeLabel(int index, QWidget* parent, const QRect& geometry);
+    QLabel* MakeLabel(int index, QWidget* parent);
 
     AppState& App;
 };

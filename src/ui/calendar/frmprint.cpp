@@ -31,10 +31,11 @@ FrmPrint::FrmPrint(Astronomy& engine, const Calendar& cal, MessageService& messa
     connect(Command2, &QPushButton::clicked, this, &FrmPrint::Command2_Click);
 }
 
-void FrmPrint::PrintACalendar(std::int16_t southernHemisphere)
+void FrmPrint::PrintACalendar(std::int16_t southernHemisphere, const std::string& place)
 {
     const DayForecast shown = Engine.Forecast; // the main window still reads it
     Page = CalendarPageOf(Engine, Cal, southernHemisphere);
+    Page.Place = place;
     Engine.Forecast = shown;
     Pic[0]->update();
     show();

@@ -19,9 +19,9 @@ public:
     FrmPrint(Astronomy& engine, const Calendar& cal, MessageService& messages,
              QWidget* parent = nullptr);
 
-    // Draws the month the calendar shows into the picture and shows the window; the engine's
-    // forecast is left as it was.
-    void PrintACalendar(std::int16_t southernHemisphere);
+    // Draws the month the calendar shows at the place into the picture and shows the window;
+    // the engine's forecast is left as it was.
+    void PrintACalendar(std::int16_t southernHemisphere, const std::string& place);
     void Command1_Click(); // closes
     void Command2_Click(); // prints
 

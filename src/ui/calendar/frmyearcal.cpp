@@ -4,45 +4,54 @@
 #include "pages/twips.h"
 
 #include <QEvent>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace {
-constexpr int MonthWidth = 168, MonthHeight = 124, Margin = 10, ColumnWidth = 23, RowHeight = 15;
-constexpr int BlanksPerColumn = 5;
+constexpr int BlanksPerColumn = 5, DaysPerWeek = 7, WeekRows = 6, ColumnPadding = 6;
 
-// A label whose text is a row of day numbers (a weekday header, or a month's days with five
-// blanks per weekday before the 1st) and which paints it in seven columns, wrapping into week
-// rows, whatever the font.
-class WeekColumns : public QLabel {
-public:
-    using QLabel::QLabel;
+} // namespace
 
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter p(this);
-        p.setPen(palette().color(QPalette::WindowText));
-        const QString t = text();
-        const auto lead = std::find_if(t.begin(), t.end(), [](QChar c) { return c != ' '; });
-        int column = int(lead - t.begin()) / BlanksPerColumn, row = 0;
-        for (const QString& word : t.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-            p.drawText(QRect(column * ColumnWidth, row * RowHeight, ColumnWidth, RowHeight),
-                       Qt::AlignCenter, word);
-            if (++column == 7) {
-                column = 0;
-                ++row;
-            }
+WeekColumns::WeekColumns(int rows, QWidget* parent) : QWidget(parent), Rows(rows) {}
+
+void WeekColumns::setText(const QString& text)
+{
+    Shown = text;
+    update();
+}
+
+QSize WeekColumns::sizeHint() const { return {DaysPerWeek * ColumnWidth(), Rows * RowHeight()}; }
+
+int WeekColumns::ColumnWidth() const
+{
+    return fontMetrics().horizontalAdvance(QStringLiteral("88")) + ColumnPadding;
+}
+
+int WeekColumns::RowHeight() const { return fontMetrics().height(); }
+
+void WeekColumns::paintEvent(QPaintEvent*)
+{
+    QPainter p(this);
+    p.setPen(palette().color(QPalette::WindowText));
+    const auto lead = std::find_if(Shown.begin(), Shown.end(), [](QChar c) { return c != ' '; });
+    int column = int(lead - Shown.begin()) / BlanksPerColumn, row = 0;
+    const int w = width() / DaysPerWeek, h = RowHeight();
+    for (const QString& word : Shown.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        p.drawText(QRect(column * w, row * h, w, h), Qt::AlignCenter, word);
+        if (++column == DaysPerWeek) {
+            column = 0;
+            ++row;
         }
     }
-};
-} // namespace
+}
 
 FrmYearCal::FrmYearCal(MainWindow main, QWidget* parent) : QDialog(parent), Main(std::move(main))
 {
@@ -61,37 +70,43 @@ void FrmYearCal::BuildControls()
     bold.setBold(true);
     QFont small = font();
     small.setPointSizeF(font().pointSizeF() * 0.9);
+    auto* months = new QGridLayout;
     for (int m = 1; m <= 12; ++m) {
-        const int x = Margin + ((m - 1) % 4) * MonthWidth, y = Margin + ((m - 1) / 4) * MonthHeight;
         Labname[std::size_t(m)] = new QLabel(this);
-        Labname[std::size_t(m)]->setGeometry(x, y, 7 * ColumnWidth, 16);
         Labname[std::size_t(m)]->setAlignment(Qt::AlignCenter);
         Labname[std::size_t(m)]->setFont(bold);
-        Labcaption[std::size_t(m)] = new WeekColumns(this);
-        Labcaption[std::size_t(m)]->setGeometry(x, y + 16, 7 * ColumnWidth, RowHeight);
+        Labcaption[std::size_t(m)] = new WeekColumns(1, this);
         Labcaption[std::size_t(m)]->setFont(small);
-        auto* days = new WeekColumns(this);
+        auto* days = new WeekColumns(WeekRows, this);
         days->setObjectName(QString("Labmonth%1").arg(m));
-        days->setGeometry(x, y + 16 + RowHeight + 2, 7 * ColumnWidth, 6 * RowHeight);
         days->setFont(small);
         days->setAutoFillBackground(true);
         days->setToolTip(QStringLiteral(" DoubleClick to Select and Exit "));
         days->setMouseTracking(true);
         days->installEventFilter(this);
         Labmonth[std::size_t(m)] = days;
+        auto* month = new QVBoxLayout;
+        month->setSpacing(2);
+        month->addWidget(Labname[std::size_t(m)]);
+        month->addWidget(Labcaption[std::size_t(m)]);
+        month->addWidget(days);
+        month->addStretch();
+        months->addLayout(month, (m - 1) / 4, (m - 1) % 4);
     }
-    const int right = Margin + 4 * MonthWidth;
     vsbyearcal = new QScrollBar(Qt::Vertical, this);
-    vsbyearcal->setGeometry(right, Margin, 18, 3 * MonthHeight - 8);
     vsbyearcal->setRange(FirstYear, LastYear);
     vsbyearcal->setTracking(false); // dragging scrolls; the change comes on release
+    months->addWidget(vsbyearcal, 0, 4, 3, 1);
     cmdexit = new QPushButton(QStringLiteral("Done-Exit"), this);
-    cmdexit->setGeometry(right - 100, Margin + 3 * MonthHeight, 100, 28);
-    setFixedSize(right + 18 + Margin, Margin + 3 * MonthHeight + 28 + Margin);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(months);
+    layout->addWidget(cmdexit, 0, Qt::AlignRight);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void FrmYearCal::Form_Load()
 {
+    adjustSize();
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     move((screen.width() - width()) / 2, (screen.height() - height()) / 2);
     Changed = false;

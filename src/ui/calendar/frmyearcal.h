@@ -5,12 +5,33 @@
 #include "calendar/yearcal.h"
 
 #include <QDialog>
+#include <QString>
 
 #include <array>
 #include <functional>
 
 class Astronomy;
 class QLabel;
+
+// A row of day numbers (a weekday header, or a month's days with five blanks per weekday
+// before the 1st), painted in seven columns that wrap into week rows, sized by its font.
+class WeekColumns : public QWidget {
+public:
+    WeekColumns(int rows, QWidget* parent);
+    void setText(const QString& text);
+    const QString& text() const { return Shown; }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    int ColumnWidth() const;
+    int RowHeight() const;
+    int Rows;
+    QString Shown;
+};
 class QPushButton;
 class QScrollBar;
 
@@ -44,8 +65,8 @@ public:
 
     QScrollBar* vsbyearcal = nullptr;
     std::array<QLabel*, 13> Labname{}; // 1..12
-    std::array<QLabel*, 13> Labcaption{};
-    std::array<QLabel*, 13> Labmonth{};
+    std::array<WeekColumns*, 13> Labcaption{};
+    std::array<WeekColumns*, 13> Labmonth{};
     QPushButton* cmdexit = nullptr;
     bool Changed = false;
 

@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QGraphicsSimpleTextItem>
 #include <QStackedBarSeries>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <QValueAxis>
@@ -143,19 +144,25 @@ QString WaterBandName(const CatchTally& band, UnitSystem units)
 
 CatchPages::CatchPages(QTabWidget* tabs, UnitSystem units) : QObject(tabs), Units(units)
 {
+    // One "Catches" tab holds the catch charts' own tabs, so that the window stays as wide as
+    // the day statistics' tabs need.
+    Pages = new QTabWidget(tabs);
+    Pages->setObjectName(QStringLiteral("CatchPages"));
+    Pages->tabBar()->setUsesScrollButtons(false);
     for (int i = 0; i < ChartCount; ++i) {
-        Charts.push_back(NewView(tabs));
+        Charts.push_back(NewView(Pages));
         Charts.back()->installEventFilter(this);
     }
-    auto* timePage = new QWidget(tabs);
+    auto* timePage = new QWidget(Pages);
     auto* timeLayout = new QVBoxLayout(timePage);
     timeLayout->setContentsMargins(0, 0, 0, 0);
     timeLayout->addWidget(Charts[PeriodChart]);
     timeLayout->addWidget(Charts[HourChart]);
-    tabs->addTab(Charts[SpeciesChart], QStringLiteral("Catches by species"));
-    tabs->addTab(timePage, QStringLiteral("Catches by time of day"));
-    tabs->addTab(Charts[SpotChart], QStringLiteral("Catches by spot"));
-    tabs->addTab(Charts[WaterChart], QStringLiteral("Catches by water temperature"));
+    Pages->addTab(Charts[SpeciesChart], QStringLiteral("By species"));
+    Pages->addTab(timePage, QStringLiteral("By time of day"));
+    Pages->addTab(Charts[SpotChart], QStringLiteral("By spot"));
+    Pages->addTab(Charts[WaterChart], QStringLiteral("By water temperature"));
+    tabs->addTab(Pages, QStringLiteral("Catches"));
 }
 
 void CatchPages::Show(const CatchBreakdown& breakdown)

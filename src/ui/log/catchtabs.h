@@ -24,6 +24,7 @@ public:
 
     // By species, by period, by clock hour, by spot, by water temperature.
     std::vector<QChartView*> Charts;
+    QTabWidget* Pages = nullptr; // the catch charts' tabs, in the window's "Catches" tab
 
 protected:
     // A chart follows its view's palette, light or dark.

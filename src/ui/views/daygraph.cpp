@@ -5,17 +5,23 @@
 #include "pages/twips.h"
 #include "text/vbformat.h"
 
+#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 constexpr std::uint32_t Night = 0x400000, SunYellow = 65535, MoonWhite = 0xFFFFFF;
 constexpr std::uint32_t StripBack = 0x603010, TickRed = 0x0000FF;
-constexpr int Left = 16, LineWidth = 728, StripWidth = 520;
+constexpr int LineWidth = 560, StripWidth = 360, StripHeight = 28; // least sizes, pixels
+constexpr int DesignLineWidth = 728;                               // its width at 96 dpi
+constexpr int LegendPerRow = 4;
 
 QString DegreesText(double degrees) { return Q(VbFormat(degrees, "##0.0")) + QChar(0x00B0); }
 
@@ -119,17 +125,21 @@ void DayTimeLine::paintEvent(QPaintEvent*)
     const QString noon = QStringLiteral("12");
     p.drawText(QPointF(Px(s.NoonX) - p.fontMetrics().horizontalAdvance(noon) / 2.0, h * 0.62),
                noon);
-    // The day's events in boxes across the upper middle of the line.
+    // The day's events in boxes centred at their hour, within the line; a box that would
+    // overlap the one before goes a row lower.
     p.setFont(font());
-    double x = 8;
-    for (const std::string& e : s.EventTexts) {
-        const QString t = Q(e);
-        const QRectF box(x, h * 0.34, p.fontMetrics().horizontalAdvance(t) + 8,
-                         p.fontMetrics().height() + 2);
+    QRectF before;
+    for (std::size_t i = 0; i < s.EventTexts.size(); ++i) {
+        const QString t = Q(s.EventTexts[i]);
+        const double w = p.fontMetrics().horizontalAdvance(t) + 8;
+        QRectF box(std::clamp(Px(s.EventX[i]) - w / 2, 0.0, std::max(0.0, width() - w)), h * 0.34,
+                   w, p.fontMetrics().height() + 2);
+        if (box.intersects(before))
+            box.moveTop(before.bottom() + 1);
         p.fillRect(box, Qt::white);
         p.drawRect(box);
         p.drawText(box, Qt::AlignCenter, t);
-        x = box.right() + 8;
+        before = box;
     }
 }
 
@@ -180,15 +190,14 @@ DayGraph::DayGraph(Astronomy& engine, Day day, QWidget* parent)
     Form_Load();
 }
 
-QLabel* DayGraph::MakeLabel(int index, const QString& text, const QRect& geometry)
+QLabel* DayGraph::MakeLabel(int index, const QString& text)
 {
-    return Adopt(index, new QLabel(text, this), geometry);
+    return Adopt(index, new QLabel(text, this));
 }
 
-QLabel* DayGraph::Adopt(int index, QLabel* label, const QRect& geometry)
+QLabel* DayGraph::Adopt(int index, QLabel* label)
 {
     label->setObjectName(QString("Label%1").arg(index));
-    label->setGeometry(geometry);
     Label[std::size_t(index)] = label;
     if (index <= 11) {
         label->setMouseTracking(true);
@@ -199,53 +208,71 @@ QLabel* DayGraph::Adopt(int index, QLabel* label, const QRect& geometry)
 
 void DayGraph::BuildControls()
 {
-    BuildLegend();
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(BuildLegend());
     PicTi = new DayTimeLine(this);
-    PicTi->setGeometry(Left, 34, LineWidth, DayTimeLine::BandHeight + 18);
+    PicTi->setMinimumWidth(LineWidth);
+    resize(DesignLineWidth + 2 * layout->contentsMargins().left(), 0);
+    PicTi->setFixedHeight(DayTimeLine::BandHeight + fontMetrics().height() + 4);
+    layout->addWidget(PicTi);
     QFont bold = font();
     bold.setBold(true);
-    MakeLabel(0, {}, {Left, 158, 120, 20})->setFont(bold);
-    MakeLabel(10, QStringLiteral("Moon's Age:"), {Left + LineWidth - 170, 158, 90, 20});
-    MakeLabel(11, {}, {Left + LineWidth - 80, 158, 80, 20})->setFont(bold);
+    auto* moment = new QHBoxLayout;
+    moment->addWidget(MakeLabel(0, {}));
+    Label[0]->setFont(bold);
+    Label[0]->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(QStringLiteral("12:00 PM")));
+    moment->addStretch();
+    moment->addWidget(MakeLabel(10, QStringLiteral("Moon's Age:")));
+    moment->addWidget(MakeLabel(11, {}));
+    Label[11]->setFont(bold);
+    Label[11]->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(QStringLiteral("29 Days")));
+    layout->addLayout(moment);
+    layout->addLayout(BuildSky());
+    CloseCmd = new QPushButton(QStringLiteral("Close"), this);
+    CloseCmd->setToolTip(QStringLiteral(" Return to Calendar "));
+    layout->addWidget(CloseCmd, 0, Qt::AlignRight);
+}
 
-    const int readX = Left + StripWidth + 24;
-    constexpr int azY = 204, elY = 258;
-    MakeLabel(6, QStringLiteral("Azimuth"), {readX, azY + 4, 70, 20});
-    MakeLabel(7, QStringLiteral("Elevation"), {readX, elY + 4, 70, 20});
-    auto* sunHead = new QLabel(QStringLiteral("Sun"), this);
-    sunHead->setGeometry(readX + 76, azY - 22, 60, 18);
-    auto* moonHead = new QLabel(QStringLiteral("Moon"), this);
-    moonHead->setGeometry(readX + 140, azY - 22, 60, 18);
-
+// The strips with their scales on the left, the read-outs for Sun and Moon on the right.
+QLayout* DayGraph::BuildSky()
+{
     PicAZ = new SkyStrip(SkyStrip::Scale::Azimuth, this);
-    PicAZ->setGeometry(Left, azY, StripWidth, 28);
     PicAZ->setToolTip(QStringLiteral(" Azimuth of Sun and Moon "));
+    PicEL = new SkyStrip(SkyStrip::Scale::Elevation, this);
+    PicEL->setToolTip(QStringLiteral(" Each Tick is 10 Degrees of Elevation "));
+    for (SkyStrip* strip : {PicAZ, PicEL})
+        strip->setMinimumSize(StripWidth, StripHeight);
     Adopt(3,
           new ScaleLabel(QStringLiteral("0                      90                     180        "
                                         "           270               360"),
-                         this),
-          {Left, azY + 28, StripWidth, 16});
-    PicEL = new SkyStrip(SkyStrip::Scale::Elevation, this);
-    PicEL->setGeometry(Left, elY, StripWidth, 28);
-    PicEL->setToolTip(QStringLiteral(" Each Tick is 10 Degrees of Elevation "));
-    MakeLabel(2, QStringLiteral("0"), {Left + 4, elY + 28, 30, 16});
-    MakeLabel(1, QStringLiteral("90"), {Left + StripWidth - 24, elY + 28, 20, 16})
-        ->setAlignment(Qt::AlignRight);
+                         this));
+    auto* elevationScale = new QHBoxLayout;
+    elevationScale->addWidget(MakeLabel(2, QStringLiteral("0")));
+    elevationScale->addStretch();
+    elevationScale->addWidget(MakeLabel(1, QStringLiteral("90")));
 
+    auto* grid = new QGridLayout;
+    grid->setColumnStretch(0, 1);
+    grid->addWidget(new QLabel(QStringLiteral("Sun"), this), 0, 2);
+    grid->addWidget(new QLabel(QStringLiteral("Moon"), this), 0, 3);
+    grid->addWidget(PicAZ, 1, 0);
+    grid->addWidget(Label[3], 2, 0);
+    grid->addWidget(PicEL, 3, 0);
+    grid->addLayout(elevationScale, 4, 0);
+    grid->addWidget(MakeLabel(6, QStringLiteral("Azimuth")), 1, 1);
+    grid->addWidget(MakeLabel(7, QStringLiteral("Elevation")), 3, 1);
     // The read-outs: Sun and Moon azimuth, Sun and Moon elevation.
-    MakeLabel(4, {}, {readX + 76, azY + 4, 62, 20});
-    MakeLabel(5, {}, {readX + 140, azY + 4, 62, 20});
-    MakeLabel(8, {}, {readX + 76, elY + 4, 62, 20});
-    MakeLabel(9, {}, {readX + 140, elY + 4, 62, 20});
-
-    CloseCmd = new QPushButton(QStringLiteral("Close"), this);
-    CloseCmd->setGeometry(Left + LineWidth - 90, 312, 90, 28);
-    CloseCmd->setToolTip(QStringLiteral(" Return to Calendar "));
-    setFixedSize(Left * 2 + LineWidth, 352);
+    const int readout = fontMetrics().horizontalAdvance(DegreesText(-359.9)) + 4;
+    for (const auto& [index, row, column] :
+         {std::tuple{4, 1, 2}, {5, 1, 3}, {8, 3, 2}, {9, 3, 3}}) {
+        grid->addWidget(MakeLabel(index, {}), row, column);
+        Label[std::size_t(index)]->setMinimumWidth(readout);
+    }
+    return grid;
 }
 
-// Colour swatches and their names in one row above the line.
-void DayGraph::BuildLegend()
+// Colour swatches and their names in two rows above the line.
+QLayout* DayGraph::BuildLegend()
 {
     struct Entry {
         std::uint32_t Colour;
@@ -258,19 +285,23 @@ void DayGraph::BuildLegend()
                                                       {0x0000FF, "Major Times"},
                                                       {0x80FF80, "Minor Times"},
                                                       {0xFFFFFF, "Moon"}}};
-    int x = Left;
+    auto* grid = new QGridLayout;
+    const int side = fontMetrics().height() - 2;
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        QLabel* swatch = MakeLabel(int(14 + 2 * i), {}, {x, 10, 14, 14});
+        QLabel* swatch = MakeLabel(int(14 + 2 * i), {});
+        swatch->setFixedSize(side, side);
         swatch->setAutoFillBackground(true);
         swatch->setFrameShape(QFrame::Box);
         QPalette palette = swatch->palette();
         palette.setColor(QPalette::Window, VbColor(entries[i].Colour));
         swatch->setPalette(palette);
-        const QString name = QString::fromLatin1(entries[i].Name);
-        const int w = fontMetrics().horizontalAdvance(name) + 4;
-        MakeLabel(int(15 + 2 * i), name, {x + 18, 8, w, 18});
-        x += 18 + w + 12;
+        const int row = int(i) / LegendPerRow, column = 2 * (int(i) % LegendPerRow);
+        grid->addWidget(swatch, row, column);
+        grid->addWidget(MakeLabel(int(15 + 2 * i), QString::fromLatin1(entries[i].Name)), row,
+                        column + 1);
     }
+    grid->setColumnStretch(2 * LegendPerRow, 1);
+    return grid;
 }
 
 void DayGraph::Form_Load()
@@ -286,6 +317,8 @@ void DayGraph::Form_Activate()
     Series = DrawTimes(Engine.Forecast, Shown.Marks, SunAltitudesOfDay(Engine, Shown.SelectedJD));
     PicTi->SetSeries(&Series);
     Label[11]->setText(QString::number(Shown.Marks.MoonAge) + " Days");
+    // The discs and read-outs open at noon, as if the pointer stood there.
+    PicTi_MouseMove(TimeLineWidth / 2, DayPartTipDepth + 1);
 }
 
 void DayGraph::GetPicData(double jd)

@@ -12,6 +12,7 @@
 
 class Astronomy;
 class QLabel;
+class QLayout;
 class QPushButton;
 class DayTimeLine;
 class SkyStrip;
@@ -53,9 +54,10 @@ protected:
 
 private:
     void BuildControls();
-    void BuildLegend();
-    QLabel* MakeLabel(int index, const QString& text, const QRect& geometry);
-    QLabel* Adopt(int index, QLabel* label, const QRect& geometry);
+    QLayout* BuildLegend();
+    QLayout* BuildSky();
+    QLabel* MakeLabel(int index, const QString& text);
+    QLabel* Adopt(int index, QLabel* label);
 
     Astronomy& Engine;
     Day Shown;

@@ -13,10 +13,10 @@
 #include <QShowEvent>
 #include <QVBoxLayout>
 
-FrmGlance::FrmGlance(const Calendar& cal, std::int16_t southernHemisphere, MessageService& messages,
-                     QWidget* mainWindow)
-    : QWidget(nullptr, Qt::Window), Cal(cal), Southern(southernHemisphere), Messages(messages),
-      MainWindow(mainWindow)
+FrmGlance::FrmGlance(const Calendar& cal, std::int16_t southernHemisphere, std::string place,
+                     MessageService& messages, QWidget* mainWindow)
+    : QWidget(nullptr, Qt::Window), Cal(cal), Southern(southernHemisphere), Place(std::move(place)),
+      Messages(messages), MainWindow(mainWindow)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     Pic = new TwipsPicture(this);
@@ -47,6 +47,7 @@ void FrmGlance::Form_Load()
 void FrmGlance::Form_Activate()
 {
     Chart = GlanceChartOf(Cal, Southern, GlancePictureWidth, GlancePictureHeight);
+    Chart.Place = Place;
     setWindowTitle(QString::fromStdString(Chart.Title));
     Pic->update();
 }

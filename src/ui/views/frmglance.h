@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <array>
+#include <string>
 
 class Calendar;
 class MessageService;
@@ -15,9 +16,9 @@ class TwipsPicture;
 
 class FrmGlance : public QWidget {
 public:
-    // `mainWindow` is shown again when this window closes.
-    FrmGlance(const Calendar& cal, std::int16_t southernHemisphere, MessageService& messages,
-              QWidget* mainWindow);
+    // The chart of the month at the place; `mainWindow` is shown again when this window closes.
+    FrmGlance(const Calendar& cal, std::int16_t southernHemisphere, std::string place,
+              MessageService& messages, QWidget* mainWindow);
 
     void Form_Load();
     void Form_Activate(); // draws the chart of the calendar's month
@@ -34,6 +35,7 @@ protected:
 private:
     const Calendar& Cal;
     std::int16_t Southern;
+    std::string Place;
     MessageService& Messages;
     QWidget* MainWindow;
 };

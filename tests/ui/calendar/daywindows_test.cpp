@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
@@ -38,7 +39,7 @@ protected:
     }
 };
 
-// "&Yearly" stands between "DataBase" and "&Options" in the menu bar.
+// "&Yearly" stands between "&DataBase" and "&Options" in the menu bar.
 TEST_F(DayWindows, YearlyMenuInItsPlace)
 {
     QStringList captions;
@@ -46,21 +47,28 @@ TEST_F(DayWindows, YearlyMenuInItsPlace)
         captions << a->text();
     const auto yearly = captions.indexOf("&Yearly");
     ASSERT_GE(yearly, 0) << captions.join(",").toStdString();
-    EXPECT_EQ(captions.indexOf("DataBase"), yearly - 1);
+    EXPECT_EQ(captions.indexOf("&DataBase"), yearly - 1);
     EXPECT_GT(captions.indexOf("&Options"), yearly);
     EXPECT_EQ(W->mnuyearly->objectName(), "mnuyearly");
 }
 
-// Double-clicking a Wednesday opens the details on the right (4500 twips), a Thursday on the
-// left (500), 1400 from the top, filled for the day; a click on another day hides them, and
-// while they show, passing over the days changes nothing.
+// Double-clicking a day opens the details beside it (a Wednesday's to its right), never over
+// it and within the screen, filled for the day; a click on another day hides them, and while
+// they show, passing over the days changes nothing.
 TEST_F(DayWindows, DoubleClickPlacesAndFillsTheDetails)
 {
     // March 2024 begins on a Friday: cell 10 is Wednesday the 6th, cell 11 Thursday the 7th.
     QTest::mouseDClick(W->txtpic[10], Qt::LeftButton);
     ASSERT_NE(W->Detail, nullptr);
     EXPECT_TRUE(W->Detail->isVisible());
-    EXPECT_EQ(W->Detail->pos(), QPoint(300, 93));
+    const auto cellOnScreen = [this](int cell) {
+        return QRect(W->txtpic[std::size_t(cell)]->mapToGlobal(QPoint(0, 0)),
+                     W->txtpic[std::size_t(cell)]->size());
+    };
+    const QRect screen = W->screen()->availableGeometry();
+    EXPECT_FALSE(W->Detail->frameGeometry().intersects(cellOnScreen(10)));
+    EXPECT_GT(W->Detail->frameGeometry().left(), cellOnScreen(10).right());
+    EXPECT_TRUE(screen.contains(W->Detail->frameGeometry()));
     EXPECT_EQ(W->Detail->windowTitle(), "Details for  3/6/2024");
     EXPECT_EQ(W->Detail->Label[24]->text().right(1), "%");
     EXPECT_TRUE(W->Detail->Timer1->isActive());
@@ -69,8 +77,10 @@ TEST_F(DayWindows, DoubleClickPlacesAndFillsTheDetails)
     EXPECT_EQ(App.Config.SelectedJD, jd);
     W->Detail->close();
 
+    // A Thursday's details go to its left where there is room, else to its right.
     QTest::mouseDClick(W->txtpic[11], Qt::LeftButton);
-    EXPECT_EQ(W->Detail->pos(), QPoint(33, 93));
+    EXPECT_FALSE(W->Detail->frameGeometry().intersects(cellOnScreen(11)));
+    EXPECT_TRUE(screen.contains(W->Detail->frameGeometry()));
     EXPECT_EQ(W->Detail->windowTitle(), "Details for  3/7/2024");
     QTest::mouseClick(W->txtpic[15], Qt::LeftButton);
     EXPECT_FALSE(W->Detail->isVisible());

@@ -3,7 +3,10 @@
 #include "ui/calendar/daycellwidget.h"
 #include "ui/calendar/frmcalendar.h"
 #include "ui/calendar/mainwindowtest.h"
+#include "ui/views/frmdetail.h"
 
+#include <QAction>
+#include <QKeySequence>
 #include <QLabel>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -11,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <vector>
 
 namespace {
@@ -54,7 +58,6 @@ TEST_F(Window, MonthButtonsWrapTheYearRange)
     EXPECT_EQ(W->VsbYear->value(), 1900);
     EXPECT_EQ(Text(11), "January");
     EXPECT_EQ(Text(12), " 1900");
-    EXPECT_EQ(W->SkipRefresh, 0);
     W->DecMonth_Click();
     EXPECT_EQ(App.Cal.CurYear, 2500);
     EXPECT_EQ(App.Cal.CurMonth, 12);
@@ -334,4 +337,79 @@ TEST_F(Window, TheChosenPlacesClockAndItsScreenshots)
     EXPECT_EQ(W->VsbHour->value(), 13 * 60);
     EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-kolkata.png"));
 }
+} // namespace
+
+namespace {
+
+// The keys on the real window, one after another from Sunday 10 March 2024: the framed day
+// and the month shown after each, across month and year ends; each key redraws a month at
+// most once and computes the framed day's forecast once.
+TEST_F(Window, KeysMoveTheFramedDayAndTheMonth)
+{
+    const struct {
+        int Key;
+        Qt::KeyboardModifiers Modifiers;
+        int Year, Month, Day;
+    } steps[] = {
+        {Qt::Key_Up, Qt::NoModifier, 2024, 3, 3},
+        {Qt::Key_Up, Qt::NoModifier, 2024, 2, 25},
+        {Qt::Key_Down, Qt::NoModifier, 2024, 3, 3},
+        {Qt::Key_Left, Qt::NoModifier, 2024, 3, 2},
+        {Qt::Key_Left, Qt::NoModifier, 2024, 3, 1},
+        {Qt::Key_Left, Qt::NoModifier, 2024, 2, 29},
+        {Qt::Key_Right, Qt::NoModifier, 2024, 3, 1},
+        {Qt::Key_PageDown, Qt::NoModifier, 2024, 4, 1},
+        {Qt::Key_PageUp, Qt::NoModifier, 2024, 3, 10}, // the clock's month frames today
+        {Qt::Key_PageDown, Qt::ControlModifier, 2025, 3, 1},
+        {Qt::Key_PageUp, Qt::ControlModifier, 2024, 3, 10},
+        {Qt::Key_PageUp, Qt::NoModifier, 2024, 2, 1},
+        {Qt::Key_PageUp, Qt::NoModifier, 2024, 1, 1},
+        {Qt::Key_Left, Qt::NoModifier, 2023, 12, 31},
+        {Qt::Key_Right, Qt::NoModifier, 2024, 1, 1},
+        {Qt::Key_Home, Qt::NoModifier, 2024, 3, 10},
+    };
+    for (const auto& s : steps) {
+        const int computed = App.Astro.DaysComputed, built = App.Cal.YearTableBuilds;
+        QTest::keyClick(W.get(), Qt::Key(s.Key), s.Modifiers);
+        const std::string at = QKeySequence(s.Key | s.Modifiers).toString().toStdString() + " to " +
+                               std::to_string(s.Year) + "-" + std::to_string(s.Month) + "-" +
+                               std::to_string(s.Day);
+        EXPECT_EQ(App.Cal.CurYear, s.Year) << at;
+        EXPECT_EQ(App.Cal.CurMonth, s.Month) << at;
+        EXPECT_EQ(FramedCell() - App.Cal.FirstWeekday + 1, s.Day) << at;
+        EXPECT_EQ(W->VsbYear->value(), s.Year) << at;
+        EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(s.Year, s.Month, s.Day)) << at;
+        EXPECT_EQ(App.Astro.DaysComputed - computed, 1) << at;
+        EXPECT_LE(App.Cal.YearTableBuilds - built, 1) << at;
+    }
+    // Enter opens the framed day's details.
+    QTest::keyClick(W.get(), Qt::Key_Return);
+    ASSERT_NE(W->Detail, nullptr);
+    EXPECT_TRUE(W->Detail->isVisible());
+    EXPECT_EQ(W->Detail->windowTitle(), "Details for  3/10/2024");
+    W->Detail->close();
+}
+
+// Another location keeps the framed day; the 24-hour clock shows every time without AM/PM
+// and is there again at the next start.
+TEST_F(Window, LocationAndClockChoicesKeepTheFramedDay)
+{
+    QTest::mouseClick(W->txtpic[20], Qt::LeftButton); // 16 March
+    W->DLoc_Click(2);
+    EXPECT_EQ(FramedCell(), 20);
+    W->Clock24->trigger();
+    EXPECT_EQ(FramedCell(), 20);
+    EXPECT_EQ(Text(15), "12:00");
+    for (int label : {0, 2, 14, 16})
+        EXPECT_EQ(Text(label).find('M'), std::string::npos) << Text(label);
+    ASSERT_TRUE(SaveSettings(App.Config, App.Store));
+    AppState again;
+    LoadSettings(again.Config, again.Store);
+    again.Config.CurLoc = again.Config.DefaultLocation();
+    FrmCalendar next(again);
+    next.show();
+    EXPECT_TRUE(next.Clock24->isChecked());
+    EXPECT_EQ(next.Label[15]->text(), "12:00");
+}
+
 } // namespace

@@ -371,9 +371,10 @@ TEST(CatchPages, ChartTheFilesFishInTheChosenUnits)
     EXPECT_EQ(bands, (QStringList{"(no temperature)", "41 to 50 \u00B0F", "50 to 59 \u00B0F"}));
     EXPECT_EQ(water.at("50 to 59 \u00B0F").first, 8);
     window.show();
-    for (int page = 1; page <= 4; ++page) {
-        window.Tabs->setCurrentIndex(window.Tabs->count() - page);
-        Shots(window, QStringLiteral("catch-statistics-%1").arg(page));
+    window.Tabs->setCurrentWidget(window.CatchCharts->Pages);
+    for (int page = 0; page < window.CatchCharts->Pages->count(); ++page) {
+        window.CatchCharts->Pages->setCurrentIndex(page);
+        Shots(window, QStringLiteral("catch-statistics-%1").arg(page + 1));
     }
 }
 

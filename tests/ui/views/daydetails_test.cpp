@@ -178,15 +178,9 @@ TEST(DoDetails, SeasonsUnderLocalClockReadThePlacesClock)
     }
 }
 
-// The window beside the grid: Sunday to Wednesday on the right, Thursday to Saturday on the
-// left; its caption in the platform's date order.
-TEST(FrmDetail, PlacementAndCaption)
+// The window's caption in the platform's date order.
+TEST(FrmDetail, Caption)
 {
-    EXPECT_EQ(DetailsLeft(3), 4500);  // a Wednesday
-    EXPECT_EQ(DetailsLeft(31), 4500); // a Wednesday of the fifth row
-    EXPECT_EQ(DetailsLeft(4), 500);   // a Thursday
-    EXPECT_EQ(DetailsLeft(34), 500);  // a Saturday
-    EXPECT_EQ(DetailsLeft(35), 4500); // a Sunday of the sixth row
     EXPECT_EQ(DetailsCaption(2024, 3, 5, true, '/'), "Details for  3/5/2024");
     EXPECT_EQ(DetailsCaption(2024, 3, 5, false, '.'), "Details for 5.3.2024");
 

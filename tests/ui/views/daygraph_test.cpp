@@ -30,8 +30,8 @@ struct Graph {
     std::string Text(int i) const { return W->Label[std::size_t(i)]->text().toStdString(); }
 };
 
-// The caption names the day; activation draws the day and shows the moon's age; the pointer
-// at the middle of the line reads noon and moves Sun and Moon to their noon places.
+// The caption names the day; activation draws the day, shows the moon's age and opens with
+// Sun and Moon at their noon places, as the pointer at the middle of the line shows them.
 TEST(DayGraphWindow, PointerReadsTheClockAndTheSky)
 {
     Graph g(92.42, 31.25, 6, 6, 20);
@@ -40,12 +40,12 @@ TEST(DayGraphWindow, PointerReadsTheClockAndTheSky)
     EXPECT_EQ(g.Text(11),
               std::to_string(g.Cal.YearDays[std::size_t(DayOfYearOf(2024, 6, 20))].MoonAge) +
                   " Days");
-    g.W->PicTi_MouseMove(3500.0, 300.0);
     EXPECT_EQ(g.Text(0), "12:00 PM");
     const SkyReadout noon = GetPicData(g.Engine, CivilToJd(2024, 6, 20) + 0.5);
     EXPECT_DOUBLE_EQ(g.W->Sky.SunAzimuth, noon.SunAzimuth);
     EXPECT_DOUBLE_EQ(g.W->Sky.MoonElevation, noon.MoonElevation);
     EXPECT_EQ(g.Text(4).substr(0, 3), std::to_string(int(noon.SunAzimuth)).substr(0, 3));
+    g.W->PicTi_MouseMove(3500.0, 300.0);
     EXPECT_EQ(g.W->PicTi->toolTip().left(9), " Sunrise ");
     // Below the depth that names the day's part the tip stays as it was; off the line the
     // clock is emptied.
