@@ -239,6 +239,9 @@ TEST(CatchConditions, SpeciesNotesAndReleasedPickTheDaysPlainSqlPicks)
         c.Note = i % 7 == 0 ? "At the DROP-off, 100% sure" : "";
         catches.push_back(c);
     }
+    Catch rhea = MakeCatch("2024-01-03", "", "Ñandú", 1, false);
+    rhea.Note = "Ål i vassen";
+    catches.push_back(rhea);
     ASSERT_TRUE(AddCatches(path, catches, Now));
     struct Case {
         CatchConditions Conditions;
@@ -262,6 +265,9 @@ TEST(CatchConditions, SpeciesNotesAndReleasedPickTheDaysPlainSqlPicks)
          "JulianDate IN (SELECT JulianDate FROM Catches WHERE instr(Note, '0% s'))",
          "0"},
         {{"", "w_0", false}, "0", "0"}, // "_" stands for itself
+        // Case is ignored beyond ASCII, as SQLite's NOCASE does not.
+        {{"ñANDÚ", "", false}, "JulianDate = '2024-01-03'", "0"},
+        {{"", "ål I", false}, "JulianDate = '2024-01-03'", "0"},
     };
     for (const Case& k : cases) {
         for (const auto& [file, where] : {std::pair{path, k.Where}, std::pair{old, k.OldWhere}}) {
