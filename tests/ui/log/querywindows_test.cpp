@@ -426,6 +426,12 @@ TEST(TableView, CatchColumnsSummariseEachDaysCatches)
                     << r << " " << c;
         }
         EXPECT_EQ(withCatches, k.File == path ? 3 : 0);
+        if (k.Units == UnitSystem::Imperial) {
+            grid.DBGrid1->selectRow(69); // March 10
+            grid.resize(1300, 420);
+            grid.DBGrid1->scrollTo(model->index(69, 1), QAbstractItemView::PositionAtTop);
+            Screenshot(grid, "frmTable2-catches");
+        }
         EXPECT_TRUE(env.ShownTexts().isEmpty());
     }
 }
