@@ -3,6 +3,7 @@
 #include "db/jetsql.h"
 #include "db/storedforms.h"
 #include "logdb/backups.h"
+#include "logdb/catchphotos.h"
 #include "logdb/catchunits.h"
 #include "logdb/logfiles.h"
 #include "logdb/yearlock.h"
@@ -12,8 +13,7 @@
 #include <QFileInfo>
 #include <QSqlQuery>
 
-#include <map>
-#include <set>
+#include <algorithm>
 
 namespace {
 
@@ -128,12 +128,12 @@ DbResult ReadPhotos(Database& db, const QString& where, const QVariantList& valu
 }
 
 // The catches the condition `where` over Catches c picks, with their photos.
-DbResult ReadCatches(const QString& yearFile, const QString& where, const QVariantList& values,
-                     std::vector<Catch>& out)
+DbResult ReadCatches(const QString& yearFile, const QString& connect, const QString& where,
+                     const QVariantList& values, std::vector<Catch>& out)
 {
     Database db;
     int version = 0;
-    DbResult result = db.Open(yearFile);
+    DbResult result = db.Open(yearFile, connect);
     result = result ? VersionOf(db, version) : result;
     if (!result || version == 0)
         return result;
@@ -241,14 +241,15 @@ DbResult FollowTotals(Database& db, const std::set<QString>& days)
 // tables is backed up and gains them in the same transaction.
 using CatchChange = std::function<DbResult(Database&, std::set<QString>& days)>;
 
-DbResult ChangeCatches(const QString& yearFile, const QDateTime& now, const CatchChange& change)
+DbResult ChangeCatches(const QString& yearFile, const QString& connect, const QDateTime& now,
+                       const CatchChange& change)
 {
     const YearFileLock lock(yearFile);
     if (!lock.Held())
         return DbResult::Failure(lock.Message());
     Database db;
     int version = 0;
-    DbResult result = db.Open(yearFile);
+    DbResult result = db.Open(yearFile, connect);
     result = result ? VersionOf(db, version) : result;
     if (result && version > CatchSchemaVersion)
         return DbResult::Failure(
@@ -265,6 +266,42 @@ DbResult ChangeCatches(const QString& yearFile, const QDateTime& now, const Catc
         done = done ? change(db, days) : done;
         return done ? FollowTotals(db, days) : done;
     });
+}
+
+// The photos the stored catch shows.
+DbResult PhotosOfCatch(Database& db, qint64 id, QStringList& photos)
+{
+    QSqlQuery q(db.Connection());
+    if (DbResult read =
+            Run(q, QStringLiteral("SELECT Photo FROM CatchPhotos WHERE CatchID = ?"), {id});
+        !read)
+        return read;
+    while (q.next())
+        photos << q.value(0).toString();
+    return DbResult::Success();
+}
+
+// Whether a catch of one of the folder's year files shows the photo, the paths being relative
+// to the folder; a file that cannot be read may show it. `yearFile` opens with `connect`.
+bool PhotoInUse(const QString& yearFile, const QString& connect, const QString& photo)
+{
+    const QString folder = QFileInfo(yearFile).absolutePath();
+    for (const QString& name : ListYearFiles(folder)) {
+        const QString path = QDir(folder).filePath(name);
+        Database db;
+        int version = 0;
+        DbResult result =
+            db.Open(path, QFileInfo(path) == QFileInfo(yearFile) ? connect : QString());
+        result = result ? VersionOf(db, version) : result;
+        if (!result)
+            return true;
+        QSqlQuery q(db.Connection());
+        if (version > 0 &&
+            (!Run(q, QStringLiteral("SELECT 1 FROM CatchPhotos WHERE Photo = ?"), {photo}) ||
+             q.next()))
+            return true;
+    }
+    return false;
 }
 
 bool InRange(const std::optional<double>& value, double low, double high)
@@ -288,21 +325,59 @@ DbResult CreateCatchTables(Database& db)
     return DbResult::Success();
 }
 
-DbResult CatchSchemaOf(const QString& yearFile, int& version)
+DbResult CatchSchemaOf(const QString& yearFile, int& version, const QString& connect)
 {
     Database db;
-    DbResult result = db.Open(yearFile);
+    DbResult result = db.Open(yearFile, connect);
     return result ? VersionOf(db, version) : result;
 }
 
-DbResult ReadDayCatches(const QString& yearFile, const QString& date, std::vector<Catch>& out)
+DbResult ReadDayCatches(const QString& yearFile, const QString& date, std::vector<Catch>& out,
+                        const QString& connect)
 {
-    return ReadCatches(yearFile, QStringLiteral("WHERE c.JulianDate = ?"), {date}, out);
+    return ReadCatches(yearFile, connect, QStringLiteral("WHERE c.JulianDate = ?"), {date}, out);
 }
 
-DbResult ReadYearCatches(const QString& yearFile, std::vector<Catch>& out)
+DbResult ReadYearCatches(const QString& yearFile, std::vector<Catch>& out, const QString& connect)
 {
-    return ReadCatches(yearFile, {}, {}, out);
+    return ReadCatches(yearFile, connect, {}, {}, out);
+}
+
+DbResult ReadCatchSummaries(const QString& yearFile, const std::set<QString>& dates,
+                            std::map<QString, DayCatchSummary>& out, const QString& connect)
+{
+    Database db;
+    int version = 0;
+    DbResult result = db.Open(yearFile, connect);
+    result = result ? VersionOf(db, version) : result;
+    if (!result || version == 0)
+        return result;
+    QSqlQuery q(db.Connection());
+    q.setForwardOnly(true);
+    result = Run(q, QStringLiteral("SELECT JulianDate, Species, FishCount, Released, LengthMm, "
+                                   "WeightG FROM Catches ORDER BY JulianDate, CatchTime, CatchID"));
+    std::map<QString, DayCatchSummary> read;
+    while (result && q.next()) {
+        const QString date = q.value(0).toString();
+        if (!dates.contains(date))
+            continue;
+        DayCatchSummary& day = read[date];
+        const QString species = q.value(1).toString();
+        const bool named = !species.isEmpty();
+        if (named && std::ranges::none_of(day.Species, [&](const QString& s) {
+                return s.toCaseFolded() == species.toCaseFolded();
+            }))
+            day.Species << species;
+        const int count = q.value(2).toInt();
+        day.Fish += count;
+        day.Released += q.value(3).toInt() != 0 ? count : 0;
+        for (auto [most, column] : {std::pair{&day.LongestMm, 4}, std::pair{&day.HeaviestG, 5}})
+            if (const auto measure = OptionalOf<int>(q.value(column)))
+                *most = std::max(most->value_or(*measure), *measure);
+    }
+    if (result)
+        out = std::move(read);
+    return result;
 }
 
 QString CatchProblem(const Catch& c)
@@ -330,34 +405,37 @@ QString CatchProblem(const Catch& c)
     return {};
 }
 
-DbResult AddCatch(const QString& yearFile, Catch& c, const QDateTime& now)
+DbResult AddCatch(const QString& yearFile, Catch& c, const QDateTime& now, const QString& connect)
 {
     std::vector<Catch> one{c};
-    DbResult added = AddCatches(yearFile, one, now);
+    DbResult added = AddCatches(yearFile, one, now, connect);
     if (added)
         c.Id = one.front().Id;
     return added;
 }
 
-DbResult AddCatches(const QString& yearFile, std::vector<Catch>& catches, const QDateTime& now)
+DbResult AddCatches(const QString& yearFile, std::vector<Catch>& catches, const QDateTime& now,
+                    const QString& connect)
 {
     std::vector<Catch> added = catches;
-    DbResult result = ChangeCatches(yearFile, now, [&](Database& db, std::set<QString>& days) {
-        for (Catch& c : added) {
-            if (DbResult done = Insert(db, c); !done)
-                return done;
-            days.insert(c.Date);
-        }
-        return DbResult::Success();
-    });
+    DbResult result =
+        ChangeCatches(yearFile, connect, now, [&](Database& db, std::set<QString>& days) {
+            for (Catch& c : added) {
+                if (DbResult done = Insert(db, c); !done)
+                    return done;
+                days.insert(c.Date);
+            }
+            return DbResult::Success();
+        });
     if (result)
         catches = std::move(added);
     return result;
 }
 
-DbResult UpdateCatch(const QString& yearFile, const Catch& c, const QDateTime& now)
+DbResult UpdateCatch(const QString& yearFile, const Catch& c, const QDateTime& now,
+                     const QString& connect)
 {
-    return ChangeCatches(yearFile, now, [&](Database& db, std::set<QString>& days) {
+    return ChangeCatches(yearFile, connect, now, [&](Database& db, std::set<QString>& days) {
         QString before;
         DbResult result = DayOfCatch(db, c.Id, before);
         result = result ? Checked(db, c) : result;
@@ -379,21 +457,31 @@ DbResult UpdateCatch(const QString& yearFile, const Catch& c, const QDateTime& n
     });
 }
 
-DbResult RemoveCatch(const QString& yearFile, qint64 id, const QDateTime& now)
+DbResult RemoveCatch(const QString& yearFile, qint64 id, const QDateTime& now,
+                     const QString& connect)
 {
-    return ChangeCatches(yearFile, now, [&](Database& db, std::set<QString>& days) {
-        QString day;
-        if (DbResult found = DayOfCatch(db, id, day); !found)
-            return found;
-        QSqlQuery q(db.Connection());
-        DbResult result = Run(q, QStringLiteral("DELETE FROM CatchPhotos WHERE CatchID = ?"),
-                              {id});
-        result = result ? Run(q, QStringLiteral("DELETE FROM Catches WHERE CatchID = ?"),
-                              {id})
-                        : result;
-        days.insert(day);
-        return result;
-    });
+    QStringList photos;
+    DbResult removed =
+        ChangeCatches(yearFile, connect, now, [&](Database& db, std::set<QString>& days) {
+            QString day;
+            if (DbResult found = DayOfCatch(db, id, day); !found)
+                return found;
+            QSqlQuery q(db.Connection());
+            DbResult result = PhotosOfCatch(db, id, photos);
+            result = result
+                         ? Run(q, QStringLiteral("DELETE FROM CatchPhotos WHERE CatchID = ?"), {id})
+                         : result;
+            result = result ? Run(q, QStringLiteral("DELETE FROM Catches WHERE CatchID = ?"), {id})
+                            : result;
+            days.insert(day);
+            return result;
+        });
+    // Once the catch is gone for good; a photo that will not go stays as a harmless file.
+    for (const QString& photo : removed ? photos : QStringList())
+        if (const PhotoFile file = LookUpPhoto(yearFile, photo);
+            !file.Missing && !PhotoInUse(yearFile, connect, photo))
+            QFile::remove(file.Path);
+    return removed;
 }
 
 DbResult ReplaceDayCatches(Database& db, const QString& date, std::vector<Catch>& catches)

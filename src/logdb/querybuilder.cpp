@@ -295,7 +295,7 @@ std::vector<BoundStep> CatchConditionSteps(const CatchConditions& conditions, bo
         if (catchTables) {
             step.Statement += " WHERE JulianDate NOT IN (SELECT JulianDate FROM Catches WHERE 1";
             if (species) {
-                step.Statement += " AND Species = ?";
+                step.Statement += " AND casefold(Species) = casefold(?)";
                 step.Parameters.emplace_back(Trimmed(conditions.Species));
             }
             step.Statement += conditions.ReleasedOnly ? " AND Released = 1)" : ")";
@@ -303,20 +303,16 @@ std::vector<BoundStep> CatchConditionSteps(const CatchConditions& conditions, bo
         steps.push_back(std::move(step));
     }
     if (!conditions.Text.empty()) {
-        // LIKE ignores case; the text's own % _ and \ are escaped to stand for themselves.
-        std::string pattern = "%";
-        for (const char c : conditions.Text) {
-            if (c == '%' || c == '_' || c == '\\')
-                pattern += '\\';
-            pattern += c;
-        }
-        pattern += '%';
-        const std::string like = " LIKE ? ESCAPE '\\'";
-        BoundStep step{"DELETE FROM Table3 WHERE NOT (coalesce(Notes, '')" + like + ")", {pattern}};
+        // Folded alike, the text is found as it stands: no character of it is a wildcard.
+        const auto found = [](const std::string& column) {
+            return "instr(casefold(" + column + "), casefold(?)) > 0";
+        };
+        BoundStep step{"DELETE FROM Table3 WHERE NOT " + found("coalesce(Notes, '')"),
+                       {conditions.Text}};
         if (catchTables) {
-            step.Statement +=
-                " AND JulianDate NOT IN (SELECT JulianDate FROM Catches WHERE Note" + like + ")";
-            step.Parameters.push_back(pattern);
+            step.Statement += " AND JulianDate NOT IN (SELECT JulianDate FROM Catches WHERE " +
+                              found("Note") + ")";
+            step.Parameters.push_back(conditions.Text);
         }
         steps.push_back(std::move(step));
     }

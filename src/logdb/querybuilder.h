@@ -86,7 +86,8 @@ struct SelectionPlan {
 
 // The SQLite statements that, after the steps, delete from Table3 the days the catch
 // conditions leave out, for a file with or without the catches' tables (without them no day
-// has a catch).
+// has a catch). They compare texts through casefold(text), the function RunSelectionSteps
+// gives the connection, so that case is ignored for every letter, not ASCII alone.
 std::vector<BoundStep> CatchConditionSteps(const CatchConditions& conditions, bool catchTables);
 
 // The checks and statements of "Select Data Where". The first step always reads table1 for

@@ -194,6 +194,60 @@ TEST(CatchPhotos, CopiesKeepTheirOwnNamesAndAMissingFileIsReported)
     EXPECT_FALSE(AddPhoto(path, source + "/none.jpg", refused));
 }
 
+TEST(CatchPhotos, RemovingACatchRemovesThePhotosNoOtherCatchShows)
+{
+    const QString path = MakeYearFile("catches-photo-removal");
+    const QDir folder = QFileInfo(path).absoluteDir();
+    const QString source = testenv::FreshDir("camera-removal");
+    testenv::WriteFile(source + "/shared.jpg", "shared");
+    testenv::WriteFile(source + "/own.jpg", "own");
+    Catch first = MakeCatch("2024-05-01", "07:00:00", "Pike", 1, false);
+    Catch second = MakeCatch("2024-05-02", "08:00:00", "Perch", 1, false);
+    QString shared, own;
+    ASSERT_TRUE(AddPhoto(path, source + "/shared.jpg", shared));
+    ASSERT_TRUE(AddPhoto(path, source + "/own.jpg", own));
+    first.Photos = {shared, own};
+    second.Photos = {shared};
+    ASSERT_TRUE(AddCatch(path, first, Now));
+    ASSERT_TRUE(AddCatch(path, second, Now));
+    const auto photoFiles = [&] {
+        return QDir(folder.filePath("photos/2024")).entryList(QDir::Files, QDir::Name);
+    };
+    ASSERT_EQ(photoFiles(), QStringList({"own.jpg", "shared.jpg"}));
+    ASSERT_TRUE(RemoveCatch(path, first.Id, Now));
+    EXPECT_EQ(photoFiles(), QStringList({"shared.jpg"}));
+    ASSERT_TRUE(RemoveCatch(path, second.Id, Now));
+    EXPECT_EQ(photoFiles(), QStringList());
+}
+
+TEST(Catches, AProtectedYearFileNeedsItsPasswordForEveryCatchOperation)
+{
+    const QString path = MakeYearFile("catches-password");
+    {
+        Database db;
+        ASSERT_TRUE(db.Open(path));
+        ASSERT_TRUE(db.SetPassword("Mayfly"));
+    }
+    const QString connect = ";pwd=Mayfly";
+    Catch c = MakeCatch("2024-06-01", "09:30:00", "Trout", 2, true);
+    for (const QString& wrong : {QString(), QString(";pwd=mayfly")})
+        EXPECT_FALSE(AddCatch(path, c, Now, wrong)) << wrong.toStdString();
+    ASSERT_TRUE(AddCatch(path, c, Now, connect));
+    c.Count = 3;
+    ASSERT_TRUE(UpdateCatch(path, c, Now, connect));
+    std::vector<Catch> read;
+    EXPECT_FALSE(ReadDayCatches(path, c.Date, read));
+    ASSERT_TRUE(ReadDayCatches(path, c.Date, read, connect));
+    EXPECT_EQ(read, std::vector<Catch>{c});
+    std::map<QString, DayCatchSummary> days;
+    EXPECT_FALSE(ReadCatchSummaries(path, {c.Date}, days));
+    ASSERT_TRUE(ReadCatchSummaries(path, {c.Date}, days, connect));
+    EXPECT_EQ(days[c.Date].Released, 3);
+    EXPECT_FALSE(RemoveCatch(path, c.Id, Now));
+    ASSERT_TRUE(RemoveCatch(path, c.Id, Now, connect));
+    EXPECT_EQ(PlainColumn(path, "SELECT COUNT(*) FROM Catches")[0], 0);
+}
+
 TEST(CatchUnits, ConversionsFollowTheDefinedFactorsAndTypedValuesAreChecked)
 {
     EXPECT_DOUBLE_EQ(InchesToCm(1), 2.54);
@@ -239,6 +293,9 @@ TEST(CatchConditions, SpeciesNotesAndReleasedPickTheDaysPlainSqlPicks)
         c.Note = i % 7 == 0 ? "At the DROP-off, 100% sure" : "";
         catches.push_back(c);
     }
+    Catch rhea = MakeCatch("2024-01-03", "", "Ñandú", 1, false);
+    rhea.Note = "Ål i vassen";
+    catches.push_back(rhea);
     ASSERT_TRUE(AddCatches(path, catches, Now));
     struct Case {
         CatchConditions Conditions;
@@ -262,6 +319,9 @@ TEST(CatchConditions, SpeciesNotesAndReleasedPickTheDaysPlainSqlPicks)
          "JulianDate IN (SELECT JulianDate FROM Catches WHERE instr(Note, '0% s'))",
          "0"},
         {{"", "w_0", false}, "0", "0"}, // "_" stands for itself
+        // Case is ignored beyond ASCII, as SQLite's NOCASE does not.
+        {{"ñANDÚ", "", false}, "JulianDate = '2024-01-03'", "0"},
+        {{"", "ål I", false}, "JulianDate = '2024-01-03'", "0"},
     };
     for (const Case& k : cases) {
         for (const auto& [file, where] : {std::pair{path, k.Where}, std::pair{old, k.OldWhere}}) {

@@ -1,6 +1,7 @@
 #include "ui/log/frmtable2.h"
 
 #include "db/storedforms.h"
+#include "logdb/catches.h"
 #include "pages/twips.h"
 #include "ui/common/busypointer.h"
 #include "ui/common/databar.h"
@@ -34,6 +35,39 @@ constexpr std::array<GridColumn, 9> ShownColumns = {{{1, "Date", 1150},
                                                      {7, "Major 2 ", 1200},
                                                      {11, "SunRise ", 1300},
                                                      {12, "SunSet  ", 1300}}};
+
+// The catch columns after the record's own, in this order.
+enum CatchColumn { SpeciesColumn, FishColumn, ReleasedColumn, LongestColumn, HeaviestColumn };
+constexpr int CatchColumnCount = HeaviestColumn + 1;
+constexpr std::array<int, CatchColumnCount> CatchColumnWidths = {1800, 450, 700, 900, 900};
+
+QString CatchCaption(int column, UnitSystem units)
+{
+    switch (column) {
+    case SpeciesColumn:
+        return QStringLiteral("Species");
+    case FishColumn:
+        return QStringLiteral("Fish");
+    case ReleasedColumn:
+        return QStringLiteral("Released");
+    case LongestColumn:
+        return QStringLiteral("Longest (%1)").arg(QString::fromUtf8(LengthUnit(units)));
+    default:
+        return QStringLiteral("Heaviest (%1)").arg(QString::fromUtf8(WeightUnit(units)));
+    }
+}
+
+// The day's catch columns in the chosen units; all empty for a day without catches.
+std::array<QString, CatchColumnCount> CatchTexts(const DayCatchSummary& day, UnitSystem units)
+{
+    const auto measure = [](const std::optional<int>& value, auto text) {
+        return value ? QString::fromStdString(text(*value)) : QString();
+    };
+    return {day.Species.join(QStringLiteral(", ")), QString::number(day.Fish),
+            QString::number(day.Released),
+            measure(day.LongestMm, [units](int mm) { return LengthText(mm, units); }),
+            measure(day.HeaviestG, [units](int g) { return WeightText(g, units); })};
+}
 
 // A stored value as the grid shows it: dates and times in the browser's display forms.
 QString GridText(const QVariant& stored, ColumnKind kind)
@@ -102,14 +136,38 @@ void frmTable2::Form_Load()
 void frmTable2::FillGrid()
 {
     const int count = Data1.RecordCount();
+    const int fields = Data1.FieldCount();
+    const int dateField = Data1.FieldIndex(QStringLiteral("JulianDate"));
     Rows->setRowCount(count);
-    Rows->setColumnCount(Data1.FieldCount());
+    Rows->setColumnCount(fields + CatchColumnCount);
+    std::vector<QString> dates;
     for (int r = 0; r < count; ++r, Data1.MoveNext()) {
-        for (int c = 0; c < Data1.FieldCount(); ++c)
+        for (int c = 0; c < fields; ++c)
             Rows->setItem(r, c, new QStandardItem(GridText(Data1.Field(c), Data1.FieldKind(c))));
+        dates.push_back(dateField < 0 ? QString() : Data1.Field(dateField).toString());
     }
     if (count > 0)
         Data1.MoveFirst();
+    FillCatchColumns(dates);
+}
+
+// The catch columns of every row from one reading of the year file's catches.
+void frmTable2::FillCatchColumns(const std::vector<QString>& dates)
+{
+    std::map<QString, DayCatchSummary> days;
+    if (const DbResult read =
+            ReadCatchSummaries(Ctx.State.DBPath, {dates.begin(), dates.end()}, days);
+        !read)
+        Data1_Error(read.Message);
+    const int first = Data1.FieldCount();
+    for (int r = 0; r < static_cast<int>(dates.size()); ++r) {
+        const auto day = days.find(dates[std::size_t(r)]);
+        if (day == days.end())
+            continue;
+        const auto texts = CatchTexts(day->second, Ctx.Units);
+        for (int c = 0; c < CatchColumnCount; ++c)
+            Rows->setItem(r, first + c, new QStandardItem(texts[std::size_t(c)]));
+    }
 }
 
 void frmTable2::showEvent(QShowEvent* event)
@@ -128,17 +186,22 @@ void frmTable2::SetColumns()
 {
     for (int c = 0; c < Rows->columnCount(); ++c)
         DBGrid1->setColumnHidden(c, true);
-    for (const GridColumn& g : ShownColumns) {
-        if (g.Position >= Rows->columnCount())
-            continue;
-        Rows->setHeaderData(g.Position, Qt::Horizontal, QString::fromLatin1(g.Caption));
-        DBGrid1->setColumnHidden(g.Position, false);
-        // The column's own width, or wider when its heading or values need it.
-        DBGrid1->resizeColumnToContents(g.Position);
-        DBGrid1->setColumnWidth(g.Position,
-                                std::max(Twips(g.Width), DBGrid1->columnWidth(g.Position)));
-    }
+    for (const GridColumn& g : ShownColumns)
+        if (g.Position < Data1.FieldCount())
+            ShowColumn(g.Position, QString::fromLatin1(g.Caption), g.Width);
+    for (int c = 0; c < CatchColumnCount; ++c)
+        ShowColumn(Data1.FieldCount() + c, CatchCaption(c, Ctx.Units),
+                   CatchColumnWidths[std::size_t(c)]);
     FitWindowToColumns();
+}
+
+// The column's own width, or wider when its heading or values need it.
+void frmTable2::ShowColumn(int position, const QString& caption, int widthTwips)
+{
+    Rows->setHeaderData(position, Qt::Horizontal, caption);
+    DBGrid1->setColumnHidden(position, false);
+    DBGrid1->resizeColumnToContents(position);
+    DBGrid1->setColumnWidth(position, std::max(Twips(widthTwips), DBGrid1->columnWidth(position)));
 }
 
 // Wide enough for every shown column, within the screen.
@@ -146,8 +209,8 @@ void frmTable2::FitWindowToColumns()
 {
     int width = DBGrid1->verticalHeader()->width() + 2 * DBGrid1->frameWidth() +
                 style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    for (const GridColumn& g : ShownColumns)
-        width += DBGrid1->isColumnHidden(g.Position) ? 0 : DBGrid1->columnWidth(g.Position);
+    for (int c = 0; c < Rows->columnCount(); ++c)
+        width += DBGrid1->isColumnHidden(c) ? 0 : DBGrid1->columnWidth(c);
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         width = std::min(width, screen->availableGeometry().width());
     resize(std::max(width, this->width()), height());

@@ -1,5 +1,6 @@
 // The grid view of the record browser's selection: one row per record in the browser's
-// order, the columns the angler reads at a glance, and a double click on a row that takes
+// order, the columns the angler reads at a glance, then the day's catches (species, fish,
+// released, longest and heaviest in the chosen units), and a double click on a row that takes
 // the browser back to that day.
 #pragma once
 
@@ -7,6 +8,8 @@
 #include "logdb/logstate.h"
 
 #include <QDialog>
+
+#include <vector>
 
 class DataBar;
 class QAction;
@@ -41,7 +44,9 @@ protected:
 
 private:
     void FillGrid();
+    void FillCatchColumns(const std::vector<QString>& dates);
     void SetColumns();
+    void ShowColumn(int position, const QString& caption, int widthTwips);
     void FitWindowToColumns();
     void GridRowChanged(int row);
 

@@ -1,5 +1,6 @@
 // The browser's query builder, the grid view and the report window on a real year of
 // forecasts, offscreen.
+#include "logdb/catches.h"
 #include "logdb/querybuilder.h"
 #include "logdb/reportlines.h"
 #include "pages/twips.h"
@@ -327,7 +328,7 @@ TEST(GridView, ColumnsAndAJumpBackToThePickedDay)
     grid.Form_Activate();
     const auto* model = grid.DBGrid1->model();
     ASSERT_EQ(model->rowCount(), 52);
-    EXPECT_EQ(model->columnCount(), 25);
+    EXPECT_EQ(model->columnCount(), 30); // table1's 25, then the 5 catch columns
     EXPECT_EQ(model->headerData(1, Qt::Horizontal).toString(), "Date");
     EXPECT_EQ(model->headerData(6, Qt::Horizontal).toString(), "Major 1 ");
     EXPECT_EQ(model->headerData(12, Qt::Horizontal).toString(), "SunSet  ");
@@ -351,6 +352,88 @@ TEST(GridView, ColumnsAndAJumpBackToThePickedDay)
     EXPECT_EQ(w->Data1.Field("DBID").toInt(), fridays[9]);
     EXPECT_EQ(w->Label3->text().left(3), "Fri");
     EXPECT_FALSE(w.Env.State.FindRecord);
+}
+
+// The catch columns against plain SQL over the file: species once each (ignoring case) by
+// their first catch's time, untimed first; the sums; the largest measures in the chosen units.
+TEST(TableView, CatchColumnsSummariseEachDaysCatches)
+{
+    const QString path = MakeYearFile("grid-catches");
+    const QString old = MakeYearFile("grid-catches-old");
+    const auto make = [](const char* date, const char* time, const char* species, int count,
+                         bool released, std::optional<int> mm, std::optional<int> g) {
+        Catch c;
+        c.Date = date;
+        c.Time = time;
+        c.Species = species;
+        c.Count = count;
+        c.Released = released;
+        c.LengthMm = mm;
+        c.WeightG = g;
+        return c;
+    };
+    std::vector<Catch> catches = {
+        make("2024-03-10", "06:10:00", "Pike", 1, false, 812, 4350),
+        make("2024-03-10", "05:00:00", "walleye", 3, true, 400, std::nullopt),
+        make("2024-03-10", "20:00:00", "PIKE", 2, true, std::nullopt, 5000),
+        make("2024-03-11", "", "Perch", 5, false, std::nullopt, std::nullopt),
+        make("2024-03-11", "04:00:00", "Bream", 1, false, 300, 640),
+        make("2024-07-04", "23:50:00", "Ñandú", 1, true, 1234, 12345)};
+    ASSERT_TRUE(AddCatches(path, catches, QDateTime::currentDateTime()));
+    struct Case {
+        QString File;
+        UnitSystem Units;
+        QString LengthSql, WeightSql; // the stored measure in the shown unit
+        QString Longest, Heaviest;    // the headings
+    };
+    const std::vector<Case> cases = {
+        {path, UnitSystem::Metric, "printf('%.1f', m / 10.0)", "printf('%.2f', w / 1000.0)",
+         "Longest (cm)", "Heaviest (kg)"},
+        {path, UnitSystem::Imperial, "printf('%.1f', m / 25.4)", "printf('%.2f', w / 453.59237)",
+         "Longest (in)", "Heaviest (lb)"},
+        {old, UnitSystem::Metric, "", "", "Longest (cm)", "Heaviest (kg)"}};
+    for (const Case& k : cases) {
+        LogWindowEnv env(QFileInfo(k.File).absolutePath(), k.File);
+        LogContext context = env.Context();
+        context.Units = k.Units;
+        frmTable2 grid(context, QStringLiteral("SELECT * FROM table1 ORDER BY JulianDate"));
+        grid.Form_Activate();
+        const auto* model = grid.DBGrid1->model();
+        const int first = model->columnCount() - 5;
+        QStringList headings;
+        for (int c = first; c < model->columnCount(); ++c)
+            headings << model->headerData(c, Qt::Horizontal).toString();
+        EXPECT_EQ(headings, QStringList({"Species", "Fish", "Released", k.Longest, k.Heaviest}));
+        const QString perDay =
+            k.LengthSql.isEmpty()
+                ? "SELECT NULL, NULL, NULL, NULL, NULL FROM table1"
+                : "SELECT (SELECT group_concat(Species, ', ') FROM (SELECT Species, "
+                  "min(printf('%8s|%010d', coalesce(CatchTime, ''), CatchID)) FROM Catches c "
+                  "WHERE c.JulianDate = t.JulianDate GROUP BY lower(Species) ORDER BY 2)), s.n, "
+                  "s.r, iif(m IS NULL, NULL, " +
+                      k.LengthSql + "), iif(w IS NULL, NULL, " + k.WeightSql +
+                      ") FROM table1 t LEFT JOIN (SELECT JulianDate, SUM(FishCount) n, "
+                      "SUM(FishCount * Released) r, max(LengthMm) m, max(WeightG) w FROM "
+                      "Catches GROUP BY JulianDate) s USING (JulianDate)";
+        const auto expected = PlainRows(k.File, perDay + " ORDER BY JulianDate");
+        ASSERT_EQ(model->rowCount(), static_cast<int>(expected.size()));
+        int withCatches = 0;
+        for (int r = 0; r < model->rowCount(); ++r) {
+            withCatches += expected[std::size_t(r)][1].isNull() ? 0 : 1;
+            for (int c = 0; c < 5; ++c)
+                EXPECT_EQ(model->index(r, first + c).data().toString().toStdString(),
+                          expected[std::size_t(r)][std::size_t(c)].toString().toStdString())
+                    << r << " " << c;
+        }
+        EXPECT_EQ(withCatches, k.File == path ? 3 : 0);
+        if (k.Units == UnitSystem::Imperial) {
+            grid.DBGrid1->selectRow(69); // March 10
+            grid.resize(1300, 420);
+            grid.DBGrid1->scrollTo(model->index(69, 1), QAbstractItemView::PositionAtTop);
+            Screenshot(grid, "frmTable2-catches");
+        }
+        EXPECT_TRUE(env.ShownTexts().isEmpty());
+    }
 }
 
 TEST(ReportWindow, LinesFollowTheBrowsersOrder)
