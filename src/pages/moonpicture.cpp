@@ -108,6 +108,7 @@ void FloodFill(QImage& image, QPoint seed, QRgb fill, QRgb border)
     const auto open = [&](QRgb c) { return (c | alpha) != border && (c | alpha) != fill; };
     // Scanline by scanline: each pending point starts a run, filled whole, and seeds the runs
     // of open pixels above and below it.
+    const int last = image.width() - 1;
     std::vector<QPoint> pending{seed};
     while (!pending.empty()) {
         const QPoint p = pending.back();
@@ -118,7 +119,7 @@ void FloodFill(QImage& image, QPoint seed, QRgb fill, QRgb border)
         int left = p.x(), right = p.x();
         while (left > 0 && open(line[left - 1]))
             --left;
-        while (right < image.width() - 1 && open(line[right + 1]))
+        while (right < last && open(line[right + 1]))
             ++right;
         std::fill(line + left, line + right + 1, fill | alpha);
         for (const int y : {p.y() - 1, p.y() + 1}) {
