@@ -80,10 +80,11 @@ void CutOutDisc(QImage& image, QPointF centre, double R, QRgb rim)
     // The aliased rim's pixels lie within half a pixel of R. Pixel centres and the disc's
     // centre lie on half pixels, so the squared distances compare exactly.
     const double beyond = R + 1.0;
-    for (int y = 0; y < image.height(); ++y) {
+    const int width = image.width(), height = image.height();
+    for (int y = 0; y < height; ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         const double dy = y + 0.5 - centre.y();
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             const double dx = x + 0.5 - centre.x();
             if (dx * dx + dy * dy > beyond * beyond)
                 line[x] = qRgba(0, 0, 0, 0);
@@ -200,13 +201,15 @@ void RotatePicture(const QImage& source, QImage& target, double angle, int x1, i
     // Both images hold 32-bit pixels; the copy adds what pixel and setPixel would.
     const QRgb alpha = AlphaOf(source) | AlphaOf(target);
     const QRect inside = source.rect() & QRect(QPoint(x1, y1), QPoint(x2 - 1, y2 - 1));
+    const uchar* bits = source.constBits();
+    const qsizetype rowBytes = source.bytesPerLine();
     for (int Y = fromY; Y <= toY; ++Y) {
         auto* line = reinterpret_cast<QRgb*>(target.scanLine(Y));
         for (int X = fromX; X <= toX; ++X) {
             const int xs = int(std::trunc(cx + (X - dx) * c - (Y - dy) * s));
             const int ys = int(std::trunc(cy + (X - dx) * s + (Y - dy) * c));
             if (inside.contains(xs, ys))
-                line[X] = reinterpret_cast<const QRgb*>(source.constScanLine(ys))[xs] | alpha;
+                line[X] = reinterpret_cast<const QRgb*>(bits + ys * rowBytes)[xs] | alpha;
         }
     }
 }
