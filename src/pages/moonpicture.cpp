@@ -77,11 +77,25 @@ void CutOutDisc(QImage& image, QPointF centre, double R, QRgb rim)
     painter.setPen(QPen(QColor(rim), 1));
     painter.drawEllipse(centre, R, R);
     painter.end();
-    const double beyond = R + 1.0; // the aliased rim's pixels lie within half a pixel of R
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (std::hypot(x + 0.5 - centre.x(), y + 0.5 - centre.y()) > beyond)
-                image.setPixel(x, y, qRgba(0, 0, 0, 0));
+    // The aliased rim's pixels lie within half a pixel of R. Pixel centres and the disc's
+    // centre lie on half pixels, so the squared distances compare exactly.
+    const double beyond = R + 1.0;
+    const int width = image.width(), height = image.height();
+    for (int y = 0; y < height; ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        const double dy = y + 0.5 - centre.y();
+        for (int x = 0; x < width; ++x) {
+            const double dx = x + 0.5 - centre.x();
+            if (dx * dx + dy * dy > beyond * beyond)
+                line[x] = qRgba(0, 0, 0, 0);
+        }
+    }
+}
+
+// What QImage::pixel and setPixel add to a 32-bit pixel: the opaque alpha of an RGB32 image.
+QRgb AlphaOf(const QImage& image)
+{
+    return image.format() == QImage::Format_RGB32 ? 0xFF000000 : 0;
 }
 
 } // namespace
@@ -90,21 +104,33 @@ void FloodFill(QImage& image, QPoint seed, QRgb fill, QRgb border)
 {
     if (!image.rect().contains(seed))
         return;
-    const QRgb start = image.pixel(seed);
-    if (start == border || start == fill)
-        return;
+    const QRgb alpha = AlphaOf(image);
+    const auto row = [&image](int y) { return reinterpret_cast<QRgb*>(image.scanLine(y)); };
+    const auto open = [&](QRgb c) { return (c | alpha) != border && (c | alpha) != fill; };
+    // Scanline by scanline: each pending point starts a run, filled whole, and seeds the runs
+    // of open pixels above and below it.
+    const int last = image.width() - 1;
     std::vector<QPoint> pending{seed};
     while (!pending.empty()) {
         const QPoint p = pending.back();
         pending.pop_back();
-        if (!image.rect().contains(p))
+        QRgb* line = row(p.y());
+        if (!open(line[p.x()]))
             continue;
-        const QRgb here = image.pixel(p);
-        if (here == border || here == fill)
-            continue;
-        image.setPixel(p, fill);
-        pending.insert(pending.end(),
-                       {p + QPoint(1, 0), p - QPoint(1, 0), p + QPoint(0, 1), p - QPoint(0, 1)});
+        int left = p.x(), right = p.x();
+        while (left > 0 && open(line[left - 1]))
+            --left;
+        while (right < last && open(line[right + 1]))
+            ++right;
+        std::fill(line + left, line + right + 1, fill | alpha);
+        for (const int y : {p.y() - 1, p.y() + 1}) {
+            if (y < 0 || y >= image.height())
+                continue;
+            const QRgb* next = row(y);
+            for (int x = left; x <= right; ++x)
+                if (open(next[x]) && (x == left || !open(next[x - 1])))
+                    pending.emplace_back(x, y);
+        }
     }
 }
 
@@ -172,12 +198,18 @@ void RotatePicture(const QImage& source, QImage& target, double angle, int x1, i
               toX = std::min(target.width() - 1, int(std::ceil(maxX)));
     const int fromY = std::max(1, int(std::floor(minY))),
               toY = std::min(target.height() - 1, int(std::ceil(maxY)));
+    // Both images hold 32-bit pixels; the copy adds what pixel and setPixel would.
+    const QRgb alpha = AlphaOf(source) | AlphaOf(target);
+    const QRect inside = source.rect() & QRect(QPoint(x1, y1), QPoint(x2 - 1, y2 - 1));
+    const uchar* bits = source.constBits();
+    const qsizetype rowBytes = source.bytesPerLine();
     for (int Y = fromY; Y <= toY; ++Y) {
+        auto* line = reinterpret_cast<QRgb*>(target.scanLine(Y));
         for (int X = fromX; X <= toX; ++X) {
             const int xs = int(std::trunc(cx + (X - dx) * c - (Y - dy) * s));
             const int ys = int(std::trunc(cy + (X - dx) * s + (Y - dy) * c));
-            if (xs >= x1 && xs < x2 && ys >= y1 && ys < y2 && source.rect().contains(xs, ys))
-                target.setPixel(X, Y, source.pixel(xs, ys));
+            if (inside.contains(xs, ys))
+                line[X] = reinterpret_cast<const QRgb*>(bits + ys * rowBytes)[xs] | alpha;
         }
     }
 }

@@ -49,9 +49,10 @@ MoonPictures DrawMoon(QSize picSize, const MoonLook& look, const std::optional<M
 // Copies the source rectangle x1 <= x < x2, y1 <= y < y2 turned by angle (radians) about the
 // source point (cx, cy) so that it lands on (dx, dy) of the target, pixel by pixel. Target
 // row 0 and column 0 are never written; target pixels that map outside the rectangle keep
-// their colour.
+// their colour. Both images hold 32-bit pixels (RGB32 or ARGB32).
 void RotatePicture(const QImage& source, QImage& target, double angle, int x1, int y1, int x2,
                    int y2, int cx, int cy, int dx, int dy);
 
-// Fills the 4-connected region around seed with fill, up to pixels of the border colour.
+// Fills the 4-connected region around seed with fill, up to pixels of the border colour, in
+// an image of 32-bit pixels (RGB32 or ARGB32).
 void FloodFill(QImage& image, QPoint seed, QRgb fill, QRgb border);

@@ -67,17 +67,42 @@ QSize DayCellWidget::sizeHint() const
     return minimumSizeHint().expandedTo({DesignWidth, DesignHeight});
 }
 
+DayCellWidget::Measures& DayCellWidget::Measured() const
+{
+    if (!Measure) {
+        const QFont bold = BoldOf(font());
+        const QFontMetrics fm(bold);
+        Measure.emplace(Measures{bold, fm, fm.tightBoundingRect(QStringLiteral("^")), {}});
+    }
+    return *Measure;
+}
+
+QSize DayCellWidget::NumberSize() const
+{
+    Measures& m = Measured();
+    const auto known = m.Numbers.constFind(Now.Number);
+    if (known != m.Numbers.cend())
+        return *known;
+    return *m.Numbers.insert(Now.Number, m.Metrics.boundingRect(Now.Number).size());
+}
+
+void DayCellWidget::changeEvent(QEvent* e)
+{
+    if (e->type() == QEvent::FontChange)
+        Measure.reset();
+    QWidget::changeEvent(e);
+}
+
 DayCellWidget::Placement DayCellWidget::Place() const
 {
     Placement p;
     p.Inside = rect().adjusted(FramePen + Margin, FramePen + Margin, -(FramePen + Margin),
                                -(FramePen + Margin));
-    const QFontMetrics fm(BoldOf(font()));
-    p.Number = QRect(p.Inside.topLeft(), fm.boundingRect(Now.Number).size());
+    const Measures& m = Measured();
+    p.Number = QRect(p.Inside.topLeft(), NumberSize());
     // The marks' line is as tall as a caret's ink, just below the number.
-    const QRect caret = fm.tightBoundingRect(QStringLiteral("^"));
     p.Marks = QRect(p.Inside.left(), p.Number.bottom() + 1,
-                    fm.horizontalAdvance(MarksText(Now.Marks)), caret.height());
+                    m.Metrics.horizontalAdvance(MarksText(Now.Marks)), m.Caret.height());
     if (!Now.Phase.isNull())
         p.Phase = QRect(QPoint(p.Inside.right() + 1 - Now.Phase.width(), p.Inside.top()),
                         Now.Phase.size());
@@ -97,14 +122,14 @@ void DayCellWidget::paintEvent(QPaintEvent*)
     if (!Now.Rating.isNull())
         p.drawPixmap(at.Rating.topLeft(), Now.Rating);
 
-    p.setFont(BoldOf(font()));
-    const QFontMetrics fm(p.font());
+    const Measures& m = Measured();
+    p.setFont(m.Bold);
     p.setPen(Now.TextColor);
-    p.drawText(at.Number.left(), at.Number.top() + fm.ascent(), Now.Number);
+    p.drawText(at.Number.left(), at.Number.top() + m.Metrics.ascent(), Now.Number);
     const QColor red = ThemedText(VbColor(0x0000FF), palette());
     p.setPen(red);
-    const int caretTop = fm.tightBoundingRect(QStringLiteral("^")).top(); // above the baseline
-    p.drawText(at.Marks.left(), at.Marks.top() - caretTop, MarksText(Now.Marks));
+    if (Now.Marks > 0) // the caret's top lies above the baseline
+        p.drawText(at.Marks.left(), at.Marks.top() - m.Caret.top(), MarksText(Now.Marks));
 
     if (IsFramed) {
         p.setPen(QPen(red, FramePen));

@@ -4,8 +4,12 @@
 // and reports the mouse to the window.
 #pragma once
 
+#include <QFontMetrics>
+#include <QHash>
 #include <QPixmap>
 #include <QWidget>
+
+#include <optional>
 
 class DayCellWidget : public QWidget {
     Q_OBJECT
@@ -45,13 +49,26 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent*) override;
+    void changeEvent(QEvent* e) override;
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
     void mouseDoubleClickEvent(QMouseEvent* e) override;
     void mouseMoveEvent(QMouseEvent* e) override;
 
 private:
+    // The bold font's measures, kept while the font stays: measuring a text shapes it, and
+    // the cells repaint far more often than their font changes.
+    struct Measures {
+        QFont Bold;
+        QFontMetrics Metrics;
+        QRect Caret;                   // a caret's ink, from the baseline
+        QHash<QString, QSize> Numbers; // each day number's bounding box, as first measured
+    };
+    Measures& Measured() const;
+    QSize NumberSize() const;
+
     int CellIndex;
     Content Now;
     bool IsFramed = false;
+    mutable std::optional<Measures> Measure;
 };

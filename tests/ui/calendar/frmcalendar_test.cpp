@@ -228,6 +228,17 @@ TEST_F(Window, DayCellsKeepTheirPartsApart)
     EXPECT_GT(marked, 4);
 }
 
+// A cell keeps its font's measures until its font changes, and then measures again.
+TEST_F(Window, DayCellMeasuresFollowItsFont)
+{
+    DayCellWidget& cell = *W->txtpic[10];
+    const QRect before = cell.Place().Number;
+    QFont larger = cell.font();
+    larger.setPointSizeF(larger.pointSizeF() * 2);
+    cell.setFont(larger);
+    EXPECT_GT(cell.Place().Number.height(), before.height());
+}
+
 // The chosen hour is a clock hour of the place: after a move to another zone the moon is
 // computed for the hour the label shows.
 TEST_F(Window, LocationChangeKeepsTheChosenClockHour)
