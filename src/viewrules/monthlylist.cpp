@@ -4,6 +4,7 @@
 #include "calendar/calendar.h"
 #include "text/vbformat.h"
 
+#include <algorithm>
 #include <tuple>
 
 const std::array<const char*, 4> MonthlyListHeadings = {
@@ -14,17 +15,34 @@ const std::array<const char*, 4> MonthlyListHeadings = {
 };
 
 namespace {
-bool Missing(const std::string& text) { return text.rfind("****", 0) == 0; }
+// "07:30 A": the 12-hour layout's times.
+constexpr std::size_t ShortClockWidth = 7;
+// The 24-hour layout's moon columns: "HH:MM" after a lead of three blanks (rise and set) or
+// two (the transit).
+constexpr std::size_t RiseSetColumnWidth = 8;
+constexpr std::size_t TransitColumnWidth = 7;
+
+void AppendColumn(std::string& line, const std::string& text, std::size_t width)
+{
+    const std::size_t lead = std::min(text.find_first_not_of(' '), text.size());
+    if (text.compare(lead, 4, "****") != 0) {
+        line += text + " ";
+        return;
+    }
+    std::string placeholder = text.substr(0, lead) + "XX:XX";
+    placeholder.resize(std::max(width, placeholder.size()), ' ');
+    line += placeholder + " ";
+}
 } // namespace
 
 void PRNTrue(std::string& line, const std::string& text)
 {
-    line += Missing(text) ? std::string(" ") + "XX:XX  " + " " : text + " ";
+    AppendColumn(line, text, ShortClockWidth);
 }
 
-void PRNFalse(std::string& line, const std::string& text)
+void PRNFalse(std::string& line, const std::string& text, std::size_t width)
 {
-    line += Missing(text) ? std::string(" ") + "XX:XX   " : text + " ";
+    AppendColumn(line, text, width);
 }
 
 std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD, int monthDays,
@@ -47,9 +65,8 @@ std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD
         const MoonEventRecord& m = f.MoonEvents;
         // A moon event of the day, or "****" (the list's placeholder) when the day has none.
         const auto moon = [&](EventFlag flag, double h, const char* lead) {
-            if (flag != EventFlag::InDay)
-                return std::string("****");
-            return ampm ? ShortClock(clock(h)) : lead + clock(h);
+            const std::string time = flag == EventFlag::InDay ? clock(h) : "****";
+            return ampm ? ShortClock(time) : lead + time;
         };
         const std::string rise = moon(m.RiseFlag, m.RiseTime, "   ");
         const std::string set = moon(m.SetFlag, m.SetTime, "   ");
@@ -62,12 +79,15 @@ std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD
             PRNTrue(line, ShortClock(f.Minor1Text));
             PRNTrue(line, ShortClock(f.Minor2Text));
         } else {
-            PRNFalse(line, rise);
-            PRNFalse(line, set);
-            PRNFalse(line, transit);
-            PRNFalse(line, f.Major2Text + "  ");
-            PRNFalse(line, f.Minor1Text + "  ");
-            PRNFalse(line, f.Minor2Text);
+            // The periods read as the engine's clock writes them; the second major is never
+            // missing and gives their width.
+            const std::size_t period = f.Major2Text.size();
+            PRNFalse(line, rise, RiseSetColumnWidth);
+            PRNFalse(line, set, RiseSetColumnWidth);
+            PRNFalse(line, transit, TransitColumnWidth);
+            PRNFalse(line, f.Major2Text + "  ", period + 2);
+            PRNFalse(line, f.Minor1Text + "  ", period + 2);
+            PRNFalse(line, f.Minor2Text, period);
         }
         // Near the poles the Moon may rise or set again before midnight: after the columns.
         for (const auto& [name, flag, hours] :

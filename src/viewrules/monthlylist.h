@@ -16,9 +16,12 @@ extern const std::array<const char*, 4> MonthlyListHeadings;
 std::vector<std::string> MonthlyListLines(Astronomy& engine, double monthStartJD, int monthDays,
                                           bool ampm);
 
-// Appends one time column, "XX:XX" for a text that begins "****".
+// Appends one time column and a blank: the text, or for a missing time (a text that begins
+// "****" after its lead blanks) "XX:XX" where the time would stand, as wide as the column's
+// times so that the columns after it stay in place. PRNTrue: the 12-hour layout's "07:30 A";
+// PRNFalse: the 24-hour layout's columns, `width` wide.
 void PRNTrue(std::string& line, const std::string& text);
-void PRNFalse(std::string& line, const std::string& text);
+void PRNFalse(std::string& line, const std::string& text, std::size_t width);
 
 // The clipboard's text: the month and year, a blank line, the clipboard headings and the
 // lines, each line ended by CR LF.

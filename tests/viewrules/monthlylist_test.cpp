@@ -24,12 +24,13 @@ TEST(MonthlyList, LeapFebruaryInTheTwelveHourLayout)
     EXPECT_EQ(lines[4].substr(0, 2), "05");
     EXPECT_EQ(lines[28].substr(0, 2), "29");
     // Sunrise about 7 AM and sunset about 5:45 PM, shortened; no moonrise that day.
-    EXPECT_EQ(lines[0].substr(0, 26), "01  07:02 A 05:44 P  XX:XX");
+    EXPECT_EQ(lines[0].substr(0, 25), "01  07:02 A 05:44 P XX:XX");
     EXPECT_EQ(lines[0].find(" PM"), std::string::npos);
 }
 
-// A missing time reads "XX:XX": 2 February 2024 has its second minor after midnight.
-TEST(MonthlyList, MissingTimesReadXX)
+// A missing time reads "XX:XX" and keeps the columns after it in place: 2 February 2024 has
+// its second minor after midnight, and every line of the month is as long as the others.
+TEST(MonthlyList, MissingTimesReadXXInTheirColumn)
 {
     Astronomy engine = AtAlexandria();
     for (const bool ampm : {true, false}) {
@@ -38,15 +39,14 @@ TEST(MonthlyList, MissingTimesReadXX)
         ASSERT_EQ(engine.Forecast.Minor2Text, "*******");
         EXPECT_NE(lines[1].find("XX:XX"), std::string::npos) << lines[1];
         EXPECT_EQ(lines[2].find("XX:XX"), std::string::npos) << lines[2];
+        for (const std::string& line : lines)
+            EXPECT_EQ(line.size(), lines[2].size()) << line;
     }
     std::string line;
     PRNTrue(line, "****");
-    EXPECT_EQ(line, " XX:XX   ");
-    line.clear();
-    PRNFalse(line, "*******");
-    EXPECT_EQ(line, " XX:XX   ");
-    PRNFalse(line, "06:05");
-    EXPECT_EQ(line, " XX:XX   06:05 ");
+    EXPECT_EQ(line, "XX:XX   ");
+    PRNFalse(line, "   ****", 8);
+    EXPECT_EQ(line, "XX:XX      XX:XX ");
 }
 
 // Seattle with daylight saving, November 2026: the Moon rises at 23:19 PST on 1 November
@@ -60,7 +60,7 @@ TEST(MonthlyList, DayWithoutMoonriseShowsThePlaceholder)
     for (const bool ampm : {true, false}) {
         const auto lines = MonthlyListLines(engine, CivilToJd(2026, 11, 1), 30, ampm);
         const std::size_t rise = ampm ? 20 : 23; // after the day and the Sun's columns
-        EXPECT_EQ(lines[0].substr(rise, 6), " XX:XX") << lines[0];
+        EXPECT_EQ(lines[0].substr(rise, 8), ampm ? "XX:XX   " : "   XX:XX") << lines[0];
         EXPECT_EQ(lines[1].substr(rise, 8), ampm ? "12:19 A " : "   00:19") << lines[1];
     }
 }
