@@ -2,6 +2,221 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>FrmCalendar</name>
+    <message>
+        <source> Previous Month </source>
+        <translation> Mes anterior </translation>
+    </message>
+    <message>
+        <source> Next Month </source>
+        <translation> Mes siguiente </translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>    Sun            Mon           Tue            Wed          Thu             Fri             Sat</source>
+        <translation>  Dom   Lun   Mar   Mié   Jue   Vie   Sáb</translation>
+    </message>
+    <message>
+        <source> Change the Year </source>
+        <translation> Cambiar el año </translation>
+    </message>
+    <message>
+        <source>Daylight Hours</source>
+        <translation>Horas de luz</translation>
+    </message>
+    <message>
+        <source>Majors</source>
+        <translation>Periodos mayores</translation>
+    </message>
+    <message>
+        <source>Minors</source>
+        <translation>Periodos menores</translation>
+    </message>
+    <message>
+        <source> Moon is due South/North </source>
+        <translation> La luna pasa por el sur/norte </translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Sol</translation>
+    </message>
+    <message>
+        <source>Rise</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Puesta</translation>
+    </message>
+    <message>
+        <source>Moon</source>
+        <translation>Luna</translation>
+    </message>
+    <message>
+        <source> Move the moment of the day </source>
+        <translation> Mover la hora del día </translation>
+    </message>
+    <message>
+        <source> Click to Reset Hour Bar </source>
+        <translation> Clic para reiniciar la barra de horas </translation>
+    </message>
+    <message>
+        <source>&amp;DataBase</source>
+        <translation>&amp;Base de datos</translation>
+    </message>
+    <message>
+        <source>&amp;Yearly</source>
+        <translation>&amp;Anual</translation>
+    </message>
+    <message>
+        <source>&amp;Functions</source>
+        <translation>&amp;Funciones</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimir</translation>
+    </message>
+    <message>
+        <source>@&amp;Glance</source>
+        <translation>De un &amp;vistazo</translation>
+    </message>
+    <message>
+        <source>&amp;Table</source>
+        <translation>&amp;Tabla</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opciones</translation>
+    </message>
+    <message>
+        <source>&amp;Time Formats</source>
+        <translation>&amp;Formatos de hora</translation>
+    </message>
+    <message>
+        <source>&amp;Daylight Savings</source>
+        <translation>Horario de &amp;verano</translation>
+    </message>
+    <message>
+        <source>&amp;Standard</source>
+        <translation>Hora &amp;estándar</translation>
+    </message>
+    <message>
+        <source>&amp;Local Clock</source>
+        <translation>Hora &amp;local</translation>
+    </message>
+    <message>
+        <source>&amp;24-Hour Clock</source>
+        <translation>Reloj de &amp;24 horas</translation>
+    </message>
+    <message>
+        <source>&amp;Mouse</source>
+        <translation>&amp;Ratón</translation>
+    </message>
+    <message>
+        <source>On &amp;Move</source>
+        <translation>Al &amp;mover</translation>
+    </message>
+    <message>
+        <source>On &amp;Click</source>
+        <translation>Al hacer &amp;clic</translation>
+    </message>
+    <message>
+        <source>&amp;PAngle</source>
+        <translation>Á&amp;ngulo P</translation>
+    </message>
+    <message>
+        <source>Parallactic O&amp;ff</source>
+        <translation>Paraláctico &amp;desactivado</translation>
+    </message>
+    <message>
+        <source>Parallactic O&amp;n</source>
+        <translation>Paraláctico &amp;activado</translation>
+    </message>
+    <message>
+        <source>&amp;Reminders...</source>
+        <translation>&amp;Recordatorios...</translation>
+    </message>
+    <message>
+        <source>&amp;Locations</source>
+        <translation>&amp;Lugares</translation>
+    </message>
+    <message>
+        <source>&amp;Select A Location</source>
+        <translation>&amp;Elegir un lugar</translation>
+    </message>
+    <message>
+        <source>&amp;Edit A Location</source>
+        <translation>E&amp;ditar un lugar</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ay&amp;uda</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Contenido</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Acerca de</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Exit (%1)</source>
+        <translation>Salir (%1)</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Óptimo</translation>
+    </message>
+    <message>
+        <source>V.Good</source>
+        <translation>Muy bueno</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Bueno</translation>
+    </message>
+    <message>
+        <source>Fair</source>
+        <translation>Regular</translation>
+    </message>
+    <message>
+        <source>Day  %1   %2 days remain</source>
+        <translation>Día  %1   quedan %2 días</translation>
+    </message>
+    <message>
+        <source> Click to Show Parallactic Angle View </source>
+        <translation> Clic para ver el ángulo paraláctico </translation>
+    </message>
+    <message>
+        <source>Time Zone</source>
+        <translation>Zona horaria</translation>
+    </message>
+    <message>
+        <source>Location #%1 </source>
+        <translation>Lugar n.º %1 </translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved to
+%1
+(the file or its folder is not writable).
+
+Close Quillmere without saving them? Choose No to keep it open while you make the folder writable.</source>
+        <translation>No se pueden guardar los ajustes en
+%1
+(el archivo o su carpeta no admite escritura).
+
+¿Cerrar Quillmere sin guardarlos? Elija No para dejarlo abierto mientras da permiso de escritura a la carpeta.</translation>
+    </message>
+</context>
+<context>
     <name>FrmReminders</name>
     <message>
         <source>Reminders</source>
@@ -46,6 +261,253 @@
     <message>
         <source>Minutes before:</source>
         <translation>Minutos antes:</translation>
+    </message>
+</context>
+<context>
+    <name>PlainTexts</name>
+    <message>
+        <source>January</source>
+        <translation>Enero</translation>
+    </message>
+    <message>
+        <source>February</source>
+        <translation>Febrero</translation>
+    </message>
+    <message>
+        <source>March</source>
+        <translation>Marzo</translation>
+    </message>
+    <message>
+        <source>April</source>
+        <translation>Abril</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>Mayo</translation>
+    </message>
+    <message>
+        <source>June</source>
+        <translation>Junio</translation>
+    </message>
+    <message>
+        <source>July</source>
+        <translation>Julio</translation>
+    </message>
+    <message>
+        <source>August</source>
+        <translation>Agosto</translation>
+    </message>
+    <message>
+        <source>September</source>
+        <translation>Septiembre</translation>
+    </message>
+    <message>
+        <source>October</source>
+        <translation>Octubre</translation>
+    </message>
+    <message>
+        <source>November</source>
+        <translation>Noviembre</translation>
+    </message>
+    <message>
+        <source>December</source>
+        <translation>Diciembre</translation>
+    </message>
+    <message>
+        <source>Rise</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Puesta</translation>
+    </message>
+    <message>
+        <source>Moon is Up</source>
+        <translation>Luna visible</translation>
+    </message>
+    <message>
+        <source>Moon has Set</source>
+        <translation>Luna oculta</translation>
+    </message>
+    <message>
+        <source> Length of day, Sunrise to Sunset </source>
+        <translation> Duración del día, de la salida a la puesta del sol </translation>
+    </message>
+    <message>
+        <source>Months Between</source>
+        <translation>Meses entre</translation>
+    </message>
+    <message>
+        <source>(1 - 12)</source>
+        <translation>(1 – 12)</translation>
+    </message>
+    <message>
+        <source>Major1 Between</source>
+        <translation>Mayor1 entre</translation>
+    </message>
+    <message>
+        <source>Days of Week</source>
+        <translation>Días de la semana</translation>
+    </message>
+    <message>
+        <source>(1-7, 1=Sun..7=Sat)</source>
+        <translation>(1-7, 1=Dom..7=Sáb)</translation>
+    </message>
+    <message>
+        <source>Moon Age</source>
+        <translation>Edad lunar</translation>
+    </message>
+    <message>
+        <source>(1-29)</source>
+        <translation>(1–29)</translation>
+    </message>
+    <message>
+        <source>Illumination Percent Between</source>
+        <translation>Porcentaje iluminado entre</translation>
+    </message>
+    <message>
+        <source>(Moon illumination 1-100)</source>
+        <translation>(Iluminación lunar 1-100)</translation>
+    </message>
+    <message>
+        <source>Daylight Hours &gt;</source>
+        <translation>Horas de luz &gt;</translation>
+    </message>
+    <message>
+        <source>(Greater than 1-14)</source>
+        <translation>(Mayor que 1-14)</translation>
+    </message>
+    <message>
+        <source>Best Fishing Days</source>
+        <translation>Mejores días de pesca</translation>
+    </message>
+    <message>
+        <source>Very Good Fishing Days</source>
+        <translation>Días de pesca muy buenos</translation>
+    </message>
+    <message>
+        <source>Either Major Between</source>
+        <translation>Cualquier mayor entre</translation>
+    </message>
+    <message>
+        <source>Total Taken &gt;=</source>
+        <translation>Total capturado &gt;=</translation>
+    </message>
+    <message>
+        <source>(Greater than or equal to)</source>
+        <translation>(Mayor o igual que)</translation>
+    </message>
+    <message>
+        <source>Moon Waxing</source>
+        <translation>Luna creciente</translation>
+    </message>
+    <message>
+        <source>Moon Waning</source>
+        <translation>Luna menguante</translation>
+    </message>
+    <message>
+        <source>Moon At Perigee</source>
+        <translation>Luna en perigeo</translation>
+    </message>
+    <message>
+        <source>All Rated Days</source>
+        <translation>Todos los días valorados</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Major1</source>
+        <translation>Mayor1</translation>
+    </message>
+    <message>
+        <source>Day of Week</source>
+        <translation>Día de la semana</translation>
+    </message>
+    <message>
+        <source>Rated Fishing Days</source>
+        <translation>Días de pesca valorados</translation>
+    </message>
+    <message>
+        <source>Total Taken</source>
+        <translation>Total capturado</translation>
+    </message>
+    <message>
+        <source>Sorted by Date</source>
+        <translation>Ordenado por fecha</translation>
+    </message>
+    <message>
+        <source>Sorted by Major1</source>
+        <translation>Ordenado por mayor1</translation>
+    </message>
+    <message>
+        <source>Sorted by Day of Week</source>
+        <translation>Ordenado por día de la semana</translation>
+    </message>
+    <message>
+        <source>Sorted by Fish Rating</source>
+        <translation>Ordenado por valoración</translation>
+    </message>
+    <message>
+        <source>Sorted by Total Taken</source>
+        <translation>Ordenado por total capturado</translation>
+    </message>
+    <message>
+        <source>Apogee Days</source>
+        <translation>Días de apogeo</translation>
+    </message>
+    <message>
+        <source>Perigee Days</source>
+        <translation>Días de perigeo</translation>
+    </message>
+    <message>
+        <source>Day before/after and Perigee</source>
+        <translation>Día antes/después y perigeo</translation>
+    </message>
+    <message>
+        <source>Weekends (Friday and Saturday)</source>
+        <translation>Fines de semana (viernes y sábado)</translation>
+    </message>
+    <message>
+        <source>Weekends(Saturday and Sunday)</source>
+        <translation>Fines de semana (sábado y domingo)</translation>
+    </message>
+    <message>
+        <source>Weekends(Friday - Sunday)</source>
+        <translation>Fines de semana (viernes a domingo)</translation>
+    </message>
+    <message>
+        <source>Week Days</source>
+        <translation>Días laborables</translation>
+    </message>
+    <message>
+        <source>Sundays</source>
+        <translation>Domingos</translation>
+    </message>
+    <message>
+        <source>Mondays</source>
+        <translation>Lunes</translation>
+    </message>
+    <message>
+        <source>Tuesdays</source>
+        <translation>Martes</translation>
+    </message>
+    <message>
+        <source>Wednesdays</source>
+        <translation>Miércoles</translation>
+    </message>
+    <message>
+        <source>Thursdays</source>
+        <translation>Jueves</translation>
+    </message>
+    <message>
+        <source>Fridays</source>
+        <translation>Viernes</translation>
+    </message>
+    <message>
+        <source>Saturdays</source>
+        <translation>Sábados</translation>
     </message>
 </context>
 <context>
