@@ -2,6 +2,295 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>CatchEditor</name>
+    <message>
+        <source>New Catch</source>
+        <translation>Neuer Fang</translation>
+    </message>
+    <message>
+        <source>Catch</source>
+        <translation>Fang</translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <translation>Fotos hinzufügen</translation>
+    </message>
+    <message>
+        <source>Pictures (*.jpg *.jpeg *.png *.bmp *.gif *.webp);;All files (*)</source>
+        <translation>Bilder (*.jpg *.jpeg *.png *.bmp *.gif *.webp);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Released</source>
+        <translation>&amp;Zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>Casting</source>
+        <translation>Werfen</translation>
+    </message>
+    <message>
+        <source>Trolling</source>
+        <translation>Schleppangeln</translation>
+    </message>
+    <message>
+        <source>Fly fishing</source>
+        <translation>Fliegenfischen</translation>
+    </message>
+    <message>
+        <source>Jigging</source>
+        <translation>Jiggen</translation>
+    </message>
+    <message>
+        <source>Still fishing</source>
+        <translation>Ansitzangeln</translation>
+    </message>
+    <message>
+        <source>Ice fishing</source>
+        <translation>Eisangeln</translation>
+    </message>
+    <message>
+        <source>Spinning</source>
+        <translation>Spinnfischen</translation>
+    </message>
+    <message>
+        <source>north +</source>
+        <translation>Nord +</translation>
+    </message>
+    <message>
+        <source>east +</source>
+        <translation>Ost +</translation>
+    </message>
+    <message>
+        <source>Calm</source>
+        <translation>Windstill</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Schwach</translation>
+    </message>
+    <message>
+        <source>Moderate</source>
+        <translation>Mäßig</translation>
+    </message>
+    <message>
+        <source>Strong</source>
+        <translation>Stark</translation>
+    </message>
+    <message>
+        <source>Gale</source>
+        <translation>Sturm</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Klar</translation>
+    </message>
+    <message>
+        <source>Partly cloudy</source>
+        <translation>Teils bewölkt</translation>
+    </message>
+    <message>
+        <source>Overcast</source>
+        <translation>Bedeckt</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>Regen</translation>
+    </message>
+    <message>
+        <source>Fog</source>
+        <translation>Nebel</translation>
+    </message>
+    <message>
+        <source>Snow</source>
+        <translation>Schnee</translation>
+    </message>
+    <message>
+        <source>&amp;Time:</source>
+        <translation>&amp;Uhrzeit:</translation>
+    </message>
+    <message>
+        <source>&amp;Species:</source>
+        <translation>&amp;Fischart:</translation>
+    </message>
+    <message>
+        <source>C&amp;ount:</source>
+        <translation>&amp;Anzahl:</translation>
+    </message>
+    <message>
+        <source>&amp;Length:</source>
+        <translation>&amp;Länge:</translation>
+    </message>
+    <message>
+        <source>&amp;Weight:</source>
+        <translation>&amp;Gewicht:</translation>
+    </message>
+    <message>
+        <source>&amp;Bait or lure:</source>
+        <translation>&amp;Köder:</translation>
+    </message>
+    <message>
+        <source>&amp;Method:</source>
+        <translation>&amp;Methode:</translation>
+    </message>
+    <message>
+        <source>S&amp;pot:</source>
+        <translation>&amp;Stelle:</translation>
+    </message>
+    <message>
+        <source>L&amp;atitude:</source>
+        <translation>&amp;Breite:</translation>
+    </message>
+    <message>
+        <source>Lo&amp;ngitude:</source>
+        <translation>L&amp;änge:</translation>
+    </message>
+    <message>
+        <source>Wat&amp;er:</source>
+        <translation>&amp;Wasser:</translation>
+    </message>
+    <message>
+        <source>A&amp;ir:</source>
+        <translation>Lu&amp;ft:</translation>
+    </message>
+    <message>
+        <source>Win&amp;d:</source>
+        <translation>Win&amp;d:</translation>
+    </message>
+    <message>
+        <source>Sk&amp;y:</source>
+        <translation>&amp;Himmel:</translation>
+    </message>
+    <message>
+        <source>N&amp;ote:</source>
+        <translation>&amp;Notiz:</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Double-click a photo to see it at full size</source>
+        <translation>Doppelklick zeigt das Foto in voller Größe</translation>
+    </message>
+    <message>
+        <source>&amp;Add Photos...</source>
+        <translation>Fotos &amp;hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Photo</source>
+        <translation>Foto &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>%1 is not a time of day</source>
+        <translation>%1 ist keine Uhrzeit</translation>
+    </message>
+    <message>
+        <source>%1 is not a latitude from %2 to %3</source>
+        <translation>%1 ist keine Breite von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1 is not a longitude from %2 to %3</source>
+        <translation>%1 ist keine Länge von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>Save changes to this catch?</source>
+        <translation>Änderungen an diesem Fang speichern?</translation>
+    </message>
+</context>
+<context>
+    <name>CatchList</name>
+    <message>
+        <source>Time</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Species</source>
+        <translation>Fischart</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>Length (%1)</source>
+        <translation>Länge (%1)</translation>
+    </message>
+    <message>
+        <source>Weight (%1)</source>
+        <translation>Gewicht (%1)</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>Entnommen</translation>
+    </message>
+    <message>
+        <source>Bait or lure</source>
+        <translation>Köder</translation>
+    </message>
+    <message>
+        <source>Spot</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Add &amp;Catch...</source>
+        <translation>&amp;Fang hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Edit Catc&amp;h...</source>
+        <translation>Fang &amp;bearbeiten...</translation>
+    </message>
+    <message>
+        <source>Remove Catch</source>
+        <translation>Fang entfernen</translation>
+    </message>
+    <message>
+        <source>The day&apos;s catches could not be read: %1</source>
+        <translation>Die Fänge des Tages ließen sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>Released</source>
+        <translation>Zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>The photo %1 is not a picture.</source>
+        <translation>Das Foto %1 ist kein Bild.</translation>
+    </message>
+    <message>
+        <source>this catch</source>
+        <translation>diesen Fang</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the log?</source>
+        <translation>%1 aus dem Fangbuch entfernen?</translation>
+    </message>
+    <message>
+        <source>The catch could not be removed: %1</source>
+        <translation>Der Fang ließ sich nicht entfernen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DataBar</name>
+    <message>
+        <source>First record</source>
+        <translation>Erster Datensatz</translation>
+    </message>
+    <message>
+        <source>Previous record</source>
+        <translation>Voriger Datensatz</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Nächster Datensatz</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Letzter Datensatz</translation>
+    </message>
+</context>
+<context>
     <name>FrmCalendar</name>
     <message>
         <source> Previous Month </source>
@@ -566,6 +855,260 @@ Quillmere schließen, ohne sie zu speichern? Wählen Sie Nein, um das Programm o
     <message>
         <source>Quillmere: reminders on</source>
         <translation>Quillmere: Erinnerungen an</translation>
+    </message>
+</context>
+<context>
+    <name>frmTable1</name>
+    <message>
+        <source>Taken With holds at most 255 characters.</source>
+        <translation>Gefangen mit fasst höchstens 255 Zeichen.</translation>
+    </message>
+    <message>
+        <source>Quillmere DataBase</source>
+        <translation>Quillmere-Datenbank</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Statistics</source>
+        <translation>S&amp;tatistik</translation>
+    </message>
+    <message>
+        <source>DBID:</source>
+        <translation>DB-Nr.:</translation>
+    </message>
+    <message>
+        <source>JulianDate:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>SunRise:</source>
+        <translation>Sonnenaufgang:</translation>
+    </message>
+    <message>
+        <source>SunSet:</source>
+        <translation>Sonnenuntergang:</translation>
+    </message>
+    <message>
+        <source>MoonRise:</source>
+        <translation>Mondaufgang:</translation>
+    </message>
+    <message>
+        <source>MoonSet:</source>
+        <translation>Monduntergang:</translation>
+    </message>
+    <message>
+        <source>Major1:</source>
+        <translation>Haupt1:</translation>
+    </message>
+    <message>
+        <source>Major2:</source>
+        <translation>Haupt2:</translation>
+    </message>
+    <message>
+        <source>Minor1:</source>
+        <translation>Neben1:</translation>
+    </message>
+    <message>
+        <source>Minor2:</source>
+        <translation>Neben2:</translation>
+    </message>
+    <message>
+        <source>CivilTwilight:</source>
+        <translation>Bürgerl. Dämmerung:</translation>
+    </message>
+    <message>
+        <source>NauticalTwilight:</source>
+        <translation>Naut. Dämmerung:</translation>
+    </message>
+    <message>
+        <source>AstronomicalTwilight:</source>
+        <translation>Astron. Dämmerung:</translation>
+    </message>
+    <message>
+        <source>IllumPercent:</source>
+        <translation>Beleuchtung %:</translation>
+    </message>
+    <message>
+        <source>MoonAge:</source>
+        <translation>Mondalter:</translation>
+    </message>
+    <message>
+        <source>GraphicType:</source>
+        <translation>Bewertung:</translation>
+    </message>
+    <message>
+        <source>Waxing:</source>
+        <translation>Zunehmend:</translation>
+    </message>
+    <message>
+        <source>Day of Year</source>
+        <translation>Tag im Jahr</translation>
+    </message>
+    <message>
+        <source>Day Light Hrs:</source>
+        <translation>Tageslicht Std.:</translation>
+    </message>
+    <message>
+        <source>DaylightHours:</source>
+        <translation>Tageslichtstunden:</translation>
+    </message>
+    <message>
+        <source>Total Taken:</source>
+        <translation>Fänge gesamt:</translation>
+    </message>
+    <message>
+        <source>Taken With:</source>
+        <translation>Gefangen mit:</translation>
+    </message>
+    <message>
+        <source>Peak Time:</source>
+        <translation>Beste Zeit:</translation>
+    </message>
+    <message>
+        <source>Notes:</source>
+        <translation>Notizen:</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source> Click To Edit Record </source>
+        <translation> Klicken, um den Datensatz zu bearbeiten </translation>
+    </message>
+    <message>
+        <source>&amp;Update</source>
+        <translation>Über&amp;nehmen</translation>
+    </message>
+    <message>
+        <source> Click To Update Record </source>
+        <translation> Klicken, um den Datensatz zu speichern </translation>
+    </message>
+    <message>
+        <source>Quillmere DataBase - %1</source>
+        <translation>Quillmere-Datenbank - %1</translation>
+    </message>
+    <message>
+        <source>Sorted by Date</source>
+        <translation>Nach Datum sortiert</translation>
+    </message>
+    <message>
+        <source>Sat-Sun</source>
+        <translation>Sa-So</translation>
+    </message>
+    <message>
+        <source>Fri-Sun</source>
+        <translation>Fr-So</translation>
+    </message>
+    <message>
+        <source>Record: %1 of %2 Record(s)</source>
+        <translation>Datensatz: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Day before/after perigee</source>
+        <translation>Tag vor/nach der Erdnähe</translation>
+    </message>
+    <message>
+        <source>Perigee</source>
+        <translation>Erdnähe</translation>
+    </message>
+    <message>
+        <source>Apogee</source>
+        <translation>Erdferne</translation>
+    </message>
+    <message>
+        <source>Moon is Waxing</source>
+        <translation>Mond nimmt zu</translation>
+    </message>
+    <message>
+        <source>Moon is Waning</source>
+        <translation>Mond nimmt ab</translation>
+    </message>
+    <message>
+        <source>Data error event hit err:</source>
+        <translation>Datenfehler:</translation>
+    </message>
+    <message>
+        <source>Total Taken</source>
+        <translation>Fänge gesamt</translation>
+    </message>
+    <message>
+        <source>Peak Time</source>
+        <translation>Beste Zeit</translation>
+    </message>
+    <message>
+        <source>Save changes to this day?</source>
+        <translation>Änderungen an diesem Tag speichern?</translation>
+    </message>
+    <message>
+        <source>Select Data Where</source>
+        <translation>Daten auswählen, wo</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message>
+        <source> Select Data From Conditions of CheckBoxes </source>
+        <translation> Daten nach den angekreuzten Bedingungen auswählen </translation>
+    </message>
+    <message>
+        <source>All Records</source>
+        <translation>Alle Datensätze</translation>
+    </message>
+    <message>
+        <source> Display ALL Records in Database </source>
+        <translation> ALLE Datensätze der Datenbank zeigen </translation>
+    </message>
+    <message>
+        <source>Clear Text</source>
+        <translation>Text leeren</translation>
+    </message>
+    <message>
+        <source> Clear TextBoxes </source>
+        <translation> Textfelder leeren </translation>
+    </message>
+    <message>
+        <source>Clear Checks</source>
+        <translation>Häkchen entfernen</translation>
+    </message>
+    <message>
+        <source> UnCheck ALL CheckBoxes </source>
+        <translation> ALLE Häkchen entfernen </translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source> Display Report for Current Records </source>
+        <translation> Bericht über die aktuellen Datensätze zeigen </translation>
+    </message>
+    <message>
+        <source>&amp;Table View</source>
+        <translation>&amp;Tabellenansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>&amp;Monate</translation>
+    </message>
+    <message>
+        <source>&amp;Days</source>
+        <translation>Ta&amp;ge</translation>
+    </message>
+    <message>
+        <source>These steps of the selection could not run and were passed over:
+</source>
+        <translation>Diese Schritte der Auswahl ließen sich nicht ausführen und wurden übersprungen:
+</translation>
+    </message>
+    <message>
+        <source>ddd, MMMM,dd,yyyy</source>
+        <extracomment>The record&apos;s date above its fields, a QLocale date format.</extracomment>
+        <translation>dddd, d. MMMM yyyy</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,295 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>CatchEditor</name>
+    <message>
+        <source>New Catch</source>
+        <translation>Nueva captura</translation>
+    </message>
+    <message>
+        <source>Catch</source>
+        <translation>Captura</translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <translation>Añadir fotos</translation>
+    </message>
+    <message>
+        <source>Pictures (*.jpg *.jpeg *.png *.bmp *.gif *.webp);;All files (*)</source>
+        <translation>Imágenes (*.jpg *.jpeg *.png *.bmp *.gif *.webp);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Released</source>
+        <translation>&amp;Devuelto al agua</translation>
+    </message>
+    <message>
+        <source>Casting</source>
+        <translation>Lanzado</translation>
+    </message>
+    <message>
+        <source>Trolling</source>
+        <translation>Curricán</translation>
+    </message>
+    <message>
+        <source>Fly fishing</source>
+        <translation>Pesca con mosca</translation>
+    </message>
+    <message>
+        <source>Jigging</source>
+        <translation>Jigging vertical</translation>
+    </message>
+    <message>
+        <source>Still fishing</source>
+        <translation>Pesca al coup</translation>
+    </message>
+    <message>
+        <source>Ice fishing</source>
+        <translation>Pesca en hielo</translation>
+    </message>
+    <message>
+        <source>Spinning</source>
+        <translation>Spinning con cucharilla</translation>
+    </message>
+    <message>
+        <source>north +</source>
+        <translation>norte +</translation>
+    </message>
+    <message>
+        <source>east +</source>
+        <translation>este +</translation>
+    </message>
+    <message>
+        <source>Calm</source>
+        <translation>Calma</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Flojo</translation>
+    </message>
+    <message>
+        <source>Moderate</source>
+        <translation>Moderado</translation>
+    </message>
+    <message>
+        <source>Strong</source>
+        <translation>Fuerte</translation>
+    </message>
+    <message>
+        <source>Gale</source>
+        <translation>Temporal</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Despejado</translation>
+    </message>
+    <message>
+        <source>Partly cloudy</source>
+        <translation>Parcialmente nublado</translation>
+    </message>
+    <message>
+        <source>Overcast</source>
+        <translation>Cubierto</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>Lluvia</translation>
+    </message>
+    <message>
+        <source>Fog</source>
+        <translation>Niebla</translation>
+    </message>
+    <message>
+        <source>Snow</source>
+        <translation>Nieve</translation>
+    </message>
+    <message>
+        <source>&amp;Time:</source>
+        <translation>&amp;Hora:</translation>
+    </message>
+    <message>
+        <source>&amp;Species:</source>
+        <translation>&amp;Especie:</translation>
+    </message>
+    <message>
+        <source>C&amp;ount:</source>
+        <translation>&amp;Cantidad:</translation>
+    </message>
+    <message>
+        <source>&amp;Length:</source>
+        <translation>&amp;Longitud:</translation>
+    </message>
+    <message>
+        <source>&amp;Weight:</source>
+        <translation>&amp;Peso:</translation>
+    </message>
+    <message>
+        <source>&amp;Bait or lure:</source>
+        <translation>Ce&amp;bo o señuelo:</translation>
+    </message>
+    <message>
+        <source>&amp;Method:</source>
+        <translation>&amp;Técnica:</translation>
+    </message>
+    <message>
+        <source>S&amp;pot:</source>
+        <translation>Pues&amp;to:</translation>
+    </message>
+    <message>
+        <source>L&amp;atitude:</source>
+        <translation>L&amp;atitud:</translation>
+    </message>
+    <message>
+        <source>Lo&amp;ngitude:</source>
+        <translation>Lo&amp;ngitud:</translation>
+    </message>
+    <message>
+        <source>Wat&amp;er:</source>
+        <translation>A&amp;gua:</translation>
+    </message>
+    <message>
+        <source>A&amp;ir:</source>
+        <translation>A&amp;ire:</translation>
+    </message>
+    <message>
+        <source>Win&amp;d:</source>
+        <translation>V&amp;iento:</translation>
+    </message>
+    <message>
+        <source>Sk&amp;y:</source>
+        <translation>Ci&amp;elo:</translation>
+    </message>
+    <message>
+        <source>N&amp;ote:</source>
+        <translation>&amp;Nota:</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Double-click a photo to see it at full size</source>
+        <translation>Doble clic para ver la foto a tamaño completo</translation>
+    </message>
+    <message>
+        <source>&amp;Add Photos...</source>
+        <translation>Añadir &amp;fotos...</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Photo</source>
+        <translation>&amp;Quitar foto</translation>
+    </message>
+    <message>
+        <source>%1 is not a time of day</source>
+        <translation>%1 no es una hora del día</translation>
+    </message>
+    <message>
+        <source>%1 is not a latitude from %2 to %3</source>
+        <translation>%1 no es una latitud de %2 a %3</translation>
+    </message>
+    <message>
+        <source>%1 is not a longitude from %2 to %3</source>
+        <translation>%1 no es una longitud de %2 a %3</translation>
+    </message>
+    <message>
+        <source>Save changes to this catch?</source>
+        <translation>¿Guardar los cambios de esta captura?</translation>
+    </message>
+</context>
+<context>
+    <name>CatchList</name>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Species</source>
+        <translation>Especie</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Cantidad</translation>
+    </message>
+    <message>
+        <source>Length (%1)</source>
+        <translation>Longitud (%1)</translation>
+    </message>
+    <message>
+        <source>Weight (%1)</source>
+        <translation>Peso (%1)</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>Guardado</translation>
+    </message>
+    <message>
+        <source>Bait or lure</source>
+        <translation>Cebo o señuelo</translation>
+    </message>
+    <message>
+        <source>Spot</source>
+        <translation>Puesto</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Add &amp;Catch...</source>
+        <translation>Añadir &amp;captura...</translation>
+    </message>
+    <message>
+        <source>Edit Catc&amp;h...</source>
+        <translation>&amp;Editar captura...</translation>
+    </message>
+    <message>
+        <source>Remove Catch</source>
+        <translation>Quitar captura</translation>
+    </message>
+    <message>
+        <source>The day&apos;s catches could not be read: %1</source>
+        <translation>No se pudieron leer las capturas del día: %1</translation>
+    </message>
+    <message>
+        <source>Released</source>
+        <translation>Devuelto</translation>
+    </message>
+    <message>
+        <source>The photo %1 is not a picture.</source>
+        <translation>La foto %1 no es una imagen.</translation>
+    </message>
+    <message>
+        <source>this catch</source>
+        <translation>esta captura</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the log?</source>
+        <translation>¿Quitar %1 del diario de pesca?</translation>
+    </message>
+    <message>
+        <source>The catch could not be removed: %1</source>
+        <translation>No se pudo quitar la captura: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DataBar</name>
+    <message>
+        <source>First record</source>
+        <translation>Primer registro</translation>
+    </message>
+    <message>
+        <source>Previous record</source>
+        <translation>Registro anterior</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Registro siguiente</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Último registro</translation>
+    </message>
+</context>
+<context>
     <name>FrmCalendar</name>
     <message>
         <source> Previous Month </source>
@@ -566,6 +855,260 @@ Close Quillmere without saving them? Choose No to keep it open while you make th
     <message>
         <source>Quillmere: reminders on</source>
         <translation>Quillmere: recordatorios activados</translation>
+    </message>
+</context>
+<context>
+    <name>frmTable1</name>
+    <message>
+        <source>Taken With holds at most 255 characters.</source>
+        <translation>Capturado con admite como máximo 255 caracteres.</translation>
+    </message>
+    <message>
+        <source>Quillmere DataBase</source>
+        <translation>Base de datos de Quillmere</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>&amp;Statistics</source>
+        <translation>&amp;Estadísticas</translation>
+    </message>
+    <message>
+        <source>DBID:</source>
+        <translation>N.º BD:</translation>
+    </message>
+    <message>
+        <source>JulianDate:</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>SunRise:</source>
+        <translation>Salida del sol:</translation>
+    </message>
+    <message>
+        <source>SunSet:</source>
+        <translation>Puesta del sol:</translation>
+    </message>
+    <message>
+        <source>MoonRise:</source>
+        <translation>Salida de la luna:</translation>
+    </message>
+    <message>
+        <source>MoonSet:</source>
+        <translation>Puesta de la luna:</translation>
+    </message>
+    <message>
+        <source>Major1:</source>
+        <translation>Mayor1:</translation>
+    </message>
+    <message>
+        <source>Major2:</source>
+        <translation>Mayor2:</translation>
+    </message>
+    <message>
+        <source>Minor1:</source>
+        <translation>Menor1:</translation>
+    </message>
+    <message>
+        <source>Minor2:</source>
+        <translation>Menor2:</translation>
+    </message>
+    <message>
+        <source>CivilTwilight:</source>
+        <translation>Crepúsculo civil:</translation>
+    </message>
+    <message>
+        <source>NauticalTwilight:</source>
+        <translation>Crepúsculo náutico:</translation>
+    </message>
+    <message>
+        <source>AstronomicalTwilight:</source>
+        <translation>Crepúsculo astronómico:</translation>
+    </message>
+    <message>
+        <source>IllumPercent:</source>
+        <translation>Iluminación %:</translation>
+    </message>
+    <message>
+        <source>MoonAge:</source>
+        <translation>Edad lunar:</translation>
+    </message>
+    <message>
+        <source>GraphicType:</source>
+        <translation>Valoración:</translation>
+    </message>
+    <message>
+        <source>Waxing:</source>
+        <translation>Creciente:</translation>
+    </message>
+    <message>
+        <source>Day of Year</source>
+        <translation>Día del año</translation>
+    </message>
+    <message>
+        <source>Day Light Hrs:</source>
+        <translation>Horas de luz:</translation>
+    </message>
+    <message>
+        <source>DaylightHours:</source>
+        <translation>Horas de luz (dec.):</translation>
+    </message>
+    <message>
+        <source>Total Taken:</source>
+        <translation>Total capturado:</translation>
+    </message>
+    <message>
+        <source>Taken With:</source>
+        <translation>Capturado con:</translation>
+    </message>
+    <message>
+        <source>Peak Time:</source>
+        <translation>Hora punta:</translation>
+    </message>
+    <message>
+        <source>Notes:</source>
+        <translation>Notas:</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source> Click To Edit Record </source>
+        <translation> Clic para editar el registro </translation>
+    </message>
+    <message>
+        <source>&amp;Update</source>
+        <translation>&amp;Actualizar</translation>
+    </message>
+    <message>
+        <source> Click To Update Record </source>
+        <translation> Clic para actualizar el registro </translation>
+    </message>
+    <message>
+        <source>Quillmere DataBase - %1</source>
+        <translation>Base de datos de Quillmere - %1</translation>
+    </message>
+    <message>
+        <source>Sorted by Date</source>
+        <translation>Ordenado por fecha</translation>
+    </message>
+    <message>
+        <source>Sat-Sun</source>
+        <translation>Sáb-Dom</translation>
+    </message>
+    <message>
+        <source>Fri-Sun</source>
+        <translation>Vie-Dom</translation>
+    </message>
+    <message>
+        <source>Record: %1 of %2 Record(s)</source>
+        <translation>Registro: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Day before/after perigee</source>
+        <translation>Día antes/después del perigeo</translation>
+    </message>
+    <message>
+        <source>Perigee</source>
+        <translation>Perigeo</translation>
+    </message>
+    <message>
+        <source>Apogee</source>
+        <translation>Apogeo</translation>
+    </message>
+    <message>
+        <source>Moon is Waxing</source>
+        <translation>Luna creciente</translation>
+    </message>
+    <message>
+        <source>Moon is Waning</source>
+        <translation>Luna menguante</translation>
+    </message>
+    <message>
+        <source>Data error event hit err:</source>
+        <translation>Error de datos:</translation>
+    </message>
+    <message>
+        <source>Total Taken</source>
+        <translation>Total capturado</translation>
+    </message>
+    <message>
+        <source>Peak Time</source>
+        <translation>Hora punta</translation>
+    </message>
+    <message>
+        <source>Save changes to this day?</source>
+        <translation>¿Guardar los cambios de este día?</translation>
+    </message>
+    <message>
+        <source>Select Data Where</source>
+        <translation>Seleccionar datos donde</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <translation>Ordenar por</translation>
+    </message>
+    <message>
+        <source> Select Data From Conditions of CheckBoxes </source>
+        <translation> Seleccionar datos según las casillas marcadas </translation>
+    </message>
+    <message>
+        <source>All Records</source>
+        <translation>Todos los registros</translation>
+    </message>
+    <message>
+        <source> Display ALL Records in Database </source>
+        <translation> Mostrar TODOS los registros de la base de datos </translation>
+    </message>
+    <message>
+        <source>Clear Text</source>
+        <translation>Borrar texto</translation>
+    </message>
+    <message>
+        <source> Clear TextBoxes </source>
+        <translation> Vaciar los cuadros de texto </translation>
+    </message>
+    <message>
+        <source>Clear Checks</source>
+        <translation>Quitar marcas</translation>
+    </message>
+    <message>
+        <source> UnCheck ALL CheckBoxes </source>
+        <translation> Desmarcar TODAS las casillas </translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source> Display Report for Current Records </source>
+        <translation> Mostrar el informe de los registros actuales </translation>
+    </message>
+    <message>
+        <source>&amp;Table View</source>
+        <translation>Vista de &amp;tabla</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>&amp;Meses</translation>
+    </message>
+    <message>
+        <source>&amp;Days</source>
+        <translation>&amp;Días</translation>
+    </message>
+    <message>
+        <source>These steps of the selection could not run and were passed over:
+</source>
+        <translation>Estos pasos de la selección no pudieron ejecutarse y se omitieron:
+</translation>
+    </message>
+    <message>
+        <source>ddd, MMMM,dd,yyyy</source>
+        <extracomment>The record&apos;s date above its fields, a QLocale date format.</extracomment>
+        <translation>dddd, d &apos;de&apos; MMMM &apos;de&apos; yyyy</translation>
     </message>
 </context>
 </TS>
