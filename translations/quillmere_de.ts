@@ -272,6 +272,89 @@
     </message>
 </context>
 <context>
+    <name>CatchPages</name>
+    <message>
+        <source>Major period</source>
+        <translation>Hauptbeißzeit</translation>
+    </message>
+    <message>
+        <source>Minor period</source>
+        <translation>Nebenbeißzeit</translation>
+    </message>
+    <message>
+        <source>Other times</source>
+        <translation>Übrige Zeiten</translation>
+    </message>
+    <message>
+        <source>No time</source>
+        <translation>Ohne Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>Entnommen</translation>
+    </message>
+    <message>
+        <source>Released</source>
+        <translation>Zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>The number over each bar: fish taken</source>
+        <translation>Die Zahl über jedem Balken: gefangene Fische</translation>
+    </message>
+    <message>
+        <source>Fish</source>
+        <translation>Fische</translation>
+    </message>
+    <message>
+        <source>%1 to %2 %3</source>
+        <translation>%1 bis %2 %3</translation>
+    </message>
+    <message>
+        <source>By species</source>
+        <translation>Nach Fischart</translation>
+    </message>
+    <message>
+        <source>By time of day</source>
+        <translation>Nach Tageszeit</translation>
+    </message>
+    <message>
+        <source>By spot</source>
+        <translation>Nach Angelstelle</translation>
+    </message>
+    <message>
+        <source>By water temperature</source>
+        <translation>Nach Wassertemperatur</translation>
+    </message>
+    <message>
+        <source>Catches</source>
+        <translation>Fänge</translation>
+    </message>
+    <message>
+        <source>Fish by species</source>
+        <translation>Fische nach Fischart</translation>
+    </message>
+    <message>
+        <source>Fish by the day&apos;s periods and the sun</source>
+        <translation>Fische nach Beißzeiten und Sonnenstand</translation>
+    </message>
+    <message>
+        <source>Fish by clock hour</source>
+        <translation>Fische nach Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Fish by spot</source>
+        <translation>Fische nach Angelstelle</translation>
+    </message>
+    <message>
+        <source>Fish by water temperature</source>
+        <translation>Fische nach Wassertemperatur</translation>
+    </message>
+    <message>
+        <source>Sunrise/set ±1 h</source>
+        <translation>Sonnenauf-/-untergang ±1 h</translation>
+    </message>
+</context>
+<context>
     <name>DataBar</name>
     <message>
         <source>First record</source>
@@ -288,6 +371,213 @@
     <message>
         <source>Last record</source>
         <translation>Letzter Datensatz</translation>
+    </message>
+</context>
+<context>
+    <name>DayGraph</name>
+    <message>
+        <source>Daily Conditions</source>
+        <translation>Tagesverlauf</translation>
+    </message>
+    <message>
+        <source>Moon&apos;s Age:</source>
+        <translation>Mondalter:</translation>
+    </message>
+    <message>
+        <source>29 Days</source>
+        <translation>29 Tage</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source> Return to Calendar </source>
+        <translation> Zurück zum Kalender </translation>
+    </message>
+    <message>
+        <source> Azimuth of Sun and Moon </source>
+        <translation> Azimut von Sonne und Mond </translation>
+    </message>
+    <message>
+        <source> Each Tick is 10 Degrees of Elevation </source>
+        <translation> Jeder Strich sind 10 Grad Höhe </translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Sonne</translation>
+    </message>
+    <message>
+        <source>Moon</source>
+        <translation>Mond</translation>
+    </message>
+    <message>
+        <source>Azimuth</source>
+        <translation>Azimut</translation>
+    </message>
+    <message>
+        <source>Elevation</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source> Click To Close </source>
+        <translation> Klicken zum Schließen </translation>
+    </message>
+</context>
+<context>
+    <name>EditDB</name>
+    <message>
+        <source>Edit Database</source>
+        <translation>Datenbank bearbeiten</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>a whole number of hours from %1 to %2</source>
+        <translation>eine ganze Stundenzahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a number of degrees from %1 to %2</source>
+        <translation>eine Gradzahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source> Show the cities of one state, or ALL </source>
+        <translation> Die Städte eines Bundesstaats zeigen, oder ALLE </translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation>ALLE</translation>
+    </message>
+    <message>
+        <source>Record: %1 of %2 Record(s)</source>
+        <translation>Datensatz: %1 von %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not %3.</source>
+        <translation>%1: „%2“ ist nicht %3.</translation>
+    </message>
+    <message>
+        <source>Missing Data!</source>
+        <translation>Angaben fehlen!</translation>
+    </message>
+    <message>
+        <source>Delete Current Record?</source>
+        <translation>Aktuellen Datensatz löschen?</translation>
+    </message>
+    <message>
+        <source>Delete Record</source>
+        <translation>Datensatz löschen</translation>
+    </message>
+    <message>
+        <source>Save changes to this city?</source>
+        <translation>Änderungen an dieser Stadt speichern?</translation>
+    </message>
+    <message>
+        <source>Input CityName</source>
+        <translation>Stadtname eingeben</translation>
+    </message>
+    <message>
+        <source>City Name?</source>
+        <translation>Name der Stadt?</translation>
+    </message>
+    <message>
+        <source>City NOT Found!</source>
+        <translation>Stadt NICHT gefunden!</translation>
+    </message>
+    <message>
+        <source>City Search</source>
+        <translation>Stadtsuche</translation>
+    </message>
+    <message>
+        <source>Input City</source>
+        <translation>Stadt eingeben</translation>
+    </message>
+    <message>
+        <source>City?</source>
+        <translation>Stadt?</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCatches</name>
+    <message>
+        <source>Export Catches</source>
+        <translation>Fänge exportieren</translation>
+    </message>
+    <message>
+        <source>Nothing was exported: %1</source>
+        <translation>Nichts wurde exportiert: %1</translation>
+    </message>
+    <message>
+        <source>%1 day(s) and %2 catch(es) of %3 were written to %4.</source>
+        <translation>%1 Tag(e) und %2 Fang/Fänge aus %3 wurden nach %4 geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>FrmAbout</name>
+    <message>
+        <source>About Quillmere</source>
+        <translation>Über Quillmere</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&quot;font-size:16pt&quot;&gt;Quillmere&lt;/b&gt;&lt;br&gt;The fishing calendar</source>
+        <translation>&lt;b style=&quot;font-size:16pt&quot;&gt;Quillmere&lt;/b&gt;&lt;br&gt;Der Angelkalender</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>City list: GeoNames (geonames.org), licensed under CC BY 4.0</source>
+        <translation>Städteliste: GeoNames (geonames.org), lizenziert unter CC BY 4.0</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmBackups</name>
+    <message>
+        <source>Backups</source>
+        <translation>Sicherungen</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source> Put the selected copy in the place of the file </source>
+        <translation> Die gewählte Kopie an die Stelle der Datei setzen </translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Copies of %1, newest first:</source>
+        <translation>Kopien von %1, neueste zuerst:</translation>
+    </message>
+    <message>
+        <source>No Backup Selected! </source>
+        <translation>Keine Sicherung gewählt! </translation>
+    </message>
+    <message>
+        <source>Restore %1 as it was on %2? The file as it is now is kept as a backup.</source>
+        <translation>%1 auf den Stand vom %2 zurücksetzen? Die Datei, wie sie jetzt ist, bleibt als Sicherung erhalten.</translation>
+    </message>
+    <message>
+        <source>%1 now holds the copy of %2.</source>
+        <translation>%1 enthält jetzt die Kopie vom %2.</translation>
+    </message>
+    <message>
+        <source>%1 could not be restored: %2</source>
+        <translation>%1 ließ sich nicht wiederherstellen: %2</translation>
     </message>
 </context>
 <context>
@@ -506,6 +796,169 @@ Quillmere schließen, ohne sie zu speichern? Wählen Sie Nein, um das Programm o
     </message>
 </context>
 <context>
+    <name>FrmDetail</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Click to Halt Timer</source>
+        <translation>Klicken hält die Uhr an</translation>
+    </message>
+</context>
+<context>
+    <name>FrmGlance</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+</context>
+<context>
+    <name>FrmList</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source> Close List Screen </source>
+        <translation> Liste schließen </translation>
+    </message>
+    <message>
+        <source>Clip&amp;Board</source>
+        <translation>&amp;Zwischenablage</translation>
+    </message>
+    <message>
+        <source> Copy text to clipboard </source>
+        <translation> Text in die Zwischenablage kopieren </translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source> Print a Calendar </source>
+        <translation> Einen Kalender drucken </translation>
+    </message>
+</context>
+<context>
+    <name>FrmLocation</name>
+    <message>
+        <source>User Location</source>
+        <translation>Eigener Ort</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source> Click on Desired Time Zone </source>
+        <translation> Gewünschte Zeitzone anklicken </translation>
+    </message>
+    <message>
+        <source> Type part of a zone (Kolkata, Oslo) or pick one; empty for the whole-hour zone only </source>
+        <translation> Teil einer Zone tippen (Kolkata, Oslo) oder eine wählen; leer nur für die ganzstündige Zone </translation>
+    </message>
+    <message>
+        <source>Make Default</source>
+        <translation>Als Standard</translation>
+    </message>
+    <message>
+        <source> Make Displayed Data the Default </source>
+        <translation> Die angezeigten Angaben zum Standard machen </translation>
+    </message>
+    <message>
+        <source>Edit DB</source>
+        <translation>DB bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Done</source>
+        <translation>&amp;Fertig</translation>
+    </message>
+    <message>
+        <source> Click When Finished </source>
+        <translation> Klicken, wenn fertig </translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Time Zone</source>
+        <translation>Zeitzone</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Bundesstaat</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Stadt</translation>
+    </message>
+    <message>
+        <source>Local Clock zone</source>
+        <translation>Zone der Ortszeit</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a whole number from %3 to %4.</source>
+        <translation>%1: „%2“ ist keine ganze Zahl von %3 bis %4.</translation>
+    </message>
+    <message>
+        <source>The location needs a name: type one, or pick a state and a city.</source>
+        <translation>Der Ort braucht einen Namen: Geben Sie einen ein oder wählen Sie Bundesstaat und Stadt.</translation>
+    </message>
+    <message>
+        <source>A location&apos;s name holds at most %1 characters; this one has %2.</source>
+        <translation>Der Name eines Ortes hat höchstens %1 Zeichen; dieser hat %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time zone this computer knows: pick one from the list (Asia/Kolkata, Europe/Oslo) or leave the box empty for the whole-hour zone only.</source>
+        <translation>„%1“ ist keine Zeitzone, die dieser Rechner kennt: Wählen Sie eine aus der Liste (Asia/Kolkata, Europe/Oslo) oder lassen Sie das Feld leer für die ganzstündige Zone.</translation>
+    </message>
+    <message>
+        <source>A longitude runs to %1 degrees and a latitude to %2; %3.%4 is beyond.</source>
+        <translation>Eine Länge reicht bis %1 Grad, eine Breite bis %2; %3.%4 liegt darüber.</translation>
+    </message>
+    <message>
+        <source>The city list holds no cities; type the place by hand.</source>
+        <translation>Die Städteliste enthält keine Städte; geben Sie den Ort von Hand ein.</translation>
+    </message>
+    <message>
+        <source> is no longer in the city list.</source>
+        <translation> ist nicht mehr in der Städteliste.</translation>
+    </message>
+    <message>
+        <source>The city list&apos;s record of %1 lacks a usable longitude, latitude or whole-hour time zone (-12 to 12).</source>
+        <translation>Der Eintrag von %1 in der Städteliste hat keine brauchbare Länge, Breite oder ganzstündige Zeitzone (-12 bis 12).</translation>
+    </message>
+</context>
+<context>
+    <name>FrmPrint</name>
+    <message>
+        <source>Print Calendar</source>
+        <translation>Kalender drucken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+</context>
+<context>
     <name>FrmReminders</name>
     <message>
         <source>Reminders</source>
@@ -550,6 +1003,302 @@ Quillmere schließen, ohne sie zu speichern? Wählen Sie Nein, um das Programm o
     <message>
         <source>Minutes before:</source>
         <translation>Minuten vorher:</translation>
+    </message>
+</context>
+<context>
+    <name>FrmSelectDB</name>
+    <message>
+        <source>Database Functions</source>
+        <translation>Datenbankfunktionen</translation>
+    </message>
+    <message>
+        <source>Import Catches</source>
+        <translation>Fänge importieren</translation>
+    </message>
+    <message>
+        <source>Log exports (*.csv *.json);;All files (*)</source>
+        <translation>Fangbuch-Exporte (*.csv *.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Export Catches</source>
+        <translation>Fänge exportieren</translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv);;JSON files (*.json)</source>
+        <translation>CSV-Dateien (*.csv);;JSON-Dateien (*.json)</translation>
+    </message>
+    <message>
+        <source> DoubleClick on Year of Interest </source>
+        <translation> Doppelklick auf das gewünschte Jahr </translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source> Open Selected File </source>
+        <translation> Gewählte Datei öffnen </translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source> Delete Selected File </source>
+        <translation> Gewählte Datei löschen </translation>
+    </message>
+    <message>
+        <source>Compact</source>
+        <translation>Verdichten</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Reparieren</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source> Import Catches from a CSV or JSON File into the Selected Year </source>
+        <translation> Fänge aus einer CSV- oder JSON-Datei in das gewählte Jahr importieren </translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source> Export the Selected Year with its Catches as CSV or JSON </source>
+        <translation> Das gewählte Jahr mit seinen Fängen als CSV oder JSON exportieren </translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Sicherungen</translation>
+    </message>
+    <message>
+        <source> Restore an Earlier Copy of the Selected File </source>
+        <translation> Eine frühere Kopie der gewählten Datei wiederherstellen </translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source> Close and Exit </source>
+        <translation> Schließen und beenden </translation>
+    </message>
+    <message>
+        <source>No File Selected! </source>
+        <translation>Keine Datei gewählt! </translation>
+    </message>
+    <message>
+        <source>No backup of %1 could be made: %2
+The file opens as it is.</source>
+        <translation>Von %1 ließ sich keine Sicherung anlegen: %2
+Die Datei wird so geöffnet, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Create DataBase for </source>
+        <translation>Datenbank anlegen für </translation>
+    </message>
+    <message>
+        <source>DataBase already exists for </source>
+        <translation>Datenbank gibt es schon für </translation>
+    </message>
+    <message>
+        <source>The DataBase for %1 could not be created: %2
+No file was kept; use Create to try again.</source>
+        <translation>Die Datenbank für %1 ließ sich nicht anlegen: %2
+Es wurde keine Datei behalten; versuchen Sie es mit Anlegen erneut.</translation>
+    </message>
+    <message>
+        <source>Create DataBase</source>
+        <translation>Datenbank anlegen</translation>
+    </message>
+    <message>
+        <source>%1 is missing, but a copy of it is kept as %2.
+Restore %1 from that copy?</source>
+        <translation>%1 fehlt, aber eine Kopie liegt als %2 vor.
+%1 aus dieser Kopie wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>Restore DataBase</source>
+        <translation>Datenbank wiederherstellen</translation>
+    </message>
+    <message>
+        <source>%1 could not be restored: %2
+The copy is kept as it was.</source>
+        <translation>%1 ließ sich nicht wiederherstellen: %2
+Die Kopie bleibt, wie sie war.</translation>
+    </message>
+    <message>
+        <source>Confirm to Delete Selected File </source>
+        <translation>Löschen der gewählten Datei bestätigen </translation>
+    </message>
+    <message>
+        <source> The file is not deleted.</source>
+        <translation> Die Datei wird nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>Compact DataBases</source>
+        <translation>Datenbanken verdichten</translation>
+    </message>
+    <message>
+        <source>Compacting Completed!</source>
+        <translation>Verdichten abgeschlossen!</translation>
+    </message>
+    <message>
+        <source>Error Compacting Database!</source>
+        <translation>Fehler beim Verdichten der Datenbank!</translation>
+    </message>
+    <message>
+        <source>Repair Completed!
+</source>
+        <translation>Reparatur abgeschlossen!
+</translation>
+    </message>
+    <message>
+        <source>Error Repairing Database!
+%1
+The file is kept as it was.</source>
+        <translation>Fehler beim Reparieren der Datenbank!
+%1
+Die Datei bleibt, wie sie war.</translation>
+    </message>
+    <message>
+        <source>Repair DataBases</source>
+        <translation>Datenbanken reparieren</translation>
+    </message>
+</context>
+<context>
+    <name>FrmStatistics</name>
+    <message>
+        <source>Fish per day fished</source>
+        <translation>Fische je Angeltag</translation>
+    </message>
+    <message>
+        <source>The number over each bar: days fished</source>
+        <translation>Die Zahl über jedem Balken: Angeltage</translation>
+    </message>
+    <message>
+        <source>Catch Statistics</source>
+        <translation>Fangstatistik</translation>
+    </message>
+    <message>
+        <source>This year&apos;s file (%1)</source>
+        <translation>Die Datei dieses Jahres (%1)</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source> Copy the figures for a spreadsheet </source>
+        <translation> Die Zahlen für eine Tabellenkalkulation kopieren </translation>
+    </message>
+    <message>
+        <source>Records:</source>
+        <translation>Datensätze:</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>Every year file in the folder (%1)</source>
+        <translation>Alle Jahresdateien im Ordner (%1)</translation>
+    </message>
+    <message>
+        <source>The log could not be read: %1</source>
+        <translation>Das Fangbuch ließ sich nicht lesen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrmYearCal</name>
+    <message>
+        <source>Yearly Calendar</source>
+        <translation>Jahreskalender</translation>
+    </message>
+    <message>
+        <source> DoubleClick to Select and Exit </source>
+        <translation> Doppelklick wählt und schließt </translation>
+    </message>
+    <message>
+        <source>Done-Exit</source>
+        <translation>Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Quillmere Help</source>
+        <translation>Quillmere-Hilfe</translation>
+    </message>
+    <message>
+        <source>The help file %1 is missing. Reinstall Quillmere, or delete the program folder&apos;s copy so that it is put back at the next start.</source>
+        <translation>Die Hilfedatei %1 fehlt. Installieren Sie Quillmere neu oder löschen Sie die Kopie im Programmordner, damit sie beim nächsten Start zurückgelegt wird.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportCatches</name>
+    <message>
+        <source>Import Catches</source>
+        <translation>Fänge importieren</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... und %1 weitere</translation>
+    </message>
+    <message>
+        <source>%1 day(s) can be imported into %2.%3
+
+</source>
+        <translation>%1 Tag(e) lassen sich in %2 importieren.%3
+
+</translation>
+    </message>
+    <message>
+        <source>OK imports them; lines with problems are left out.</source>
+        <translation>OK importiert sie; fehlerhafte Zeilen bleiben außen vor.</translation>
+    </message>
+    <message>
+        <source>%1 of these days already hold an entry. Yes overwrites those entries, No keeps them and imports the rest, Cancel imports nothing.</source>
+        <translation>%1 dieser Tage haben schon einen Eintrag. Ja überschreibt diese Einträge, Nein behält sie und importiert den Rest, Abbrechen importiert nichts.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1.</source>
+        <translation>Nichts wurde importiert: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1</source>
+        <translation>Nichts wurde importiert: %1</translation>
+    </message>
+    <message>
+        <source>The file holds no catch entry to import into %1.%2</source>
+        <translation>Die Datei enthält keinen Fangeintrag zum Import in %1.%2</translation>
+    </message>
+    <message>
+        <source>%1 day(s) of %2 now hold the imported entries%3.</source>
+        <translation>%1 Tag(e) von %2 enthalten jetzt die importierten Einträge%3.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoViewer</name>
+    <message>
+        <source>the file is missing</source>
+        <translation>die Datei fehlt</translation>
+    </message>
+    <message>
+        <source>The photo %1 cannot be shown: %2.</source>
+        <translation>Das Foto %1 lässt sich nicht zeigen: %2.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
     </message>
 </context>
 <context>
@@ -855,6 +1604,40 @@ Quillmere schließen, ohne sie zu speichern? Wählen Sie Nein, um das Programm o
     <message>
         <source>Quillmere: reminders on</source>
         <translation>Quillmere: Erinnerungen an</translation>
+    </message>
+</context>
+<context>
+    <name>UnitsMenu</name>
+    <message>
+        <source>&amp;Units</source>
+        <translation>&amp;Einheiten</translation>
+    </message>
+    <message>
+        <source>&amp;Metric (cm, kg, °C)</source>
+        <translation>&amp;Metrisch (cm, kg, °C)</translation>
+    </message>
+    <message>
+        <source>&amp;Imperial (in, lb, °F)</source>
+        <translation>&amp;Angloamerikanisch (in, lb, °F)</translation>
+    </message>
+</context>
+<context>
+    <name>frmReport</name>
+    <message>
+        <source>Quillmere DataBase Report</source>
+        <translation>Quillmere-Datenbankbericht</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Data error event hit err:</source>
+        <translation>Datenfehler:</translation>
     </message>
 </context>
 <context>
