@@ -27,6 +27,8 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
+#include <string>
 
 namespace {
 
@@ -145,6 +147,9 @@ struct Case {
     QStringList SameWords; // words this language shares with English
 };
 
+// The row as the test's name shows it, with no addresses in it.
+void PrintTo(const Case& row, std::ostream* out) { *out << row.Locale << ' ' << row.Dpi << " dpi"; }
+
 // At 144 dpi the main window is wider than the 800-pixel test screen in English too: that
 // fault is the window's, not the language's.
 const QString TooLarge = QStringLiteral("is larger than the screen");
@@ -204,6 +209,10 @@ const QStringList GermanSameMonths = {QStringLiteral("April"), QStringLiteral("A
 INSTANTIATE_TEST_SUITE_P(Languages, Translated,
                          ::testing::Values(Case{"de_DE", 96, GermanSameMonths},
                                            Case{"de_DE", 144, GermanSameMonths},
-                                           Case{"es_ES", 96, {}}, Case{"es_ES", 144, {}}));
+                                           Case{"es_ES", 96, {}}, Case{"es_ES", 144, {}}),
+                         [](const ::testing::TestParamInfo<Case>& row) {
+                             return std::string(row.param.Locale) + "_" +
+                                    std::to_string(row.param.Dpi) + "dpi";
+                         });
 
 } // namespace
