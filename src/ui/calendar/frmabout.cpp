@@ -25,19 +25,18 @@ FrmAbout::FrmAbout(QWidget* parent, Opener opener)
           return OpenLink(op, f);
       })
 {
-    setWindowTitle(QStringLiteral("About Quillmere"));
-    lblTitle = new QLabel(QStringLiteral("<b style=\"font-size:16pt\">Quillmere</b><br>"
-                                         "The fishing calendar"),
+    setWindowTitle(tr("About Quillmere"));
+    lblTitle = new QLabel(tr("<b style=\"font-size:16pt\">Quillmere</b><br>"
+                             "The fishing calendar"),
                           this);
-    lblVersion =
-        new QLabel(QStringLiteral("Version %1").arg(QStringLiteral(QUILLMERE_VERSION)), this);
-    Email = new QLabel(QStringLiteral("Email"), this);
+    lblVersion = new QLabel(tr("Version %1").arg(QStringLiteral(QUILLMERE_VERSION)), this);
+    Email = new QLabel(tr("Email"), this);
     lblEmail = LinkLabel(ContactAddress, this);
     lblWeb = LinkLabel(WebAddress, this);
-    lblCredits = new QLabel(QStringLiteral("City list: GeoNames (geonames.org), licensed under "
-                                           "CC BY 4.0"),
+    lblCredits = new QLabel(tr("City list: GeoNames (geonames.org), licensed under "
+                               "CC BY 4.0"),
                             this);
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
+    cmdOK = new QPushButton(tr("OK"), this);
     cmdOK->setDefault(true);
 
     auto* grid = new QGridLayout(this);

@@ -19,6 +19,7 @@
 #include "ui/calendar/helpwindow.h"
 #include "ui/common/appstate.h"
 #include "ui/common/busypointer.h"
+#include "ui/common/plaintexts.h"
 #include "ui/common/themecolours.h"
 #include "ui/locations/frmlocation.h"
 #include "ui/log/frmselectdb.h"
@@ -48,7 +49,6 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 namespace {
@@ -62,8 +62,8 @@ QString LongestMonthName()
 {
     QString longest;
     for (const char* name : MonthNames)
-        if (std::strlen(name) > std::size_t(longest.size()))
-            longest = QString::fromLatin1(name);
+        if (PlainText(name).size() > longest.size())
+            longest = PlainText(name);
     return longest;
 }
 
@@ -183,7 +183,7 @@ void FrmCalendar::BuildControls()
 QLayout* FrmCalendar::BuildMonthGrid(QWidget* central)
 {
     DecMonth = new QPushButton(QStringLiteral("<<"), central);
-    DecMonth->setToolTip(QStringLiteral(" Previous Month "));
+    DecMonth->setToolTip(tr(" Previous Month "));
     QFont heading = font();
     heading.setPointSize(HeadingPoints);
     heading.setBold(true);
@@ -192,8 +192,8 @@ QLayout* FrmCalendar::BuildMonthGrid(QWidget* central)
     Label[11]->setMinimumWidth(QFontMetrics(heading).horizontalAdvance(LongestMonthName()));
     MakeLabel(12, central)->setFont(heading);
     IncMonth = new QPushButton(QStringLiteral(">>"), central);
-    IncMonth->setToolTip(QStringLiteral(" Next Month "));
-    CmdNOW = new QPushButton(QStringLiteral("Now"), central);
+    IncMonth->setToolTip(tr(" Next Month "));
+    CmdNOW = new QPushButton(tr("Now"), central);
     for (QPushButton* b : {DecMonth, IncMonth, CmdNOW})
         b->setFocusPolicy(Qt::NoFocus); // the keys belong to the grid
     auto* heads = new QHBoxLayout;
@@ -208,9 +208,8 @@ QLayout* FrmCalendar::BuildMonthGrid(QWidget* central)
     grid->setSpacing(CellGap);
     Label[1] = new WeekdayHeader(central);
     Label[1]->setObjectName(QStringLiteral("Label1"));
-    Label[1]->setText(
-        QStringLiteral("    Sun            Mon           Tue            Wed          Thu "
-                       "            Fri             Sat"));
+    Label[1]->setText(tr("    Sun            Mon           Tue            Wed          Thu "
+                         "            Fri             Sat"));
     grid->addWidget(Label[1], 0, 0, 1, DaysPerWeek);
     for (int i = 0; i < MonthGridCells; ++i) {
         auto* cell = new DayCellWidget(i, central);
@@ -224,7 +223,7 @@ QLayout* FrmCalendar::BuildMonthGrid(QWidget* central)
     VsbYear = new QScrollBar(Qt::Vertical, central);
     VsbYear->setRange(FirstYear, LastYear);
     VsbYear->setTracking(false); // dragging scrolls; the change comes on release
-    VsbYear->setToolTip(QStringLiteral(" Change the Year "));
+    VsbYear->setToolTip(tr(" Change the Year "));
     VsbYear->setFocusPolicy(Qt::NoFocus);
     grid->addWidget(VsbYear, 1, DaysPerWeek, GridRows, 1);
 
@@ -248,16 +247,16 @@ QLayout* FrmCalendar::BuildDetailsPanel(QWidget* central)
         grid->addWidget(MakeLabel(index, box), row, column);
         return Label[std::size_t(index)];
     };
-    QGroupBox* daylightFrame = frame(QStringLiteral("Daylight Hours"));
+    QGroupBox* daylightFrame = frame(tr("Daylight Hours"));
     add(daylightFrame, 7, 0, 0);
-    QGroupBox* majors = frame(QStringLiteral("Majors"));
+    QGroupBox* majors = frame(tr("Majors"));
     add(majors, 0, 0, 0);
     add(majors, 2, 1, 0);
-    QGroupBox* minors = frame(QStringLiteral("Minors"));
+    QGroupBox* minors = frame(tr("Minors"));
     add(minors, 4, 0, 0);
     add(minors, 5, 1, 0);
     for (int i : {0, 2, 4, 5}) {
-        Label[std::size_t(i)]->setToolTip(QStringLiteral(" Moon is due South/North "));
+        Label[std::size_t(i)]->setToolTip(tr(" Moon is due South/North "));
         // A mid grey behind the periods, so that both the black and the yellow text read on
         // any palette.
         Label[std::size_t(i)]->setAutoFillBackground(true);
@@ -266,12 +265,12 @@ QLayout* FrmCalendar::BuildDetailsPanel(QWidget* central)
         Label[std::size_t(i)]->setPalette(palette);
         Label[std::size_t(i)]->setAlignment(Qt::AlignCenter);
     }
-    QGroupBox* sun = frame(QStringLiteral("Sun"));
-    add(sun, 13, 0, 0)->setText(QStringLiteral("Rise"));
+    QGroupBox* sun = frame(tr("Sun"));
+    add(sun, 13, 0, 0)->setText(tr("Rise"));
     add(sun, 14, 0, 1);
-    add(sun, 17, 1, 0)->setText(QStringLiteral("Set"));
+    add(sun, 17, 1, 0)->setText(tr("Set"));
     add(sun, 16, 1, 1);
-    QGroupBox* moon = frame(QStringLiteral("Moon"));
+    QGroupBox* moon = frame(tr("Moon"));
     add(moon, 18, 0, 0);
     add(moon, 19, 0, 1);
     add(moon, 21, 1, 0);
@@ -293,10 +292,10 @@ QLayout* FrmCalendar::BuildDetailsPanel(QWidget* central)
     VsbHour->setRange(0, MinutesPerDay - 1);
     VsbHour->setPageStep(MinutesPerHour);
     VsbHour->setTracking(false);
-    VsbHour->setToolTip(QStringLiteral(" Move the moment of the day "));
+    VsbHour->setToolTip(tr(" Move the moment of the day "));
     VsbHour->setFocusPolicy(Qt::NoFocus);
     MakeLabel(15, central)->setAlignment(Qt::AlignCenter);
-    Label[15]->setToolTip(QStringLiteral(" Click to Reset Hour Bar "));
+    Label[15]->setToolTip(tr(" Click to Reset Hour Bar "));
     Label[15]->installEventFilter(this);
     for (int i : {0, 2, 4, 5, 7, 14, 16}) {
         Label[std::size_t(i)]->setMouseTracking(true);
@@ -306,7 +305,8 @@ QLayout* FrmCalendar::BuildDetailsPanel(QWidget* central)
     const QFontMetrics fm(font());
     for (int i : {0, 2, 4, 5, 7, 14, 15, 16, 19, 22})
         Label[std::size_t(i)]->setMinimumWidth(fm.horizontalAdvance(QStringLiteral(" 12:00 PM ")));
-    Label[32]->setMinimumWidth(fm.horizontalAdvance(QStringLiteral("Moon has Set")));
+    Label[32]->setMinimumWidth(std::max(fm.horizontalAdvance(PlainText("Moon is Up")),
+                                        fm.horizontalAdvance(PlainText("Moon has Set"))));
 
     auto* times = new QVBoxLayout;
     for (QGroupBox* box : {daylightFrame, majors, minors, sun})
@@ -330,39 +330,39 @@ QLayout* FrmCalendar::BuildDetailsPanel(QWidget* central)
 void FrmCalendar::BuildMenus()
 {
     QMenuBar* bar = menuBar();
-    RunDataBase = bar->addAction(QStringLiteral("&DataBase"));
+    RunDataBase = bar->addAction(tr("&DataBase"));
     RunDataBase->setObjectName(QStringLiteral("RunDataBase"));
     connect(RunDataBase, &QAction::triggered, this, &FrmCalendar::RunDataBase_Click);
-    mnuyearly = bar->addAction(QStringLiteral("&Yearly"));
+    mnuyearly = bar->addAction(tr("&Yearly"));
     mnuyearly->setObjectName(QStringLiteral("mnuyearly"));
     connect(mnuyearly, &QAction::triggered, this, &FrmCalendar::mnuyearly_Click);
-    QMenu* functions = bar->addMenu(QStringLiteral("&Functions"));
+    QMenu* functions = bar->addMenu(tr("&Functions"));
     functions->setObjectName(QStringLiteral("ProgFunctions"));
-    PrintCalendar = Item(functions, QStringLiteral("&Print"), QStringLiteral("PrintCalendar"));
+    PrintCalendar = Item(functions, tr("&Print"), QStringLiteral("PrintCalendar"));
     PrintCalendar->setShortcut(QKeySequence::Print);
-    AtAGlance = Item(functions, QStringLiteral("@&Glance"), QStringLiteral("AtAGlance"));
-    ShowList = Item(functions, QStringLiteral("&Table"), QStringLiteral("ShowList"));
+    AtAGlance = Item(functions, tr("@&Glance"), QStringLiteral("AtAGlance"));
+    ShowList = Item(functions, tr("&Table"), QStringLiteral("ShowList"));
     connect(PrintCalendar, &QAction::triggered, this, &FrmCalendar::PrintCalendar_Click);
     connect(AtAGlance, &QAction::triggered, this, &FrmCalendar::AtAGlance_Click);
     connect(ShowList, &QAction::triggered, this, &FrmCalendar::ShowList_Click);
-    QMenu* options = bar->addMenu(QStringLiteral("&Options"));
+    QMenu* options = bar->addMenu(tr("&Options"));
     options->setObjectName(QStringLiteral("SetOptions"));
-    QMenu* formats = options->addMenu(QStringLiteral("&Time Formats"));
+    QMenu* formats = options->addMenu(tr("&Time Formats"));
     formats->setObjectName(QStringLiteral("TFormat"));
-    DST[0] = Item(formats, QStringLiteral("&Daylight Savings"), QStringLiteral("DST0"), true);
-    DST[1] = Item(formats, QStringLiteral("&Standard"), QStringLiteral("DST1"), true);
-    DST[2] = Item(formats, QStringLiteral("&Local Clock"), QStringLiteral("DST2"), true);
-    Clock24 = Item(options, QStringLiteral("&24-Hour Clock"), QStringLiteral("Clock24"), true);
+    DST[0] = Item(formats, tr("&Daylight Savings"), QStringLiteral("DST0"), true);
+    DST[1] = Item(formats, tr("&Standard"), QStringLiteral("DST1"), true);
+    DST[2] = Item(formats, tr("&Local Clock"), QStringLiteral("DST2"), true);
+    Clock24 = Item(options, tr("&24-Hour Clock"), QStringLiteral("Clock24"), true);
     connect(Clock24, &QAction::triggered, this, &FrmCalendar::Clock24_Click);
-    QMenu* mice = options->addMenu(QStringLiteral("&Mouse"));
+    QMenu* mice = options->addMenu(tr("&Mouse"));
     mice->setObjectName(QStringLiteral("Mice"));
-    Mouse[0] = Item(mice, QStringLiteral("On &Move"), QStringLiteral("Mouse0"), true);
-    Mouse[1] = Item(mice, QStringLiteral("On &Click"), QStringLiteral("Mouse1"), true);
-    QMenu* pan = options->addMenu(QStringLiteral("&PAngle"));
+    Mouse[0] = Item(mice, tr("On &Move"), QStringLiteral("Mouse0"), true);
+    Mouse[1] = Item(mice, tr("On &Click"), QStringLiteral("Mouse1"), true);
+    QMenu* pan = options->addMenu(tr("&PAngle"));
     pan->setObjectName(QStringLiteral("Pan"));
-    Pangle[0] = Item(pan, QStringLiteral("Parallactic O&ff"), QStringLiteral("Pangle0"), true);
-    Pangle[1] = Item(pan, QStringLiteral("Parallactic O&n"), QStringLiteral("Pangle1"), true);
-    Reminders = Item(options, QStringLiteral("&Reminders..."), QStringLiteral("Reminders"));
+    Pangle[0] = Item(pan, tr("Parallactic O&ff"), QStringLiteral("Pangle0"), true);
+    Pangle[1] = Item(pan, tr("Parallactic O&n"), QStringLiteral("Pangle1"), true);
+    Reminders = Item(options, tr("&Reminders..."), QStringLiteral("Reminders"));
     connect(Reminders, &QAction::triggered, this, &FrmCalendar::Reminders_Click);
     AddUnitsMenu(options, App.Config.ImperialUnits);
     for (int i = 0; i < 3; ++i)
@@ -372,11 +372,11 @@ void FrmCalendar::BuildMenus()
         connect(Pangle[std::size_t(i)], &QAction::triggered, this, [this, i] { Pangle_Click(i); });
     }
 
-    QMenu* locations = bar->addMenu(QStringLiteral("&Locations"));
+    QMenu* locations = bar->addMenu(tr("&Locations"));
     locations->setObjectName(QStringLiteral("LoccationOptions"));
-    QMenu* select = locations->addMenu(QStringLiteral("&Select A Location"));
+    QMenu* select = locations->addMenu(tr("&Select A Location"));
     select->setObjectName(QStringLiteral("SelectLocation"));
-    QMenu* edit = locations->addMenu(QStringLiteral("&Edit A Location"));
+    QMenu* edit = locations->addMenu(tr("&Edit A Location"));
     edit->setObjectName(QStringLiteral("EditLocation"));
     for (int i = 1; i <= LocationCount; ++i) {
         DLoc[std::size_t(i)] = Item(select, {}, QString("DLoc%1").arg(i), true);
@@ -385,18 +385,18 @@ void FrmCalendar::BuildMenus()
         connect(Loc[std::size_t(i)], &QAction::triggered, this, [this, i] { Loc_Click(i); });
     }
 
-    QMenu* help = bar->addMenu(QStringLiteral("&Help"));
+    QMenu* help = bar->addMenu(tr("&Help"));
     help->setObjectName(QStringLiteral("Fhelp"));
-    HelpContents = Item(help, QStringLiteral("&Contents"), QStringLiteral("HelpContents"));
+    HelpContents = Item(help, tr("&Contents"), QStringLiteral("HelpContents"));
     HelpContents->setShortcut(QKeySequence::HelpContents);
-    MnuAbout = Item(help, QStringLiteral("&About"), QStringLiteral("MnuAbout"));
+    MnuAbout = Item(help, tr("&About"), QStringLiteral("MnuAbout"));
     connect(HelpContents, &QAction::triggered, this, &FrmCalendar::HelpContents_Click);
     connect(MnuAbout, &QAction::triggered, this, &FrmCalendar::MnuAbout_Click);
 
-    mnuexit = bar->addAction(QStringLiteral("E&xit"));
+    mnuexit = bar->addAction(tr("E&xit"));
     mnuexit->setObjectName(QStringLiteral("mnuexit"));
     mnuexit->setShortcut(QKeySequence::Quit);
-    mnuexit->setToolTip(QStringLiteral("Exit (%1)").arg(mnuexit->shortcut().toString()));
+    mnuexit->setToolTip(tr("Exit (%1)").arg(mnuexit->shortcut().toString()));
     connect(mnuexit, &QAction::triggered, this, &FrmCalendar::mnuexit_Click);
 }
 
@@ -411,7 +411,8 @@ void FrmCalendar::BuildStatusBar()
     StatusPanels[0]->setFixedWidth(Twips(1995 - 15));
     StatusPanels[0]->setMouseTracking(true);
     StatusBar1->addWidget(StatusPanels[0]);
-    static constexpr std::array<const char*, 4> legend = {"Best", "V.Good", "Good", "Fair"};
+    static constexpr std::array<const char*, 4> legend = {QT_TR_NOOP("Best"), QT_TR_NOOP("V.Good"),
+                                                          QT_TR_NOOP("Good"), QT_TR_NOOP("Fair")};
     for (std::size_t k = 0; k < legend.size(); ++k) {
         // The legend's fish, then its word: the whole fish is "Best".
         const int rating = int(4 - k);
@@ -419,7 +420,7 @@ void FrmCalendar::BuildStatusBar()
         auto* fish = new QLabel(StatusBar1);
         fish->setPixmap(Pic[std::size_t(rating)]);
         StatusBar1->addWidget(fish);
-        StatusPanels[k + 1] = new QLabel(QString::fromLatin1(legend[k]), StatusBar1);
+        StatusPanels[k + 1] = new QLabel(tr(legend[k]), StatusBar1);
         StatusBar1->addWidget(StatusPanels[k + 1]);
     }
 }
@@ -469,7 +470,7 @@ void FrmCalendar::RefreshMonth(int selectDay)
 {
     Calendar& cal = App.Cal;
     Label[12]->setText(" " + QString::number(cal.CurYear));
-    Label[11]->setText(QString::fromLatin1(MonthNames[std::size_t(cal.CurMonth)]));
+    Label[11]->setText(PlainText(MonthNames[std::size_t(cal.CurMonth)]));
     DrawMonthCells();
     if (selectDay > 0)
         SelectCell(std::min(cal.FirstWeekday + selectDay, cal.FirstWeekday + cal.MonthDays) - 1);
@@ -521,7 +522,7 @@ void FrmCalendar::DoLabels()
     const DayForecast& f = App.Astro.Forecast;
     Panel = ::DoLabels(f, f.SkyPosition.MoonAltitude, App.Config.AmPm());
     for (const auto& [i, text] : Panel.Captions)
-        Label[std::size_t(i)]->setText(Q(text));
+        Label[std::size_t(i)]->setText(PlainText(text));
     for (const auto& [i, colour] : Panel.Colors) {
         QLabel* label = Label[std::size_t(i)];
         // The periods keep their colours on their own grey; the others stand on the palette.
@@ -537,7 +538,7 @@ void FrmCalendar::DoLabels()
 void FrmCalendar::ShowLabelToolTip(int index)
 {
     Label[std::size_t(index)]->setToolTip(
-        Q(LabelToolTip(index, App.Astro.Forecast, App.Config.AmPm())));
+        PlainText(LabelToolTip(index, App.Astro.Forecast, App.Config.AmPm())));
 }
 
 void FrmCalendar::DrawMoonPicture(bool parallacticView)
@@ -735,8 +736,7 @@ void FrmCalendar::txtpic_MouseMove(int index)
     const int doy = int(jd - cal.YearStartJD) + 1;
     if (index != LastHoveredCell) {
         const int daysInYear = cal.YearSlots - 1;
-        Label[3]->setText("Day " + QString(" %1").arg(doy) + "  " +
-                          QString(" %1").arg(daysInYear - doy) + " days remain");
+        Label[3]->setText(tr("Day  %1   %2 days remain").arg(doy).arg(daysInYear - doy));
         LastHoveredCell = index;
     }
     // The hovered day is the selected day for the panel; the frame stays on the clicked cell.
@@ -812,9 +812,8 @@ void FrmCalendar::PicM_Click()
 
 void FrmCalendar::PicM_MouseMove()
 {
-    PicM->setToolTip(App.Config.ParallacticOn()
-                         ? QString()
-                         : QStringLiteral(" Click to Show Parallactic Angle View "));
+    PicM->setToolTip(App.Config.ParallacticOn() ? QString()
+                                                : tr(" Click to Show Parallactic Angle View "));
 }
 
 void FrmCalendar::ApplyCurrentLocation()
@@ -826,8 +825,8 @@ void FrmCalendar::ApplyCurrentLocation()
     const bool unknown = !here.TzName.empty() && HereClock.Empty();
     if (unknown && std::find(ZonesTold.begin(), ZonesTold.end(), here.TzName) == ZonesTold.end()) {
         ZonesTold.push_back(here.TzName);
-        App.Messages.MsgBox(Q(UnknownZoneMessage(here)), MsgButtons::OK,
-                            QStringLiteral("Time Zone"), MsgIcon::Exclamation);
+        App.Messages.MsgBox(Q(UnknownZoneMessage(here)), MsgButtons::OK, tr("Time Zone"),
+                            MsgIcon::Exclamation);
     }
     ApplyLocationValues(s, Here, App.Astro.Site, HereClock);
     // The menu's items in order; any other stored mode leaves the checks as they are.
@@ -908,7 +907,7 @@ void FrmCalendar::Loc_Click(int index)
     hide();
     FrmLocation editor({App.Messages, s.Locations, s.CurLoc, s.DefLoc, ProgramFolder::Path()},
                        this);
-    editor.setWindowTitle(QStringLiteral("Location #%1 ").arg(index));
+    editor.setWindowTitle(tr("Location #%1 ").arg(index));
     editor.exec();
     // However the editor closed, the window comes back at the (possibly edited) location;
     // the month redraw recomputes the year's events for it.
@@ -1016,9 +1015,9 @@ void FrmCalendar::closeEvent(QCloseEvent* event)
     RecordPosition();
     if (!SaveSettings(App.Config, App.Store) &&
         App.Messages.MsgBox(
-            QStringLiteral("The settings cannot be saved to\n%1\n(the file or its folder is not "
-                           "writable).\n\nClose Quillmere without saving them? Choose No to "
-                           "keep it open while you make the folder writable.")
+            tr("The settings cannot be saved to\n%1\n(the file or its folder is not "
+               "writable).\n\nClose Quillmere without saving them? Choose No to "
+               "keep it open while you make the folder writable.")
                 .arg(App.Store.FilePath()),
             MsgButtons::YesNo, QStringLiteral("Quillmere"),
             MsgIcon::Exclamation) != MsgResult::Yes) {

@@ -13,13 +13,13 @@ FrmPrint::FrmPrint(Astronomy& engine, const Calendar& cal, MessageService& messa
                    QWidget* parent)
     : QWidget(parent, Qt::Window), Engine(engine), Cal(cal), Messages(messages)
 {
-    setWindowTitle(QStringLiteral("Print Calendar"));
+    setWindowTitle(tr("Print Calendar"));
     Pic[0] = new TwipsPicture(this);
     Pic[0]->setFixedSize(Twips(CalendarPageTwips.width()) + 1,
                          Twips(CalendarPageTwips.height()) + 1);
     Pic[0]->SetDrawing([this](QPainter& p) { DrawCalendarPage(p, Page); });
-    Command1 = new QPushButton(QStringLiteral("Close"), this);
-    Command2 = new QPushButton(QStringLiteral("Print"), this);
+    Command1 = new QPushButton(tr("Close"), this);
+    Command2 = new QPushButton(tr("Print"), this);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(Command2);

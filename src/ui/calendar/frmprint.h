@@ -15,6 +15,8 @@ class QPushButton;
 class TwipsPicture;
 
 class FrmPrint : public QWidget {
+    Q_OBJECT
+
 public:
     FrmPrint(Astronomy& engine, const Calendar& cal, MessageService& messages,
              QWidget* parent = nullptr);

@@ -55,7 +55,7 @@ void WeekColumns::paintEvent(QPaintEvent*)
 
 FrmYearCal::FrmYearCal(MainWindow main, QWidget* parent) : QDialog(parent), Main(std::move(main))
 {
-    setWindowTitle(QStringLiteral("Yearly Calendar"));
+    setWindowTitle(tr("Yearly Calendar"));
     setModal(true);
     BuildControls();
     connect(vsbyearcal, &QScrollBar::valueChanged, this, &FrmYearCal::vsbyearcal_Change);
@@ -81,7 +81,7 @@ void FrmYearCal::BuildControls()
         days->setObjectName(QString("Labmonth%1").arg(m));
         days->setFont(small);
         days->setAutoFillBackground(true);
-        days->setToolTip(QStringLiteral(" DoubleClick to Select and Exit "));
+        days->setToolTip(tr(" DoubleClick to Select and Exit "));
         days->setMouseTracking(true);
         days->installEventFilter(this);
         Labmonth[std::size_t(m)] = days;
@@ -97,7 +97,7 @@ void FrmYearCal::BuildControls()
     vsbyearcal->setRange(FirstYear, LastYear);
     vsbyearcal->setTracking(false); // dragging scrolls; the change comes on release
     months->addWidget(vsbyearcal, 0, 4, 3, 1);
-    cmdexit = new QPushButton(QStringLiteral("Done-Exit"), this);
+    cmdexit = new QPushButton(tr("Done-Exit"), this);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(months);
     layout->addWidget(cmdexit, 0, Qt::AlignRight);

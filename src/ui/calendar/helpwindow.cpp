@@ -7,7 +7,7 @@
 
 HelpWindow::HelpWindow(const QString& file, QWidget* parent) : QDialog(parent)
 {
-    setWindowTitle(QStringLiteral("Quillmere Help"));
+    setWindowTitle(tr("Quillmere Help"));
     Browser = new QTextBrowser(this);
     Browser->setOpenExternalLinks(true);
     auto* layout = new QVBoxLayout(this);
@@ -17,8 +17,8 @@ HelpWindow::HelpWindow(const QString& file, QWidget* parent) : QDialog(parent)
     if (QFile::exists(file))
         Browser->setSource(QUrl::fromLocalFile(file));
     else
-        Browser->setPlainText(QStringLiteral("The help file %1 is missing. Reinstall Quillmere, "
-                                             "or delete the program folder's copy so that it is "
-                                             "put back at the next start.")
+        Browser->setPlainText(tr("The help file %1 is missing. Reinstall Quillmere, "
+                                 "or delete the program folder's copy so that it is "
+                                 "put back at the next start.")
                                   .arg(file));
 }

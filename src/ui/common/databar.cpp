@@ -19,10 +19,10 @@ QToolButton* Arrow(const QString& text, const QString& tip, QWidget* parent)
 DataBar::DataBar(DataControl& control, QWidget* parent) : QWidget(parent), Control(control)
 {
     setObjectName(QStringLiteral("Data1"));
-    First = Arrow(QStringLiteral("|<"), QStringLiteral("First record"), this);
-    Previous = Arrow(QStringLiteral("<"), QStringLiteral("Previous record"), this);
-    Next = Arrow(QStringLiteral(">"), QStringLiteral("Next record"), this);
-    Last = Arrow(QStringLiteral(">|"), QStringLiteral("Last record"), this);
+    First = Arrow(QStringLiteral("|<"), DataBar::tr("First record"), this);
+    Previous = Arrow(QStringLiteral("<"), DataBar::tr("Previous record"), this);
+    Next = Arrow(QStringLiteral(">"), DataBar::tr("Next record"), this);
+    Last = Arrow(QStringLiteral(">|"), DataBar::tr("Last record"), this);
     CaptionLabel = new QLabel(this);
     CaptionLabel->setAlignment(Qt::AlignCenter);
     CaptionLabel->setFrameShape(QFrame::StyledPanel);

@@ -34,7 +34,7 @@ constexpr const char* Tips[] = {" Close this form ",    " Edit this Record ",
                                 " Update this Record ", " Find this City "};
 
 const QString AllStates = QStringLiteral("select * from Table1 Order by State, City");
-const QString Title = QStringLiteral("Edit Database");
+QString Title() { return EditDB::tr("Edit Database"); }
 
 // What the location editor can use of a record, box by box: degrees in range with their
 // hemisphere letters, and a whole-hour time zone.
@@ -66,10 +66,10 @@ bool Follows(const FieldRule& rule, const QString& typed)
 QString Wanted(const FieldRule& rule)
 {
     if (*rule.Letters != '\0')
-        return QStringLiteral("%1 or %2")
+        return EditDB::tr("%1 or %2")
             .arg(QLatin1String(rule.Letters, 1), QLatin1String(rule.Letters + 1, 1));
-    return (rule.Box == ZoneBox ? QStringLiteral("a whole number of hours from %1 to %2")
-                                : QStringLiteral("a number of degrees from %1 to %2"))
+    return (rule.Box == ZoneBox ? EditDB::tr("a whole number of hours from %1 to %2")
+                                : EditDB::tr("a number of degrees from %1 to %2"))
         .arg(rule.Low)
         .arg(rule.High);
 }
@@ -97,7 +97,7 @@ private:
 EditDB::EditDB(MessageService& messages, const QString& folder, QWidget* parent)
     : QDialog(parent), Messages(messages), Folder(folder)
 {
-    setWindowTitle(Title);
+    setWindowTitle(Title());
     BuildControls();
     ConnectHandlers();
     Form_Load();
@@ -127,7 +127,7 @@ void EditDB::BuildControls()
     }
     Text[0]->setReadOnly(true);
     Combo = new QComboBox(this);
-    Combo->setToolTip(QStringLiteral(" Show the cities of one state, or ALL "));
+    Combo->setToolTip(tr(" Show the cities of one state, or ALL "));
     Combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     Data1Bar = new DataBar(Data1, this);
     fields->addWidget(Combo, int(Text.size()), 0, 1, 2);
@@ -160,7 +160,7 @@ void EditDB::ConnectHandlers()
 bool EditDB::Report(const DbResult& result)
 {
     if (!result)
-        Messages.MsgBox(result.Message, MsgButtons::OK, Title);
+        Messages.MsgBox(result.Message, MsgButtons::OK, Title());
     return result.Ok;
 }
 
@@ -179,12 +179,12 @@ void EditDB::Form_Load()
     ButtonsON();
     TextOff();
     if (const DbResult read = Data1.Refresh(); !read) {
-        Messages.MsgBox(CityDb::Unreadable(Folder, read.Message), MsgButtons::OK, Title);
+        Messages.MsgBox(CityDb::Unreadable(Folder, read.Message), MsgButtons::OK, Title());
         ButtonsOFF();
         CmdB[Load]->setEnabled(false);
         return;
     }
-    Combo->addItem(QStringLiteral("ALL"));
+    Combo->addItem(tr("ALL"));
     Combo->addItems(CityDb::FieldValues(Data1, QStringLiteral("State")));
     Data1.SetRecordSource(QStringLiteral("select * from Table1 Order By State, City"));
     Report(Data1.Refresh());
@@ -203,7 +203,7 @@ void EditDB::Combo_Click()
 
 void EditDB::Data1_Reposition()
 {
-    Data1Bar->SetCaption(QStringLiteral("Record: %1 of %2 Record(s)")
+    Data1Bar->SetCaption(tr("Record: %1 of %2 Record(s)")
                              .arg(Data1.AbsolutePosition() + 1)
                              .arg(Data1.RecordCount()));
 }
@@ -287,7 +287,7 @@ QString EditDB::FieldProblem() const
     for (const FieldRule& rule : Rules) {
         const QString typed = Text[rule.Box]->text();
         if (!Follows(rule, typed))
-            return QStringLiteral("%1: \"%2\" is not %3.")
+            return tr("%1: \"%2\" is not %3.")
                 .arg(QString::fromLatin1(Labels[rule.Box]).trimmed(), typed, Wanted(rule));
     }
     return {};
@@ -296,12 +296,12 @@ QString EditDB::FieldProblem() const
 void EditDB::UpdateRecord()
 {
     if (Text[1]->text().trimmed().isEmpty() || Text[2]->text().trimmed().isEmpty()) {
-        Messages.MsgBox(QStringLiteral("Missing Data!"));
+        Messages.MsgBox(tr("Missing Data!"));
         return;
     }
     // A record the location editor could not use is not stored; the edit stays open.
     if (const QString problem = FieldProblem(); !problem.isEmpty()) {
-        Messages.MsgBox(problem, MsgButtons::OK, Title, MsgIcon::Exclamation);
+        Messages.MsgBox(problem, MsgButtons::OK, Title(), MsgIcon::Exclamation);
         return;
     }
     if (!Report(Data1.Update()))
@@ -314,8 +314,8 @@ void EditDB::UpdateRecord()
 
 void EditDB::DeleteRecord()
 {
-    if (Messages.MsgBox(QStringLiteral("Delete Current Record?"), MsgButtons::YesNo,
-                        QStringLiteral("Delete Record")) != MsgResult::Yes)
+    if (Messages.MsgBox(tr("Delete Current Record?"), MsgButtons::YesNo, tr("Delete Record")) !=
+        MsgResult::Yes)
         return;
     ButtonsOFF();
     Report(Data1.Delete());
@@ -328,8 +328,8 @@ bool EditDB::ConfirmLeaveEditing()
     if (Data1.EditMode() == DataControl::EditState::None)
         return true;
     const MsgResult answer =
-        Messages.MsgBox(QStringLiteral("Save changes to this city?"), MsgButtons::SaveDiscardCancel,
-                        Title, MsgIcon::Question);
+        Messages.MsgBox(tr("Save changes to this city?"), MsgButtons::SaveDiscardCancel, Title(),
+                        MsgIcon::Question);
     if (answer == MsgResult::Save)
         UpdateRecord();
     else if (answer == MsgResult::Discard)
@@ -364,16 +364,13 @@ void EditDB::CancelEdit()
 void EditDB::FindCity()
 {
     ButtonsOFF();
-    const QString name =
-        Messages.InputBox(QStringLiteral("Input CityName"), QStringLiteral("City Name?"));
+    const QString name = Messages.InputBox(tr("Input CityName"), tr("City Name?"));
     if (!name.isEmpty() && Data1.RecordCount() > 0) {
         Data1.MoveFirst();
         if (Report(Data1.FindFirst(QStringLiteral("City = ?"), {name})) && Data1.NoMatch())
-            Messages.MsgBox(QStringLiteral("City NOT Found!"), MsgButtons::OK,
-                            QStringLiteral("City Search"));
+            Messages.MsgBox(tr("City NOT Found!"), MsgButtons::OK, tr("City Search"));
     } else if (!name.isEmpty()) {
-        Messages.MsgBox(QStringLiteral("City NOT Found!"), MsgButtons::OK,
-                        QStringLiteral("City Search"));
+        Messages.MsgBox(tr("City NOT Found!"), MsgButtons::OK, tr("City Search"));
     }
     ButtonsON();
 }
@@ -381,7 +378,7 @@ void EditDB::FindCity()
 void EditDB::FilterCity()
 {
     ButtonsOFF();
-    const QString answer = Messages.InputBox(QStringLiteral("Input City"), QStringLiteral("City?"));
+    const QString answer = Messages.InputBox(tr("Input City"), tr("City?"));
     if (!answer.isEmpty()) {
         Data1.SetRecordSource(QStringLiteral("select * from Table1 where city = ? "),
                               {answer.toUpper()});

@@ -85,7 +85,7 @@ QHBoxLayout* DegreeRow(const std::array<QWidget*, 6>& parts)
 FrmLocation::FrmLocation(const LocationContext& context, QWidget* parent)
     : QDialog(parent), Ctx(context)
 {
-    setWindowTitle(QStringLiteral("User Location"));
+    setWindowTitle(tr("User Location"));
     BuildControls();
     ConnectHandlers();
     Form_Load();
@@ -116,14 +116,14 @@ void FrmLocation::BuildControls()
 
     const QString longName = QStringLiteral("Saint Petersburg, Florida");
     Text[4] = Box(this, " Name of Location ", longName);
-    Text[6] = Box(this, " Current Default Location ", QStringLiteral("Default"));
-    Text[6]->setText(QStringLiteral("Default"));
+    Text[6] = Box(this, " Current Default Location ", tr("Default"));
+    Text[6]->setText(tr("Default"));
     Text[5] = Box(this, " Name of current Default Location ", longName);
     Text[5]->setReadOnly(true);
     Text[6]->setReadOnly(true);
 
     List1 = new QListWidget(this);
-    List1->setToolTip(QStringLiteral(" Click on Desired Time Zone "));
+    List1->setToolTip(tr(" Click on Desired Time Zone "));
 
     for (std::size_t i = 0; i < 2; ++i) {
         Combo[i] = new QComboBox(this);
@@ -136,19 +136,19 @@ void FrmLocation::BuildControls()
     TzCombo->setObjectName(QStringLiteral("TzCombo"));
     TzCombo->setEditable(true);
     TzCombo->setInsertPolicy(QComboBox::NoInsert);
-    TzCombo->setToolTip(QStringLiteral(" Type part of a zone (Kolkata, Oslo) or pick one; empty "
-                                       "for the whole-hour zone only "));
+    TzCombo->setToolTip(tr(" Type part of a zone (Kolkata, Oslo) or pick one; empty "
+                           "for the whole-hour zone only "));
     TzCombo->addItem(QString());
     for (const std::string& name : ZoneNames())
         TzCombo->addItem(Q(name));
     TzCombo->completer()->setFilterMode(Qt::MatchContains);
     TzCombo->completer()->setCompletionMode(QCompleter::PopupCompletion);
 
-    CmdDefault = new QPushButton(QStringLiteral("Make Default"), this);
-    CmdDefault->setToolTip(QStringLiteral(" Make Displayed Data the Default "));
-    CmdEdit = new QPushButton(QStringLiteral("Edit DB"), this);
-    CloseLocation = new QPushButton(QStringLiteral("&Done"), this);
-    CloseLocation->setToolTip(QStringLiteral(" Click When Finished "));
+    CmdDefault = new QPushButton(tr("Make Default"), this);
+    CmdDefault->setToolTip(tr(" Make Displayed Data the Default "));
+    CmdEdit = new QPushButton(tr("Edit DB"), this);
+    CloseLocation = new QPushButton(tr("&Done"), this);
+    CloseLocation->setToolTip(tr(" Click When Finished "));
     LayOut();
 }
 
@@ -157,13 +157,13 @@ void FrmLocation::BuildControls()
 void FrmLocation::LayOut()
 {
     auto* place = new QVBoxLayout;
-    place->addWidget(new QLabel(QStringLiteral("Longitude"), this));
+    place->addWidget(new QLabel(tr("Longitude"), this));
     place->addLayout(
         DegreeRow({Text[0], VsbDegLon, Text[1], VsbFracLon, SSOption[0], SSOption[1]}));
-    place->addWidget(new QLabel(QStringLiteral("Latitude"), this));
+    place->addWidget(new QLabel(tr("Latitude"), this));
     place->addLayout(
         DegreeRow({Text[2], VsbDegLat, Text[3], VsbFracLat, SSOption[2], SSOption[3]}));
-    place->addWidget(new QLabel(QStringLiteral("Name"), this));
+    place->addWidget(new QLabel(tr("Name"), this));
     place->addWidget(Text[4]);
     auto* defaultRow = new QHBoxLayout;
     defaultRow->addWidget(Text[6]);
@@ -171,19 +171,19 @@ void FrmLocation::LayOut()
     place->addLayout(defaultRow);
     place->addStretch(1);
     auto* zones = new QVBoxLayout;
-    zones->addWidget(new QLabel(QStringLiteral("Time Zone"), this));
+    zones->addWidget(new QLabel(tr("Time Zone"), this));
     zones->addWidget(List1, 1);
 
     auto* grid = new QGridLayout(this);
     grid->addLayout(place, 0, 0, 1, 2);
     grid->addLayout(zones, 0, 2);
-    grid->addWidget(new QLabel(QStringLiteral("State"), this), 1, 0);
-    grid->addWidget(new QLabel(QStringLiteral("City"), this), 1, 1, 1, 2);
+    grid->addWidget(new QLabel(tr("State"), this), 1, 0);
+    grid->addWidget(new QLabel(tr("City"), this), 1, 1, 1, 2);
     grid->addWidget(Combo[0], 2, 0);
     grid->addWidget(Combo[1], 2, 1, 1, 2);
     grid->addWidget(CityNote, 3, 0, 1, 3);
     auto* clock = new QHBoxLayout;
-    clock->addWidget(new QLabel(QStringLiteral("Local Clock zone"), this));
+    clock->addWidget(new QLabel(tr("Local Clock zone"), this));
     clock->addWidget(TzCombo, 1);
     grid->addLayout(clock, 4, 0, 1, 3);
     auto* buttons = new QHBoxLayout;
@@ -323,7 +323,7 @@ bool FrmLocation::Text_Typed(int box)
     bool whole = false;
     const int value = typed.trimmed().toInt(&whole);
     if (!whole || value < bar->minimum() || value > bar->maximum()) {
-        Warn(QStringLiteral("%1: \"%2\" is not a whole number from %3 to %4.")
+        Warn(tr("%1: \"%2\" is not a whole number from %3 to %4.")
                  .arg(QLatin1String(DegreeBoxNames[box]), typed)
                  .arg(bar->minimum())
                  .arg(bar->maximum()));
@@ -338,9 +338,9 @@ bool FrmLocation::NameIsUsable()
 {
     const QString name = Text[4]->text().trimmed();
     if (name.isEmpty())
-        Warn(QStringLiteral("The location needs a name: type one, or pick a state and a city."));
+        Warn(tr("The location needs a name: type one, or pick a state and a city."));
     else if (name.size() > MaxLocationNameLength)
-        Warn(QStringLiteral("A location's name holds at most %1 characters; this one has %2.")
+        Warn(tr("A location's name holds at most %1 characters; this one has %2.")
                  .arg(MaxLocationNameLength)
                  .arg(name.size()));
     return !name.isEmpty() && name.size() <= MaxLocationNameLength;
@@ -354,9 +354,9 @@ bool FrmLocation::TzNameIsUsable()
         return true;
     }
     TzRefused = name;
-    Warn(QStringLiteral("\"%1\" is not a time zone this computer knows: pick one from the list "
-                        "(Asia/Kolkata, Europe/Oslo) or leave the box empty for the whole-hour "
-                        "zone only.")
+    Warn(tr("\"%1\" is not a time zone this computer knows: pick one from the list "
+            "(Asia/Kolkata, Europe/Oslo) or leave the box empty for the whole-hour "
+            "zone only.")
              .arg(name));
     return false;
 }
@@ -370,7 +370,7 @@ bool FrmLocation::TypedEntriesAreUsable()
     const double lon = JoinDegrees(VsbDegLon->value(), VsbFracLon->value(), false);
     const double lat = JoinDegrees(VsbDegLat->value(), VsbFracLat->value(), false);
     if (lon > MostLongitude || lat > MostLatitude) {
-        Warn(QStringLiteral("A longitude runs to %1 degrees and a latitude to %2; %3.%4 is beyond.")
+        Warn(tr("A longitude runs to %1 degrees and a latitude to %2; %3.%4 is beyond.")
                  .arg(MostLongitude)
                  .arg(MostLatitude)
                  .arg(Text[lon > MostLongitude ? 0 : 2]->text(),
@@ -409,7 +409,7 @@ bool FrmLocation::FillStates()
     Combo[0]->addItems(CityDb::FieldValues(Data1, QStringLiteral("State")));
     Combo[0]->setCurrentIndex(-1);
     ShowCityNote(Combo[0]->count() == 0
-                     ? QStringLiteral("The city list holds no cities; type the place by hand.")
+                     ? tr("The city list holds no cities; type the place by hand.")
                      : QString());
     return true;
 }
@@ -449,7 +449,7 @@ void FrmLocation::PickCity(const QString& state, const QString& city)
     }
     const QString place = city + QStringLiteral(", ") + state;
     if (Data1.RecordCount() == 0) {
-        Ctx.Messages.MsgBox(place + QStringLiteral(" is no longer in the city list."));
+        Ctx.Messages.MsgBox(place + tr(" is no longer in the city list."));
         return;
     }
     const auto lon = NumberOf(Data1.Field(QStringLiteral("LongInDegrees")));
@@ -457,8 +457,8 @@ void FrmLocation::PickCity(const QString& state, const QString& city)
     const auto zone = NumberOf(Data1.Field(QStringLiteral("Timezone")));
     if (!lon || !lat || !zone || std::fabs(*lon) > 180 || std::fabs(*lat) > 90 ||
         *zone != std::trunc(*zone) || !IsListedTimeZone(int(*zone))) {
-        Ctx.Messages.MsgBox(QStringLiteral("The city list's record of %1 lacks a usable longitude, "
-                                           "latitude or whole-hour time zone (-12 to 12).")
+        Ctx.Messages.MsgBox(tr("The city list's record of %1 lacks a usable longitude, "
+                               "latitude or whole-hour time zone (-12 to 12).")
                                 .arg(place));
         return;
     }

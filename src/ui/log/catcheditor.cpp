@@ -49,7 +49,8 @@ std::optional<QTime> TimeOf(const QString& typed)
 QString Quoted(const QString& typed) { return QStringLiteral("\"%1\"").arg(typed.trimmed()); }
 
 // A typed latitude or longitude: blank is none; `why` says when the text is not one.
-std::optional<double> DegreesOf(const QString& typed, double limit, const char* noun, QString& why)
+std::optional<double> DegreesOf(const QString& typed, double limit, const QString& refusal,
+                                QString& why)
 {
     if (typed.trimmed().isEmpty())
         return std::nullopt;
@@ -57,10 +58,7 @@ std::optional<double> DegreesOf(const QString& typed, double limit, const char* 
     const double value = typed.trimmed().toDouble(&ok);
     if (ok && std::abs(value) <= limit)
         return value;
-    why = QStringLiteral("%1 is not a %2 from %3 to %4")
-              .arg(Quoted(typed), QLatin1String(noun))
-              .arg(-limit)
-              .arg(limit);
+    why = refusal.arg(Quoted(typed)).arg(-limit).arg(limit);
     return std::nullopt;
 }
 
@@ -101,12 +99,12 @@ CatchEditor::CatchEditor(const LogContext& context, const QString& yearFile, con
     : QDialog(parent), Ctx(context), YearFile(yearFile), Start(start), Result(start),
       Thumbnails(thumbnails)
 {
-    setWindowTitle(start.Id == 0 ? QStringLiteral("New Catch") : QStringLiteral("Catch"));
+    setWindowTitle(start.Id == 0 ? tr("New Catch") : tr("Catch"));
     setModal(true);
     ChoosePhotoFiles = [this] {
         return QFileDialog::getOpenFileNames(
-            this, QStringLiteral("Add Photos"), {},
-            QStringLiteral("Pictures (*.jpg *.jpeg *.png *.bmp *.gif *.webp);;All files (*)"));
+            this, tr("Add Photos"), {},
+            tr("Pictures (*.jpg *.jpeg *.png *.bmp *.gif *.webp);;All files (*)"));
     };
     BuildControls();
     ShowCatch(start);
@@ -130,23 +128,24 @@ void CatchEditor::BuildControls()
     CountBox->setRange(1, MostFishPerCatch);
     LengthBox = Box(this, QStringLiteral("LengthBox"), 12);
     WeightBox = Box(this, QStringLiteral("WeightBox"), 12);
-    ReleasedCheck = new QCheckBox(QStringLiteral("&Released"), this);
+    ReleasedCheck = new QCheckBox(tr("&Released"), this);
     ReleasedCheck->setObjectName(QStringLiteral("ReleasedCheck"));
     BaitBox = Box(this, QStringLiteral("BaitBox"));
     MethodBox = Suggestions(this, QStringLiteral("MethodBox"),
-                            {"Casting", "Trolling", "Fly fishing", "Jigging", "Still fishing",
-                             "Ice fishing", "Spinning"});
+                            {tr("Casting"), tr("Trolling"), tr("Fly fishing"), tr("Jigging"),
+                             tr("Still fishing"), tr("Ice fishing"), tr("Spinning")});
     SpotBox = Box(this, QStringLiteral("SpotBox"));
     LatitudeBox = Box(this, QStringLiteral("LatitudeBox"), 16);
-    LatitudeBox->setPlaceholderText(QStringLiteral("north +"));
+    LatitudeBox->setPlaceholderText(tr("north +"));
     LongitudeBox = Box(this, QStringLiteral("LongitudeBox"), 16);
-    LongitudeBox->setPlaceholderText(QStringLiteral("east +"));
+    LongitudeBox->setPlaceholderText(tr("east +"));
     WaterBox = Box(this, QStringLiteral("WaterBox"), 12);
     AirBox = Box(this, QStringLiteral("AirBox"), 12);
     WindBox = Suggestions(this, QStringLiteral("WindBox"),
-                          {"Calm", "Light", "Moderate", "Strong", "Gale"});
-    SkyBox = Suggestions(this, QStringLiteral("SkyBox"),
-                         {"Clear", "Partly cloudy", "Overcast", "Rain", "Fog", "Snow"});
+                          {tr("Calm"), tr("Light"), tr("Moderate"), tr("Strong"), tr("Gale")});
+    SkyBox = Suggestions(
+        this, QStringLiteral("SkyBox"),
+        {tr("Clear"), tr("Partly cloudy"), tr("Overcast"), tr("Rain"), tr("Fog"), tr("Snow")});
     NoteBox = new QPlainTextEdit(this);
     NoteBox->setObjectName(QStringLiteral("NoteBox"));
     NoteBox->setTabChangesFocus(true);
@@ -172,30 +171,30 @@ void CatchEditor::BuildControls()
     const auto unit = [](std::string_view name) {
         return QString::fromUtf8(name.data(), qsizetype(name.size()));
     };
-    field(QStringLiteral("&Time:"), TimeBox, 0);
-    field(QStringLiteral("&Species:"), SpeciesBox, 3);
+    field(tr("&Time:"), TimeBox, 0);
+    field(tr("&Species:"), SpeciesBox, 3);
     ++row;
-    field(QStringLiteral("C&ount:"), CountBox, 0);
+    field(tr("C&ount:"), CountBox, 0);
     grid->addWidget(ReleasedCheck, row, 4, 1, 2);
     ++row;
-    field(QStringLiteral("&Length:"), LengthBox, 0, unit(LengthUnit(units)));
-    field(QStringLiteral("&Weight:"), WeightBox, 3, unit(WeightUnit(units)));
+    field(tr("&Length:"), LengthBox, 0, unit(LengthUnit(units)));
+    field(tr("&Weight:"), WeightBox, 3, unit(WeightUnit(units)));
     ++row;
-    field(QStringLiteral("&Bait or lure:"), BaitBox, 0);
-    field(QStringLiteral("&Method:"), MethodBox, 3);
+    field(tr("&Bait or lure:"), BaitBox, 0);
+    field(tr("&Method:"), MethodBox, 3);
     ++row;
-    field(QStringLiteral("S&pot:"), SpotBox, 0);
+    field(tr("S&pot:"), SpotBox, 0);
     ++row;
-    field(QStringLiteral("L&atitude:"), LatitudeBox, 0, QStringLiteral("\u00B0"));
-    field(QStringLiteral("Lo&ngitude:"), LongitudeBox, 3, QStringLiteral("\u00B0"));
+    field(tr("L&atitude:"), LatitudeBox, 0, QStringLiteral("\u00B0"));
+    field(tr("Lo&ngitude:"), LongitudeBox, 3, QStringLiteral("\u00B0"));
     ++row;
-    field(QStringLiteral("Wat&er:"), WaterBox, 0, unit(TemperatureUnit(units)));
-    field(QStringLiteral("A&ir:"), AirBox, 3, unit(TemperatureUnit(units)));
+    field(tr("Wat&er:"), WaterBox, 0, unit(TemperatureUnit(units)));
+    field(tr("A&ir:"), AirBox, 3, unit(TemperatureUnit(units)));
     ++row;
-    field(QStringLiteral("Win&d:"), WindBox, 0);
-    field(QStringLiteral("Sk&y:"), SkyBox, 3);
+    field(tr("Win&d:"), WindBox, 0);
+    field(tr("Sk&y:"), SkyBox, 3);
     ++row;
-    auto* noteLabel = new QLabel(QStringLiteral("N&ote:"), this);
+    auto* noteLabel = new QLabel(tr("N&ote:"), this);
     noteLabel->setBuddy(NoteBox);
     grid->addWidget(noteLabel, row, 0, Qt::AlignTop);
     grid->addWidget(NoteBox, row, 1, 1, 5);
@@ -228,7 +227,7 @@ void CatchEditor::BuildControls()
 
 QWidget* CatchEditor::BuildPhotoPanel()
 {
-    auto* panel = new QGroupBox(QStringLiteral("Photos"), this);
+    auto* panel = new QGroupBox(tr("Photos"), this);
     PhotoList = new QListWidget(panel);
     PhotoList->setObjectName(QStringLiteral("PhotoList"));
     PhotoList->setViewMode(QListView::IconMode);
@@ -238,10 +237,10 @@ QWidget* CatchEditor::BuildPhotoPanel()
     const int side = Thumbnails.ThumbnailSide();
     PhotoList->setIconSize(QSize(side, side));
     PhotoList->setFixedHeight(side + PhotoList->fontMetrics().height() * 3);
-    PhotoList->setToolTip(QStringLiteral("Double-click a photo to see it at full size"));
-    cmdAddPhoto = new QPushButton(QStringLiteral("&Add Photos..."), panel);
+    PhotoList->setToolTip(tr("Double-click a photo to see it at full size"));
+    cmdAddPhoto = new QPushButton(tr("&Add Photos..."), panel);
     cmdAddPhoto->setObjectName(QStringLiteral("cmdAddPhoto"));
-    cmdRemovePhoto = new QPushButton(QStringLiteral("Remo&ve Photo"), panel);
+    cmdRemovePhoto = new QPushButton(tr("Remo&ve Photo"), panel);
     cmdRemovePhoto->setObjectName(QStringLiteral("cmdRemovePhoto"));
     for (QPushButton* b : {cmdAddPhoto, cmdRemovePhoto})
         b->setAutoDefault(false);
@@ -334,7 +333,7 @@ std::optional<Catch> CatchEditor::ReadFields(QWidget*& field, QString& why) cons
     else if (const auto time = TimeOf(typed))
         c.Time = time->toString(QStringLiteral("HH:mm:ss"));
     else
-        return refuse(TimeBox, QStringLiteral("%1 is not a time of day").arg(Quoted(typed)));
+        return refuse(TimeBox, tr("%1 is not a time of day").arg(Quoted(typed)));
     c.Species = SpeciesBox->text().trimmed();
     c.Count = CountBox->value();
     c.LengthMm = LengthFromText(LengthBox->text().toStdString(), units, problem);
@@ -348,10 +347,12 @@ std::optional<Catch> CatchEditor::ReadFields(QWidget*& field, QString& why) cons
     c.Method = MethodBox->currentText().trimmed();
     c.Spot = SpotBox->text().trimmed();
     QString degrees;
-    c.Latitude = DegreesOf(LatitudeBox->text(), 90.0, "latitude", degrees);
+    c.Latitude =
+        DegreesOf(LatitudeBox->text(), 90.0, tr("%1 is not a latitude from %2 to %3"), degrees);
     if (!degrees.isEmpty())
         return refuse(LatitudeBox, degrees);
-    c.Longitude = DegreesOf(LongitudeBox->text(), 180.0, "longitude", degrees);
+    c.Longitude =
+        DegreesOf(LongitudeBox->text(), 180.0, tr("%1 is not a longitude from %2 to %3"), degrees);
     if (!degrees.isEmpty())
         return refuse(LongitudeBox, degrees);
     c.WaterTemp = TemperatureFromText(WaterBox->text().toStdString(), units, problem);
@@ -434,8 +435,8 @@ void CatchEditor::reject()
 {
     if (Changed()) {
         const MsgResult answer =
-            Ctx.Messages.MsgBox(QStringLiteral("Save changes to this catch?"),
-                                MsgButtons::SaveDiscardCancel, windowTitle(), MsgIcon::Question);
+            Ctx.Messages.MsgBox(tr("Save changes to this catch?"), MsgButtons::SaveDiscardCancel,
+                                windowTitle(), MsgIcon::Question);
         if (answer == MsgResult::Save)
             cmdOK_Click();
         if (answer != MsgResult::Discard)

@@ -69,11 +69,10 @@ void CatchList::BuildControls()
     Catches->setRootIsDecorated(false);
     Catches->setUniformRowHeights(true);
     Catches->setColumnCount(ColumnCount);
-    Catches->setHeaderLabels(
-        {QStringLiteral("Time"), QStringLiteral("Species"), QStringLiteral("Count"),
-         QStringLiteral("Length (%1)").arg(Unit(LengthUnit(Ctx.Units))),
-         QStringLiteral("Weight (%1)").arg(Unit(WeightUnit(Ctx.Units))), QStringLiteral("Kept"),
-         QStringLiteral("Bait or lure"), QStringLiteral("Spot"), QStringLiteral("Photos")});
+    Catches->setHeaderLabels({tr("Time"), tr("Species"), tr("Count"),
+                              tr("Length (%1)").arg(Unit(LengthUnit(Ctx.Units))),
+                              tr("Weight (%1)").arg(Unit(WeightUnit(Ctx.Units))), tr("Kept"),
+                              tr("Bait or lure"), tr("Spot"), tr("Photos")});
     Catches->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     Catches->header()->setStretchLastSection(true);
     const int side = Thumbnails.ThumbnailSide();
@@ -81,11 +80,11 @@ void CatchList::BuildControls()
     // Room for two catches with their photos, however small the window.
     Catches->setMinimumHeight(Catches->header()->sizeHint().height() +
                               ShownRows * (side + StripGap * 2));
-    cmdAddCatch = new QPushButton(QStringLiteral("Add &Catch..."), this);
+    cmdAddCatch = new QPushButton(tr("Add &Catch..."), this);
     cmdAddCatch->setObjectName(QStringLiteral("cmdAddCatch"));
-    cmdEditCatch = new QPushButton(QStringLiteral("Edit Catc&h..."), this);
+    cmdEditCatch = new QPushButton(tr("Edit Catc&h..."), this);
     cmdEditCatch->setObjectName(QStringLiteral("cmdEditCatch"));
-    cmdRemoveCatch = new QPushButton(QStringLiteral("Remove Catch"), this);
+    cmdRemoveCatch = new QPushButton(tr("Remove Catch"), this);
     cmdRemoveCatch->setObjectName(QStringLiteral("cmdRemoveCatch"));
     Notice = new QLabel(this);
     Notice->setObjectName(QStringLiteral("Notice"));
@@ -154,7 +153,7 @@ void CatchList::ShowDay(const QString& yearFile, const QString& date)
     DayCatches.clear();
     QStringList missing;
     if (const DbResult read = ReadDayCatches(yearFile, date, DayCatches); !read)
-        missing << QStringLiteral("The day's catches could not be read: %1").arg(read.Message);
+        missing << tr("The day's catches could not be read: %1").arg(read.Message);
     Catches->clear();
     for (int row = 0; row < int(DayCatches.size()); ++row)
         FillRow(row, DayCatches[std::size_t(row)], missing);
@@ -181,7 +180,7 @@ void CatchList::FillRow(int row, const Catch& c, QStringList& missing)
         item->setText(WeightColumn, QString::fromStdString(WeightText(*c.WeightG, units)));
     for (int column : {LengthColumn, WeightColumn})
         item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
-    item->setText(KeptColumn, c.Released ? QStringLiteral("Released") : QStringLiteral("Kept"));
+    item->setText(KeptColumn, c.Released ? tr("Released") : tr("Kept"));
     item->setText(BaitColumn, c.Bait);
     item->setText(SpotColumn, c.Spot);
     if (!c.Photos.isEmpty())
@@ -204,9 +203,8 @@ QPixmap CatchList::PhotoStrip(const Catch& c, QStringList& missing)
         const PhotoFile file = LookUpPhoto(YearFile, c.Photos[i]);
         QPixmap picture = file.Missing ? QPixmap() : Thumbnails.Thumbnail(file.Path);
         if (picture.isNull()) {
-            missing << (file.Missing
-                            ? file.Message
-                            : QStringLiteral("The photo %1 is not a picture.").arg(c.Photos[i]));
+            missing << (file.Missing ? file.Message
+                                     : tr("The photo %1 is not a picture.").arg(c.Photos[i]));
             picture = MissingPhotoPicture(side);
         }
         const QPoint at(i * (side + StripGap) + (side - picture.width()) / 2,
@@ -246,10 +244,9 @@ void CatchList::cmdRemoveCatch_Click()
     if (row < 0 || row >= int(DayCatches.size()))
         return;
     const Catch& doomed = DayCatches[std::size_t(row)];
-    const QString name = doomed.Species.isEmpty() ? QStringLiteral("this catch") : doomed.Species;
-    if (Ctx.Messages.MsgBox(QStringLiteral("Remove %1 from the log?").arg(name),
-                            MsgButtons::YesNoDefaultNo, QStringLiteral("Remove Catch"),
-                            MsgIcon::Question) != MsgResult::Yes)
+    const QString name = doomed.Species.isEmpty() ? tr("this catch") : doomed.Species;
+    if (Ctx.Messages.MsgBox(tr("Remove %1 from the log?").arg(name), MsgButtons::YesNoDefaultNo,
+                            tr("Remove Catch"), MsgIcon::Question) != MsgResult::Yes)
         return;
     DbResult removed;
     {
@@ -257,9 +254,8 @@ void CatchList::cmdRemoveCatch_Click()
         removed = RemoveCatch(YearFile, doomed.Id, Clock::Now());
     }
     if (!removed)
-        Ctx.Messages.MsgBox(
-            QStringLiteral("The catch could not be removed: %1").arg(removed.Message),
-            MsgButtons::OK, QStringLiteral("Remove Catch"), MsgIcon::Exclamation);
+        Ctx.Messages.MsgBox(tr("The catch could not be removed: %1").arg(removed.Message),
+                            MsgButtons::OK, tr("Remove Catch"), MsgIcon::Exclamation);
     ShowDay(YearFile, Date);
     emit CatchesChanged();
 }

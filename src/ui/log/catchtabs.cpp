@@ -22,10 +22,11 @@ constexpr int MostSpeciesBars = 12; // the rest stay in the copied figures
 constexpr double HeadRoom = 1.2;    // above the highest bar, for the counts over it
 enum ChartIndex { SpeciesChart, PeriodChart, HourChart, SpotChart, WaterChart, ChartCount };
 // The bars of the periods chart, in CatchPeriod order: short enough to stand under a bar.
-const std::array<QString, CatchPeriodCount> PeriodBars = {
-    QStringLiteral("Major period"), QStringLiteral("Minor period"),
-    QStringLiteral("Sunrise/set \u00B11 h"), QStringLiteral("Other times"),
-    QStringLiteral("No time")};
+const std::array<const char*, CatchPeriodCount> PeriodBars = {
+    QT_TRANSLATE_NOOP("CatchPages", "Major period"),
+    QT_TRANSLATE_NOOP("CatchPages", "Minor period"),
+    QT_TRANSLATE_NOOP("CatchPages", "Sunrise/set ±1 h"),
+    QT_TRANSLATE_NOOP("CatchPages", "Other times"), QT_TRANSLATE_NOOP("CatchPages", "No time")};
 
 // A chart in the window's colours: dark on a dark palette.
 void ApplyTheme(QChart* chart, const QPalette& palette)
@@ -65,8 +66,8 @@ QChart* TallyChart(const QString& title, const std::vector<CatchTally>& bars,
 {
     auto* chart = new QChart;
     chart->setTitle(title);
-    auto* kept = new QBarSet(QStringLiteral("Kept"));
-    auto* released = new QBarSet(QStringLiteral("Released"));
+    auto* kept = new QBarSet(CatchPages::tr("Kept"));
+    auto* released = new QBarSet(CatchPages::tr("Released"));
     long highest = 0;
     for (const CatchTally& t : bars) {
         *kept << double(t.Fish - t.Released);
@@ -79,9 +80,9 @@ QChart* TallyChart(const QString& title, const std::vector<CatchTally>& bars,
     chart->addSeries(series);
     auto* x = new QBarCategoryAxis;
     x->append(names);
-    x->setTitleText(QStringLiteral("The number over each bar: fish taken"));
+    x->setTitleText(CatchPages::tr("The number over each bar: fish taken"));
     auto* y = new QValueAxis;
-    y->setTitleText(QStringLiteral("Fish"));
+    y->setTitleText(CatchPages::tr("Fish"));
     y->setRange(0, highest > 0 ? double(highest) * HeadRoom : 1.0);
     y->applyNiceNumbers();
     y->setLabelFormat(QStringLiteral("%d"));
@@ -137,7 +138,7 @@ QString WaterBandName(const CatchTally& band, UnitSystem units)
             std::lround(units == UnitSystem::Metric ? celsius : CelsiusToFahrenheit(celsius)));
     };
     const auto unit = TemperatureUnit(units);
-    return QStringLiteral("%1 to %2 %3")
+    return CatchPages::tr("%1 to %2 %3")
         .arg(degrees(*band.BandLow), degrees(*band.BandLow + WaterBandDegrees),
              QString::fromUtf8(unit.data(), qsizetype(unit.size())));
 }
@@ -158,11 +159,11 @@ CatchPages::CatchPages(QTabWidget* tabs, UnitSystem units) : QObject(tabs), Unit
     timeLayout->setContentsMargins(0, 0, 0, 0);
     timeLayout->addWidget(Charts[PeriodChart]);
     timeLayout->addWidget(Charts[HourChart]);
-    Pages->addTab(Charts[SpeciesChart], QStringLiteral("By species"));
-    Pages->addTab(timePage, QStringLiteral("By time of day"));
-    Pages->addTab(Charts[SpotChart], QStringLiteral("By spot"));
-    Pages->addTab(Charts[WaterChart], QStringLiteral("By water temperature"));
-    tabs->addTab(Pages, QStringLiteral("Catches"));
+    Pages->addTab(Charts[SpeciesChart], tr("By species"));
+    Pages->addTab(timePage, tr("By time of day"));
+    Pages->addTab(Charts[SpotChart], tr("By spot"));
+    Pages->addTab(Charts[WaterChart], tr("By water temperature"));
+    tabs->addTab(Pages, tr("Catches"));
 }
 
 void CatchPages::Show(const CatchBreakdown& breakdown)
@@ -171,22 +172,23 @@ void CatchPages::Show(const CatchBreakdown& breakdown)
         breakdown.BySpecies.begin(),
         breakdown.BySpecies.begin() +
             std::min<std::ptrdiff_t>(MostSpeciesBars, std::ssize(breakdown.BySpecies)));
-    SetChart(Charts[SpeciesChart],
-             TallyChart(QStringLiteral("Fish by species"), species, NamesOf(species)));
+    SetChart(Charts[SpeciesChart], TallyChart(tr("Fish by species"), species, NamesOf(species)));
     const std::vector<CatchTally> periods(breakdown.ByPeriod.begin(), breakdown.ByPeriod.end());
+    QStringList periodNames;
+    for (const char* bar : PeriodBars)
+        periodNames << tr(bar);
     SetChart(Charts[PeriodChart],
-             TallyChart(QStringLiteral("Fish by the day's periods and the sun"), periods,
-                        QStringList(PeriodBars.begin(), PeriodBars.end())));
+             TallyChart(tr("Fish by the day's periods and the sun"), periods, periodNames));
     const std::vector<CatchTally> hours(breakdown.ByHour.begin(), breakdown.ByHour.end());
     QStringList hourNames;
     for (int h = 0; h < int(hours.size()); ++h)
         hourNames << QString::number(h);
-    SetChart(Charts[HourChart], TallyChart(QStringLiteral("Fish by clock hour"), hours, hourNames));
-    SetChart(Charts[SpotChart], TallyChart(QStringLiteral("Fish by spot"), breakdown.BySpot,
-                                           NamesOf(breakdown.BySpot)));
+    SetChart(Charts[HourChart], TallyChart(tr("Fish by clock hour"), hours, hourNames));
+    SetChart(Charts[SpotChart],
+             TallyChart(tr("Fish by spot"), breakdown.BySpot, NamesOf(breakdown.BySpot)));
     QStringList bands;
     for (const CatchTally& band : breakdown.ByWaterTemp)
         bands << WaterBandName(band, Units);
     SetChart(Charts[WaterChart],
-             TallyChart(QStringLiteral("Fish by water temperature"), breakdown.ByWaterTemp, bands));
+             TallyChart(tr("Fish by water temperature"), breakdown.ByWaterTemp, bands));
 }

@@ -5,12 +5,13 @@
 #include "ui/common/busypointer.h"
 #include "ui/common/messageservice.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSaveFile>
 
 namespace {
 
-const QString Title = QStringLiteral("Export Catches");
+QString Title() { return QCoreApplication::translate("ExportCatches", "Export Catches"); }
 
 // Written under a temporary name and renamed into place: a failed export leaves no half file.
 DbResult WriteWhole(const QString& target, const std::string& text)
@@ -37,16 +38,20 @@ void ExportCatches(const LogContext& context, const QString& yearFile, const QSt
             done = WriteWhole(target, json ? CatchTableAsJson(table) : CatchTableAsCsv(table));
     }
     if (!done) {
-        context.Messages.MsgBox(QStringLiteral("Nothing was exported: %1").arg(done.Message),
-                                MsgButtons::OK, Title, MsgIcon::Critical);
+        context.Messages.MsgBox(
+            QCoreApplication::translate("ExportCatches", "Nothing was exported: %1")
+                .arg(done.Message),
+            MsgButtons::OK, Title(), MsgIcon::Critical);
         return;
     }
     std::size_t catches = 0;
     for (const auto& day : table.Catches)
         catches += day.size();
-    context.Messages.MsgBox(QStringLiteral("%1 day(s) and %2 catch(es) of %3 were written to %4.")
-                                .arg(table.Days.Rows.size())
-                                .arg(catches)
-                                .arg(QFileInfo(yearFile).fileName(), target),
-                            MsgButtons::OK, Title, MsgIcon::Information);
+    context.Messages.MsgBox(
+        QCoreApplication::translate("ExportCatches",
+                                    "%1 day(s) and %2 catch(es) of %3 were written to %4.")
+            .arg(table.Days.Rows.size())
+            .arg(catches)
+            .arg(QFileInfo(yearFile).fileName(), target),
+        MsgButtons::OK, Title(), MsgIcon::Information);
 }

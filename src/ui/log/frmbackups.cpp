@@ -13,7 +13,7 @@
 
 namespace {
 
-const QString Title = QStringLiteral("Backups");
+QString Title() { return FrmBackups::tr("Backups"); }
 
 QString WhenText(const QString& backup)
 {
@@ -25,20 +25,18 @@ QString WhenText(const QString& backup)
 FrmBackups::FrmBackups(const LogContext& context, const QString& yearFile, QWidget* parent)
     : QDialog(parent), Ctx(context), YearFile(yearFile)
 {
-    setWindowTitle(Title);
+    setWindowTitle(Title());
     BackupList = new QListWidget(this);
     BackupList->setObjectName(QStringLiteral("BackupList"));
-    CmdRestore = new QPushButton(QStringLiteral("Restore"), this);
+    CmdRestore = new QPushButton(tr("Restore"), this);
     CmdRestore->setObjectName(QStringLiteral("CmdRestore"));
-    CmdRestore->setToolTip(QStringLiteral(" Put the selected copy in the place of the file "));
-    CmdClose = new QPushButton(QStringLiteral("Close"), this);
+    CmdRestore->setToolTip(tr(" Put the selected copy in the place of the file "));
+    CmdClose = new QPushButton(tr("Close"), this);
     CmdClose->setObjectName(QStringLiteral("CmdClose"));
     auto* grid = new QGridLayout(this);
     grid->addWidget(
-        new QLabel(
-            QStringLiteral("Copies of %1, newest first:").arg(QFileInfo(yearFile).fileName()),
-            this),
-        0, 0, 1, 2);
+        new QLabel(tr("Copies of %1, newest first:").arg(QFileInfo(yearFile).fileName()), this), 0,
+        0, 1, 2);
     grid->addWidget(BackupList, 1, 0, 3, 1);
     grid->addWidget(CmdRestore, 1, 1);
     grid->addWidget(CmdClose, 3, 1, Qt::AlignBottom);
@@ -62,15 +60,15 @@ void FrmBackups::CmdRestore_Click()
 {
     const QListWidgetItem* item = BackupList->currentItem();
     if (!item || !item->isSelected()) {
-        Ctx.Messages.MsgBox(QStringLiteral("No Backup Selected! "), MsgButtons::OK, Title);
+        Ctx.Messages.MsgBox(tr("No Backup Selected! "), MsgButtons::OK, Title());
         return;
     }
     const QString backup = item->data(Qt::UserRole).toString();
     const QString name = QFileInfo(YearFile).fileName();
-    if (Ctx.Messages.MsgBox(QStringLiteral("Restore %1 as it was on %2? The file as it is now is "
-                                           "kept as a backup.")
+    if (Ctx.Messages.MsgBox(tr("Restore %1 as it was on %2? The file as it is now is "
+                               "kept as a backup.")
                                 .arg(name, WhenText(backup)),
-                            MsgButtons::YesNo, Title, MsgIcon::Question) != MsgResult::Yes)
+                            MsgButtons::YesNo, Title(), MsgIcon::Question) != MsgResult::Yes)
         return;
     DbResult restored;
     {
@@ -78,12 +76,10 @@ void FrmBackups::CmdRestore_Click()
         restored = RestoreBackup(YearFile, backup, Clock::Now());
     }
     if (restored)
-        Ctx.Messages.MsgBox(
-            QStringLiteral("%1 now holds the copy of %2.").arg(name, WhenText(backup)),
-            MsgButtons::OK, Title);
+        Ctx.Messages.MsgBox(tr("%1 now holds the copy of %2.").arg(name, WhenText(backup)),
+                            MsgButtons::OK, Title());
     else
-        Ctx.Messages.MsgBox(
-            QStringLiteral("%1 could not be restored: %2").arg(name, restored.Message),
-            MsgButtons::OK, Title, MsgIcon::Critical);
+        Ctx.Messages.MsgBox(tr("%1 could not be restored: %2").arg(name, restored.Message),
+                            MsgButtons::OK, Title(), MsgIcon::Critical);
     RefreshList();
 }

@@ -38,13 +38,13 @@ frmReport::frmReport(const LogContext& context, const QString& recordSource, boo
                      QWidget* parent)
     : QDialog(parent), Ctx(context), Source(recordSource), AmPm(ampm)
 {
-    setWindowTitle(QStringLiteral("Quillmere DataBase Report"));
+    setWindowTitle(tr("Quillmere DataBase Report"));
     setModal(true);
     auto* bar = new QMenuBar(this);
-    mnuPrint = bar->addAction(QStringLiteral("&Print"));
+    mnuPrint = bar->addAction(tr("&Print"));
     mnuPrint->setShortcut(QKeySequence::Print);
     mnuPrint->setObjectName(QStringLiteral("mnuPrint"));
-    mnuExit = bar->addAction(QStringLiteral("&Close"));
+    mnuExit = bar->addAction(tr("&Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
     mnuExit->setShortcut(QKeySequence::Close);
     R1 = new QPlainTextEdit(this);
@@ -103,7 +103,7 @@ void frmReport::Form_Load()
     opened = opened && Data1.RecordCount() > 0 ? Data1.MoveLast() : opened;
     opened = opened && Data1.RecordCount() > 0 ? Data1.MoveFirst() : opened;
     if (!opened) {
-        Ctx.Messages.MsgBox(QStringLiteral("Data error event hit err:") + opened.Message);
+        Ctx.Messages.MsgBox(tr("Data error event hit err:") + opened.Message);
         return;
     }
     ProgressBar1->setRange(0, Data1.RecordCount());

@@ -27,7 +27,7 @@
 
 FrmSelectDB::FrmSelectDB(const LogContext& context, QWidget* parent) : QDialog(parent), Ctx(context)
 {
-    setWindowTitle(QStringLiteral("Database Functions"));
+    setWindowTitle(tr("Database Functions"));
     setModal(true);
     BuildControls();
     ShowBrowser = [this](const QString& path) {
@@ -40,14 +40,12 @@ FrmSelectDB::FrmSelectDB(const LogContext& context, QWidget* parent) : QDialog(p
         backups.exec();
     };
     ChooseImportFile = [this] {
-        return QFileDialog::getOpenFileName(
-            this, QStringLiteral("Import Catches"), QString(),
-            QStringLiteral("Log exports (*.csv *.json);;All files (*)"));
+        return QFileDialog::getOpenFileName(this, tr("Import Catches"), QString(),
+                                            tr("Log exports (*.csv *.json);;All files (*)"));
     };
     ChooseExportFile = [this] {
-        return QFileDialog::getSaveFileName(
-            this, QStringLiteral("Export Catches"), QString(),
-            QStringLiteral("CSV files (*.csv);;JSON files (*.json)"));
+        return QFileDialog::getSaveFileName(this, tr("Export Catches"), QString(),
+                                            tr("CSV files (*.csv);;JSON files (*.json)"));
     };
     Form_Load();
 }
@@ -56,24 +54,21 @@ void FrmSelectDB::BuildControls()
 {
     DBFiles = new QListWidget(this);
     DBFiles->setObjectName(QStringLiteral("DBFiles"));
-    DBFiles->setToolTip(QStringLiteral(" DoubleClick on Year of Interest "));
-    OpenDBFile = Button(QStringLiteral("Open"), QStringLiteral("OpenDBFile"),
-                        QStringLiteral(" Open Selected File "), this);
-    CmdCreate = Button(QStringLiteral("Create"), QStringLiteral("CmdCreate"), {}, this);
-    DeleteDBFile = Button(QStringLiteral("Delete"), QStringLiteral("DeleteDBFile"),
-                          QStringLiteral(" Delete Selected File "), this);
-    CmdCompact = Button(QStringLiteral("Compact"), QStringLiteral("CmdCompact"), {}, this);
-    CmdRepair = Button(QStringLiteral("Repair"), QStringLiteral("CmdRepair"), {}, this);
-    CmdImport = Button(
-        QStringLiteral("Import"), QStringLiteral("CmdImport"),
-        QStringLiteral(" Import Catches from a CSV or JSON File into the Selected Year "), this);
-    CmdExport =
-        Button(QStringLiteral("Export"), QStringLiteral("CmdExport"),
-               QStringLiteral(" Export the Selected Year with its Catches as CSV or JSON "), this);
-    CmdBackups = Button(QStringLiteral("Backups"), QStringLiteral("CmdBackups"),
-                        QStringLiteral(" Restore an Earlier Copy of the Selected File "), this);
-    CloseSelectDB = Button(QStringLiteral("Close"), QStringLiteral("CloseSelectDB"),
-                           QStringLiteral(" Close and Exit "), this);
+    DBFiles->setToolTip(tr(" DoubleClick on Year of Interest "));
+    OpenDBFile = Button(tr("Open"), QStringLiteral("OpenDBFile"), tr(" Open Selected File "), this);
+    CmdCreate = Button(tr("Create"), QStringLiteral("CmdCreate"), {}, this);
+    DeleteDBFile =
+        Button(tr("Delete"), QStringLiteral("DeleteDBFile"), tr(" Delete Selected File "), this);
+    CmdCompact = Button(tr("Compact"), QStringLiteral("CmdCompact"), {}, this);
+    CmdRepair = Button(tr("Repair"), QStringLiteral("CmdRepair"), {}, this);
+    CmdImport = Button(tr("Import"), QStringLiteral("CmdImport"),
+                       tr(" Import Catches from a CSV or JSON File into the Selected Year "), this);
+    CmdExport = Button(tr("Export"), QStringLiteral("CmdExport"),
+                       tr(" Export the Selected Year with its Catches as CSV or JSON "), this);
+    CmdBackups = Button(tr("Backups"), QStringLiteral("CmdBackups"),
+                        tr(" Restore an Earlier Copy of the Selected File "), this);
+    CloseSelectDB =
+        Button(tr("Close"), QStringLiteral("CloseSelectDB"), tr(" Close and Exit "), this);
     PBar1 = new QProgressBar(this);
     PBar1->setObjectName(QStringLiteral("PBar1"));
     PBar1->hide();
@@ -126,7 +121,7 @@ QString FrmSelectDB::SelectedOrComplain()
 {
     const QListWidgetItem* item = DBFiles->currentItem();
     if (!item || !item->isSelected()) {
-        Ctx.Messages.MsgBox(QStringLiteral("No File Selected! "), MsgButtons::OKCancel);
+        Ctx.Messages.MsgBox(tr("No File Selected! "), MsgButtons::OKCancel);
         return {};
     }
     return QDir(Ctx.Folder).filePath(item->text());
@@ -156,17 +151,15 @@ void FrmSelectDB::CloseAndBrowse()
 void FrmSelectDB::KeepBackup(const QString& path)
 {
     if (const DbResult kept = BackUpIfChanged(path, Clock::Now()); !kept)
-        Ctx.Messages.MsgBox(
-            QStringLiteral("No backup of %1 could be made: %2\nThe file opens as it is.")
-                .arg(QFileInfo(path).fileName(), kept.Message),
-            MsgButtons::OK, QStringLiteral("Backups"), MsgIcon::Exclamation);
+        Ctx.Messages.MsgBox(tr("No backup of %1 could be made: %2\nThe file opens as it is.")
+                                .arg(QFileInfo(path).fileName(), kept.Message),
+                            MsgButtons::OK, tr("Backups"), MsgIcon::Exclamation);
 }
 
 void FrmSelectDB::CmdCreate_Click()
 {
     const QString Y = QString::number(Ctx.CurYear).trimmed();
-    const MsgResult answer =
-        Ctx.Messages.MsgBox(QStringLiteral("Create DataBase for ") + Y, MsgButtons::YesNo);
+    const MsgResult answer = Ctx.Messages.MsgBox(tr("Create DataBase for ") + Y, MsgButtons::YesNo);
     if (answer == MsgResult::Yes && !CreateDB(Ctx.CurYear))
         return; // the window stays, so that Create can be tried again
     CloseAndBrowse();
@@ -177,8 +170,7 @@ bool FrmSelectDB::CreateDB(std::int16_t year)
     const QString Y = QString::number(year);
     Ctx.State.DBPath = QDir(Ctx.Folder).filePath(YearFileName(year));
     if (QFile::exists(Ctx.State.DBPath)) {
-        Ctx.Messages.MsgBox(QStringLiteral("DataBase already exists for ") + Y,
-                            MsgButtons::OKCancel);
+        Ctx.Messages.MsgBox(tr("DataBase already exists for ") + Y, MsgButtons::OKCancel);
         return true;
     }
     if (OfferRestore(year))
@@ -195,10 +187,10 @@ bool FrmSelectDB::CreateDB(std::int16_t year)
     RefreshList();
     if (created.Outcome == CreateYearResult::Status::Failed) {
         Ctx.State.DBPath.clear();
-        Ctx.Messages.MsgBox(QStringLiteral("The DataBase for %1 could not be created: %2\n"
-                                           "No file was kept; use Create to try again.")
+        Ctx.Messages.MsgBox(tr("The DataBase for %1 could not be created: %2\n"
+                               "No file was kept; use Create to try again.")
                                 .arg(Y, created.Message),
-                            MsgButtons::OK, QStringLiteral("Create DataBase"), MsgIcon::Critical);
+                            MsgButtons::OK, tr("Create DataBase"), MsgIcon::Critical);
         return false;
     }
     return true;
@@ -221,19 +213,18 @@ bool FrmSelectDB::OfferRestore(int year)
         if (kept.Year != year && year != 0)
             continue;
         const QString name = YearFileName(kept.Year);
-        const MsgResult answer = Ctx.Messages.MsgBox(
-            QStringLiteral("%1 is missing, but a copy of it is kept as %2.\n"
-                           "Restore %1 from that copy?")
-                .arg(name, QFileInfo(kept.Copy).fileName()),
-            MsgButtons::YesNo, QStringLiteral("Restore DataBase"), MsgIcon::Question);
+        const MsgResult answer =
+            Ctx.Messages.MsgBox(tr("%1 is missing, but a copy of it is kept as %2.\n"
+                                   "Restore %1 from that copy?")
+                                    .arg(name, QFileInfo(kept.Copy).fileName()),
+                                MsgButtons::YesNo, tr("Restore DataBase"), MsgIcon::Question);
         if (answer != MsgResult::Yes)
             continue;
         if (const DbResult restored = RestoreYearFile(Ctx.Folder, kept); !restored) {
-            Ctx.Messages.MsgBox(QStringLiteral("%1 could not be restored: %2\n"
-                                               "The copy is kept as it was.")
+            Ctx.Messages.MsgBox(tr("%1 could not be restored: %2\n"
+                                   "The copy is kept as it was.")
                                     .arg(name, restored.Message),
-                                MsgButtons::OK, QStringLiteral("Restore DataBase"),
-                                MsgIcon::Critical);
+                                MsgButtons::OK, tr("Restore DataBase"), MsgIcon::Critical);
             continue;
         }
         RefreshList();
@@ -248,13 +239,13 @@ void FrmSelectDB::DeleteDBFile_Click()
     const QString path = SelectedOrComplain();
     if (path.isEmpty())
         return;
-    const MsgResult answer = Ctx.Messages.MsgBox(QStringLiteral("Confirm to Delete Selected File "),
-                                                 MsgButtons::YesNoDefaultNo);
+    const MsgResult answer =
+        Ctx.Messages.MsgBox(tr("Confirm to Delete Selected File "), MsgButtons::YesNoDefaultNo);
     if (answer == MsgResult::Yes) {
         // The year goes to the backups first, where Backups and restore find it again.
         if (const DbResult kept = BackUpIfChanged(path, Clock::Now()); !kept)
-            Ctx.Messages.MsgBox(kept.Message + QStringLiteral(" The file is not deleted."),
-                                MsgButtons::OK, windowTitle(), MsgIcon::Critical);
+            Ctx.Messages.MsgBox(kept.Message + tr(" The file is not deleted."), MsgButtons::OK,
+                                windowTitle(), MsgIcon::Critical);
         else
             DeleteYearFile(path);
     }
@@ -265,14 +256,13 @@ void FrmSelectDB::CmdCompact_Click()
 {
     if (SelectedOrComplain().isEmpty())
         return;
-    const QString title = QStringLiteral("Compact DataBases");
+    const QString title = tr("Compact DataBases");
     DbResult compacted;
     {
         const BusyPointer busy;
         compacted = CompactDB(Ctx.State.DBPath);
     }
-    Ctx.Messages.MsgBox(compacted ? QStringLiteral("Compacting Completed!")
-                                  : QStringLiteral("Error Compacting Database!"),
+    Ctx.Messages.MsgBox(compacted ? tr("Compacting Completed!") : tr("Error Compacting Database!"),
                         MsgButtons::OK, title);
 }
 
@@ -285,12 +275,11 @@ void FrmSelectDB::CmdRepair_Click()
         const BusyPointer busy;
         repaired = RepairYearFile(Ctx.State.DBPath);
     }
-    Ctx.Messages.MsgBox(repaired.Result
-                            ? QStringLiteral("Repair Completed!\n") + repaired.Summary()
-                            : QStringLiteral("Error Repairing Database!\n%1\nThe file is kept "
+    Ctx.Messages.MsgBox(repaired.Result ? tr("Repair Completed!\n") + repaired.Summary()
+                                        : tr("Error Repairing Database!\n%1\nThe file is kept "
                                              "as it was.")
-                                  .arg(repaired.Result.Message),
-                        MsgButtons::OK, QStringLiteral("Repair DataBases"));
+                                              .arg(repaired.Result.Message),
+                        MsgButtons::OK, tr("Repair DataBases"));
 }
 
 void FrmSelectDB::CloseSelectDB_Click() { close(); }

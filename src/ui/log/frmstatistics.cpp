@@ -64,7 +64,7 @@ QChart* BarChart(const CatchGrouping& grouping, const QPalette& palette)
                         : QChart::ChartThemeLight);
     chart->setTitle(Text(grouping.Title));
     chart->legend()->hide();
-    auto* rates = new QBarSet(QStringLiteral("Fish per day fished"));
+    auto* rates = new QBarSet(FrmStatistics::tr("Fish per day fished"));
     QStringList names;
     double highest = 0;
     for (const CatchGroup& g : grouping.Groups) {
@@ -77,9 +77,9 @@ QChart* BarChart(const CatchGrouping& grouping, const QPalette& palette)
     chart->addSeries(series);
     auto* x = new QBarCategoryAxis;
     x->append(names);
-    x->setTitleText(QStringLiteral("The number over each bar: days fished"));
+    x->setTitleText(FrmStatistics::tr("The number over each bar: days fished"));
     auto* y = new QValueAxis;
-    y->setTitleText(QStringLiteral("Fish per day fished"));
+    y->setTitleText(FrmStatistics::tr("Fish per day fished"));
     y->setRange(0, highest > 0 ? highest * 1.2 : 1.0); // room for the counts over the bars
     y->applyNiceNumbers();
     chart->addAxis(x, Qt::AlignBottom);
@@ -95,7 +95,7 @@ QChart* BarChart(const CatchGrouping& grouping, const QPalette& palette)
 FrmStatistics::FrmStatistics(const LogContext& context, const QString& yearFile, QWidget* parent)
     : QDialog(parent), Ctx(context), YearFile(yearFile)
 {
-    setWindowTitle(QStringLiteral("Catch Statistics"));
+    setWindowTitle(tr("Catch Statistics"));
     BuildControls();
     ScopeCombo_Click();
     OpenWithinScreen();
@@ -105,8 +105,7 @@ void FrmStatistics::BuildControls()
 {
     ScopeCombo = new QComboBox(this);
     ScopeCombo->setObjectName(QStringLiteral("ScopeCombo"));
-    ScopeCombo->addItem(
-        QStringLiteral("This year's file (%1)").arg(QFileInfo(YearFile).fileName()));
+    ScopeCombo->addItem(tr("This year's file (%1)").arg(QFileInfo(YearFile).fileName()));
     ScopeCombo->addItem({});
     Summary = new QLabel(this);
     Summary->setObjectName(QStringLiteral("Summary"));
@@ -128,16 +127,16 @@ void FrmStatistics::BuildControls()
     Table->verticalHeader()->hide();
     Table->verticalHeader()->setDefaultSectionSize(Table->fontMetrics().height() + 6);
     Table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    CmdCopy = new QPushButton(QStringLiteral("Copy"), this);
+    CmdCopy = new QPushButton(tr("Copy"), this);
     CmdCopy->setObjectName(QStringLiteral("CmdCopy"));
-    CmdCopy->setToolTip(QStringLiteral(" Copy the figures for a spreadsheet "));
+    CmdCopy->setToolTip(tr(" Copy the figures for a spreadsheet "));
     auto* tablePage = new QWidget(Tabs);
     auto* tableLayout = new QVBoxLayout(tablePage);
     tableLayout->addWidget(Table);
     tableLayout->addWidget(CmdCopy, 0, Qt::AlignRight);
 
     auto* top = new QHBoxLayout;
-    top->addWidget(new QLabel(QStringLiteral("Records:"), this));
+    top->addWidget(new QLabel(tr("Records:"), this));
     top->addWidget(ScopeCombo, 1);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
@@ -149,7 +148,7 @@ void FrmStatistics::BuildControls()
     // The tab captions come with the figures; the pages are added once.
     for (QChartView* view : Charts)
         Tabs->addTab(view, {});
-    Tabs->addTab(tablePage, QStringLiteral("Table"));
+    Tabs->addTab(tablePage, tr("Table"));
     CatchCharts = new CatchPages(Tabs, Ctx.Units);
 }
 
@@ -166,8 +165,7 @@ QStringList FrmStatistics::ChosenFiles() const
 void FrmStatistics::ScopeCombo_Click()
 {
     ScopeCombo->setItemText(
-        1,
-        QStringLiteral("Every year file in the folder (%1)").arg(ListYearFiles(Ctx.Folder).size()));
+        1, tr("Every year file in the folder (%1)").arg(ListYearFiles(Ctx.Folder).size()));
     DbResult read;
     {
         const BusyPointer busy;
@@ -177,9 +175,8 @@ void FrmStatistics::ScopeCombo_Click()
     if (!read) {
         Stats = ComputeCatchStatistics({});
         Breakdown = ComputeCatchBreakdown({});
-        Ctx.Messages.MsgBox(QStringLiteral("The log could not be read: %1").arg(read.Message),
-                            MsgButtons::OK, QStringLiteral("Catch Statistics"),
-                            MsgIcon::Exclamation);
+        Ctx.Messages.MsgBox(tr("The log could not be read: %1").arg(read.Message), MsgButtons::OK,
+                            tr("Catch Statistics"), MsgIcon::Exclamation);
     }
     ShowFigures();
 }

@@ -14,6 +14,7 @@
 #include "ui/common/databar.h"
 #include "ui/common/fittext.h"
 #include "ui/common/messageservice.h"
+#include "ui/common/plaintexts.h"
 #include "ui/log/catchlist.h"
 #include "ui/log/controlstate.h"
 #include "ui/log/frmstatistics.h"
@@ -25,6 +26,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPainterPath>
@@ -47,7 +49,8 @@ constexpr double ScreenShare = 0.9; // the most of the screen the window opens a
 // daylight hours with 15 significant digits.
 const QStringList ClockTexts = {QStringLiteral("00:00 AM"), QStringLiteral("00:00 PM")};
 const QStringList TwilightTexts = {QStringLiteral("00:00 AM/00:00 PM")};
-const QString TakenWithLimitText = QStringLiteral("Taken With holds at most 255 characters.");
+const char* const TakenWithLimitText =
+    QT_TRANSLATE_NOOP("frmTable1", "Taken With holds at most 255 characters.");
 
 // A bound box: how it shows a stored value, and the entry it has for Update, if any.
 class BoundBox : public BoundControl {
@@ -73,6 +76,14 @@ QString Shown(const QVariant& stored, const char* pattern)
         return {};
     const auto text = FormatStored(stored.toString().toStdString(), pattern);
     return text ? QString::fromStdString(*text) : stored.toString();
+}
+
+// The day's date as the reader's language writes it; "Sun, March,10,2024" in English.
+QString LongDate(const QVariant& stored)
+{
+    const QDate day = QDate::fromString(Shown(stored, "yyyy-mm-dd"), Qt::ISODate);
+    //: The record's date above its fields, a QLocale date format.
+    return QLocale().toString(day, frmTable1::tr("ddd, MMMM,dd,yyyy"));
 }
 
 // "12:00 AM", "1:00 AM", ..., "11:00 PM".
@@ -143,7 +154,7 @@ QLabel* Caption(const QString& text, QWidget* parent)
 
 frmTable1::frmTable1(const LogContext& context, QWidget* parent) : QDialog(parent), Ctx(context)
 {
-    setWindowTitle(QStringLiteral("Quillmere DataBase"));
+    setWindowTitle(tr("Quillmere DataBase"));
     setModal(true);
     BuildControls();
     Form_Load();
@@ -181,12 +192,12 @@ frmTable1::~frmTable1()
 void frmTable1::BuildControls()
 {
     auto* bar = new QMenuBar(this);
-    mnuExit = bar->addAction(QStringLiteral("&Close"));
+    mnuExit = bar->addAction(tr("&Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
     mnuExit->setShortcut(QKeySequence::Close);
     connect(mnuExit, &QAction::triggered, this, &frmTable1::mnuExit_Click);
     BuildQueryMenus(bar);
-    bar->addAction("&Statistics", this,
+    bar->addAction(tr("&Statistics"), this,
                    [this] { ShowStatistics(Ctx, Data1.DatabaseName(), this); });
 
     // The panels scroll when the window is smaller than they need; the menus and the data
@@ -251,26 +262,26 @@ QWidget* frmTable1::BuildDayPanel()
         grid->addWidget(Caption(caption, panel), row, column);
         grid->addWidget(box, row, column + 1, 1, span);
     };
-    pair(0, 0, QStringLiteral("DBID:"), txtFields[0]);
-    pair(0, 2, QStringLiteral("JulianDate:"), txtFields[1]);
-    pair(1, 0, QStringLiteral("SunRise:"), FakeTextBox[2]);
-    pair(1, 2, QStringLiteral("SunSet:"), FakeTextBox[3]);
-    pair(2, 0, QStringLiteral("MoonRise:"), txtFields[7]);
-    pair(2, 2, QStringLiteral("MoonSet:"), txtFields[8]);
-    pair(3, 0, QStringLiteral("Major1:"), FakeTextBox[0]);
-    pair(3, 2, QStringLiteral("Major2:"), FakeTextBox[1]);
-    pair(4, 0, QStringLiteral("Minor1:"), txtFields[11]);
-    pair(4, 2, QStringLiteral("Minor2:"), txtFields[12]);
-    pair(5, 0, QStringLiteral("CivilTwilight:"), txtFields[4], 3);
-    pair(6, 0, QStringLiteral("NauticalTwilight:"), txtFields[5], 3);
-    pair(7, 0, QStringLiteral("AstronomicalTwilight:"), txtFields[6], 3);
-    pair(8, 0, QStringLiteral("IllumPercent:"), txtFields[13]);
-    pair(8, 2, QStringLiteral("MoonAge:"), txtFields[15]);
-    pair(9, 0, QStringLiteral("GraphicType:"), txtFields[14]);
-    pair(9, 2, QStringLiteral("Waxing:"), Label7);
-    pair(10, 0, QStringLiteral("Day of Year"), Text3);
-    pair(10, 2, QStringLiteral("Day Light Hrs:"), Text5);
-    pair(11, 0, QStringLiteral("DaylightHours:"), Text4);
+    pair(0, 0, tr("DBID:"), txtFields[0]);
+    pair(0, 2, tr("JulianDate:"), txtFields[1]);
+    pair(1, 0, tr("SunRise:"), FakeTextBox[2]);
+    pair(1, 2, tr("SunSet:"), FakeTextBox[3]);
+    pair(2, 0, tr("MoonRise:"), txtFields[7]);
+    pair(2, 2, tr("MoonSet:"), txtFields[8]);
+    pair(3, 0, tr("Major1:"), FakeTextBox[0]);
+    pair(3, 2, tr("Major2:"), FakeTextBox[1]);
+    pair(4, 0, tr("Minor1:"), txtFields[11]);
+    pair(4, 2, tr("Minor2:"), txtFields[12]);
+    pair(5, 0, tr("CivilTwilight:"), txtFields[4], 3);
+    pair(6, 0, tr("NauticalTwilight:"), txtFields[5], 3);
+    pair(7, 0, tr("AstronomicalTwilight:"), txtFields[6], 3);
+    pair(8, 0, tr("IllumPercent:"), txtFields[13]);
+    pair(8, 2, tr("MoonAge:"), txtFields[15]);
+    pair(9, 0, tr("GraphicType:"), txtFields[14]);
+    pair(9, 2, tr("Waxing:"), Label7);
+    pair(10, 0, tr("Day of Year"), Text3);
+    pair(10, 2, tr("Day Light Hrs:"), Text5);
+    pair(11, 0, tr("DaylightHours:"), Text4);
     grid->setRowStretch(12, 1);
     return panel;
 }
@@ -337,29 +348,29 @@ QWidget* frmTable1::BuildCatchPanel()
     txtFields[18]->setParent(catchBox);
     // The column holds 255 characters; the box takes no more and says so when it refuses.
     txtFields[18]->setMaxLength(TakenWithLength);
-    txtFields[18]->setToolTip(TakenWithLimitText);
+    txtFields[18]->setToolTip(tr(TakenWithLimitText));
     connect(txtFields[18], &QLineEdit::inputRejected, this, [this] {
         QToolTip::showText(txtFields[18]->mapToGlobal(QPoint(0, txtFields[18]->height())),
-                           TakenWithLimitText, txtFields[18]);
+                           tr(TakenWithLimitText), txtFields[18]);
     });
     txtFields[17]->installEventFilter(this);
-    form->addWidget(Caption(QStringLiteral("Total Taken:"), catchBox), 0, 0);
+    form->addWidget(Caption(tr("Total Taken:"), catchBox), 0, 0);
     form->addWidget(txtFields[17], 0, 1);
     form->addWidget(Combo4, 0, 2);
-    form->addWidget(Caption(QStringLiteral("Taken With:"), catchBox), 1, 0);
+    form->addWidget(Caption(tr("Taken With:"), catchBox), 1, 0);
     form->addWidget(txtFields[18], 1, 1, 1, 2);
-    form->addWidget(Caption(QStringLiteral("Peak Time:"), catchBox), 2, 0);
+    form->addWidget(Caption(tr("Peak Time:"), catchBox), 2, 0);
     form->addWidget(PeakTimeCombo, 2, 1, 1, 2);
-    form->addWidget(Caption(QStringLiteral("Notes:"), catchBox), 3, 0, Qt::AlignTop);
+    form->addWidget(Caption(tr("Notes:"), catchBox), 3, 0, Qt::AlignTop);
     form->addWidget(Text7, 3, 1, 1, 2);
     grid->addWidget(catchBox, 4, 0, 1, 3);
 
-    cmdEdit = new QPushButton(QStringLiteral("Edit"), panel);
+    cmdEdit = new QPushButton(tr("Edit"), panel);
     cmdEdit->setObjectName(QStringLiteral("cmdEdit"));
-    cmdEdit->setToolTip(QStringLiteral(" Click To Edit Record "));
-    cmdUpdate = new QPushButton(QStringLiteral("&Update"), panel);
+    cmdEdit->setToolTip(tr(" Click To Edit Record "));
+    cmdUpdate = new QPushButton(tr("&Update"), panel);
     cmdUpdate->setObjectName(QStringLiteral("cmdUpdate"));
-    cmdUpdate->setToolTip(QStringLiteral(" Click To Update Record "));
+    cmdUpdate->setToolTip(tr(" Click To Update Record "));
     for (QPushButton* b : {cmdEdit, cmdUpdate})
         b->setAutoDefault(false);
     grid->addWidget(cmdEdit, 6, 0);
@@ -450,19 +461,19 @@ void frmTable1::Form_Load()
 {
     // Where and on which clock the year's times hold, when the file records it.
     if (const auto place = ReadYearPlace(Ctx.State.DBPath))
-        setWindowTitle(QStringLiteral("Quillmere DataBase - %1").arg(YearPlaceText(*place)));
+        setWindowTitle(tr("Quillmere DataBase - %1").arg(YearPlaceText(*place)));
     Data1.SetDatabaseName(Ctx.State.DBPath);
     // Catch entries made while a query result is shown are kept in the log table too.
     Data1.SetMirrorTable(QStringLiteral("table1"));
-    Label9->setText(QStringLiteral("Sorted by Date"));
+    Label9->setText(tr("Sorted by Date"));
     PeakTimeCombo->addItems(HourTexts());
     Combo4->addItems(NumberTexts(0, 100));
     TimeCombo->addItems(HourTexts());
     Combo2->addItems(NumberTexts(0, 100));
     MonthList->addItems(NumberTexts(1, 12));
-    DOWList->addItems(NumberTexts(1, 7) << QStringLiteral("Sat-Sun") << QStringLiteral("Fri-Sun"));
+    DOWList->addItems(NumberTexts(1, 7) << tr("Sat-Sun") << tr("Fri-Sun"));
     for (const Ordering& order : Orderings())
-        SortByCombo->addItem(QStringOf(order.Entry));
+        SortByCombo->addItem(PlainText(order.Entry));
     const QueryForm start;
     ShowQueryValues(start);
     BindControls();
@@ -517,9 +528,9 @@ void frmTable1::Form_Activate()
 void frmTable1::Data1_Reposition()
 {
     const BusyPointer busy;
-    Data1Bar->SetCaption(QStringLiteral("Record: ") +
-                         QString::number(Data1.AbsolutePosition() + 1) + QStringLiteral(" of ") +
-                         QString::number(Data1.RecordCount()) + QStringLiteral(" Record(s)"));
+    Data1Bar->SetCaption(tr("Record: %1 of %2 Record(s)")
+                             .arg(Data1.AbsolutePosition() + 1)
+                             .arg(Data1.RecordCount()));
     cmdEdit->setEnabled(Data1Bar->isEnabled() && (Data1.AbsolutePosition() >= 0));
     if (Data1.AbsolutePosition() < 0) {
         ClearDay();
@@ -568,14 +579,14 @@ void frmTable1::ShowNotes()
     if (const auto perigee = NumberOf(Data1.Field("Perigee"))) {
         const int p = int(*perigee);
         Label8->setVisible(p != 0);
-        Label8->setText(p == -1  ? QStringLiteral("Day before/after perigee")
-                        : p == 1 ? QStringLiteral("Perigee")
-                        : p == 2 ? QStringLiteral("Apogee")
+        Label8->setText(p == -1  ? tr("Day before/after perigee")
+                        : p == 1 ? tr("Perigee")
+                        : p == 2 ? tr("Apogee")
                                  : QString());
     }
     const QVariant date = Data1.Field("JulianDate");
     if (!date.isNull()) {
-        Label3->setText(Shown(date, "ddd, mmmm,dd,yyyy"));
+        Label3->setText(LongDate(date));
         Text3->setText(Shown(date, "y"));
     }
     if (const auto rating = NumberOf(Data1.Field("GraphicType"))) {
@@ -590,8 +601,7 @@ void frmTable1::ShowMoon()
     const auto waxing = NumberOf(Data1.Field("Waxing"));
     const auto percent = NumberOf(Data1.Field("IllumPercent"));
     if (waxing)
-        Label7->setText(*waxing == 1 ? QStringLiteral("Moon is Waxing")
-                                     : QStringLiteral("Moon is Waning"));
+        Label7->setText(*waxing == 1 ? tr("Moon is Waxing") : tr("Moon is Waning"));
     if (!waxing || !percent)
         return;
     MoonLook look;
@@ -621,7 +631,7 @@ void frmTable1::ClearDay()
 
 void frmTable1::Data1_Error(const QString& message)
 {
-    Ctx.Messages.MsgBox(QStringLiteral("Data error event hit err:") + message);
+    Ctx.Messages.MsgBox(tr("Data error event hit err:") + message);
 }
 
 void frmTable1::SetBrowsing(bool browsing)
@@ -667,12 +677,13 @@ QString frmTable1::CatchEntryProblem() const
         QString Typed;
     };
     const std::array<Entry, 2> entries = {
-        {{"Total Taken", "TotalTaken", txtFields[17]->isModified(), txtFields[17]->text()},
-         {"Peak Time", "PeakTime", PeakTimeEdited(), PeakTimeCombo->currentText()}}};
+        {{QT_TR_NOOP("Total Taken"), "TotalTaken", txtFields[17]->isModified(),
+          txtFields[17]->text()},
+         {QT_TR_NOOP("Peak Time"), "PeakTime", PeakTimeEdited(), PeakTimeCombo->currentText()}}};
     for (const Entry& entry : entries) {
         QString why;
         if (entry.Edited && !CatchValue(QLatin1String(entry.Column), entry.Typed, why))
-            return QStringLiteral("%1: %2.").arg(QLatin1String(entry.Label), why);
+            return QStringLiteral("%1: %2.").arg(tr(entry.Label), why);
     }
     return {};
 }
@@ -734,8 +745,8 @@ bool frmTable1::ConfirmLeaveEditing()
     if (Data1.EditMode() == DataControl::EditState::None)
         return true;
     const MsgResult answer =
-        Ctx.Messages.MsgBox(QStringLiteral("Save changes to this day?"),
-                            MsgButtons::SaveDiscardCancel, windowTitle(), MsgIcon::Question);
+        Ctx.Messages.MsgBox(tr("Save changes to this day?"), MsgButtons::SaveDiscardCancel,
+                            windowTitle(), MsgIcon::Question);
     if (answer == MsgResult::Save) {
         cmdUpdate_Click();
         return Data1.EditMode() == DataControl::EditState::None;

@@ -10,6 +10,7 @@
 #include "ui/common/button.h"
 #include "ui/common/fittext.h"
 #include "ui/common/messageservice.h"
+#include "ui/common/plaintexts.h"
 #include "ui/log/frmreport.h"
 #include "ui/log/frmtable2.h"
 
@@ -59,7 +60,7 @@ void OnClick(QWidget* widget, std::function<void()> clicked)
 
 QWidget* frmTable1::BuildQueryPanel()
 {
-    auto* panel = new QGroupBox(QStringLiteral("Select Data Where"), this);
+    auto* panel = new QGroupBox(tr("Select Data Where"), this);
     auto* grid = new QGridLayout(panel);
     QueryGrid = grid;
     for (std::size_t b = 0; b < Text6.size(); ++b) {
@@ -67,7 +68,7 @@ QWidget* frmTable1::BuildQueryPanel()
         Text6[b]->setObjectName(QStringLiteral("Text6%1").arg(b));
         FixToText(Text6[b],
                   b >= 10 ? QStringList{QStringLiteral("00:00 AM"), QStringLiteral("00:00 PM")}
-                          : QStringList{QStringLiteral("Fri-Sun")});
+                          : QStringList{tr("Fri-Sun")});
         OnClick(Text6[b], [this, b] { Text6_Click(int(b)); });
     }
     Text1 = new QLineEdit(panel);
@@ -95,30 +96,29 @@ QWidget* frmTable1::BuildQueryPanel()
     const auto& conditions = QueryConditions();
     for (std::size_t i = 0; i < conditions.size(); ++i) {
         const int row = int(i);
-        Check1[i] = new QCheckBox(QStringOf(conditions[i].Caption), panel);
+        Check1[i] = new QCheckBox(PlainText(conditions[i].Caption), panel);
         Check1[i]->setObjectName(QStringLiteral("Check1%1").arg(i));
         grid->addWidget(Check1[i], row, 0);
         for (std::size_t k = 0; k < conditions[i].Boxes.size(); ++k)
             grid->addWidget(ValueBox(conditions[i].Boxes[k]), row, 1 + int(k));
         if (!conditions[i].Hint.empty())
-            grid->addWidget(new QLabel(QStringOf(conditions[i].Hint), panel), row, HintColumn);
+            grid->addWidget(new QLabel(PlainText(conditions[i].Hint), panel), row, HintColumn);
     }
     const int rows = int(conditions.size());
     SortByCombo = new QComboBox(panel);
     SortByCombo->setObjectName(QStringLiteral("SortByCombo"));
-    grid->addWidget(new QLabel(QStringLiteral("Sort By"), panel), rows, 0, Qt::AlignRight);
+    grid->addWidget(new QLabel(tr("Sort By"), panel), rows, 0, Qt::AlignRight);
     grid->addWidget(SortByCombo, rows, 1, 1, 3);
 
-    cmdSelect = Button(QStringLiteral("Select Data Where"), QStringLiteral("cmdSelect"),
-                       QStringLiteral(" Select Data From Conditions of CheckBoxes "), panel);
-    Command1 = Button(QStringLiteral("All Records"), QStringLiteral("Command1"),
-                      QStringLiteral(" Display ALL Records in Database "), panel);
-    Command2 = Button(QStringLiteral("Clear Text"), QStringLiteral("Command2"),
-                      QStringLiteral(" Clear TextBoxes "), panel);
-    Command3 = Button(QStringLiteral("Clear Checks"), QStringLiteral("Command3"),
-                      QStringLiteral(" UnCheck ALL CheckBoxes "), panel);
-    Command4 = Button(QStringLiteral("Report"), QStringLiteral("Command4"),
-                      QStringLiteral(" Display Report for Current Records "), panel);
+    cmdSelect = Button(tr("Select Data Where"), QStringLiteral("cmdSelect"),
+                       tr(" Select Data From Conditions of CheckBoxes "), panel);
+    Command1 = Button(tr("All Records"), QStringLiteral("Command1"),
+                      tr(" Display ALL Records in Database "), panel);
+    Command2 = Button(tr("Clear Text"), QStringLiteral("Command2"), tr(" Clear TextBoxes "), panel);
+    Command3 = Button(tr("Clear Checks"), QStringLiteral("Command3"),
+                      tr(" UnCheck ALL CheckBoxes "), panel);
+    Command4 = Button(tr("Report"), QStringLiteral("Command4"),
+                      tr(" Display Report for Current Records "), panel);
     grid->addWidget(cmdSelect, rows + 1, 0);
     grid->addWidget(Command1, rows + 1, 1, 1, 2);
     grid->addWidget(Command4, rows + 1, 3);
@@ -161,20 +161,20 @@ void frmTable1::BuildPickers(QWidget* panel)
 
 void frmTable1::BuildQueryMenus(QMenuBar* bar)
 {
-    mnutableview = bar->addAction(QStringLiteral("&Table View"));
+    mnutableview = bar->addAction(tr("&Table View"));
     mnutableview->setObjectName(QStringLiteral("mnutableview"));
     connect(mnutableview, &QAction::triggered, this, &frmTable1::mnutableview_Click);
-    QMenu* mnuMonth = bar->addMenu(QStringLiteral("&Months"));
+    QMenu* mnuMonth = bar->addMenu(tr("&Months"));
     for (std::size_t k = 0; k < mnuMonths.size(); ++k) {
         // "January" to "December", as the browser writes month names.
         const auto name = FormatStored(
             QStringLiteral("2001-%1-01").arg(k + 1, 2, 10, QChar('0')).toStdString(), "mmmm");
-        mnuMonths[k] = mnuMonth->addAction(QString::fromStdString(name.value_or("")));
+        mnuMonths[k] = mnuMonth->addAction(PlainText(name.value_or("")));
         connect(mnuMonths[k], &QAction::triggered, this, [this, k] { mnuMonths_Click(int(k)); });
     }
-    QMenu* mnuYear = bar->addMenu(QStringLiteral("&Days"));
+    QMenu* mnuYear = bar->addMenu(tr("&Days"));
     for (std::size_t k = 0; k < mnuYears.size(); ++k) {
-        mnuYears[k] = mnuYear->addAction(QStringOf(DaySelections()[k].Caption));
+        mnuYears[k] = mnuYear->addAction(PlainText(DaySelections()[k].Caption));
         connect(mnuYears[k], &QAction::triggered, this, [this, k] { mnuYears_Click(int(k)); });
     }
 }
@@ -225,10 +225,10 @@ void frmTable1::cmdSelect_Click()
     }
     SortIndex = std::max<std::int16_t>(SortIndex, 1);
     ShowSource(selection.RecordSource);
-    Label9->setText(selection.Caption);
+    Label9->setText(PlainText(selection.Caption.toStdString()));
     if (!selection.Refused.isEmpty())
-        Ctx.Messages.MsgBox(QStringLiteral("These steps of the selection could not run and were "
-                                           "passed over:\n") +
+        Ctx.Messages.MsgBox(tr("These steps of the selection could not run and were "
+                               "passed over:\n") +
                             selection.Refused.join(QLatin1Char('\n')));
 }
 

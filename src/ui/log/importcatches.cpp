@@ -6,11 +6,12 @@
 #include "ui/common/busypointer.h"
 #include "ui/common/messageservice.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace {
 
-const QString Title = QStringLiteral("Import Catches");
+QString Title() { return QCoreApplication::translate("ImportCatches", "Import Catches"); }
 constexpr qsizetype IssuesShown = 20;
 
 QString IssueReport(const ImportPlan& plan)
@@ -21,7 +22,7 @@ QString IssueReport(const ImportPlan& plan)
     const qsizetype more = lines.size() - IssuesShown;
     if (more > 0) {
         lines = lines.mid(0, IssuesShown);
-        lines << QStringLiteral("... and %1 more").arg(more);
+        lines << QCoreApplication::translate("ImportCatches", "... and %1 more").arg(more);
     }
     return QStringLiteral("\n\n") + lines.join('\n');
 }
@@ -30,21 +31,24 @@ QString IssueReport(const ImportPlan& plan)
 std::optional<ImportChoice> AskChoice(MessageService& messages, const ImportPlan& plan,
                                       const QString& name)
 {
-    const QString found = QStringLiteral("%1 day(s) can be imported into %2.%3\n\n")
-                              .arg(plan.Rows.size())
-                              .arg(name, IssueReport(plan));
+    const QString found =
+        QCoreApplication::translate("ImportCatches", "%1 day(s) can be imported into %2.%3\n\n")
+            .arg(plan.Rows.size())
+            .arg(name, IssueReport(plan));
     if (plan.OccupiedRows() == 0) {
         const MsgResult go = messages.MsgBox(
-            found + QStringLiteral("OK imports them; lines with problems are left out."),
-            MsgButtons::OKCancel, Title, MsgIcon::Question);
+            found + QCoreApplication::translate(
+                        "ImportCatches", "OK imports them; lines with problems are left out."),
+            MsgButtons::OKCancel, Title(), MsgIcon::Question);
         return go == MsgResult::OK ? std::optional(ImportChoice::Skip) : std::nullopt;
     }
     const MsgResult answer = messages.MsgBox(
-        found + QStringLiteral("%1 of these days already hold an entry. Yes overwrites those "
-                               "entries, No keeps them and imports the rest, Cancel imports "
-                               "nothing.")
+        found + QCoreApplication::translate(
+                    "ImportCatches", "%1 of these days already hold an entry. Yes overwrites those "
+                                     "entries, No keeps them and imports the rest, Cancel imports "
+                                     "nothing.")
                     .arg(plan.OccupiedRows()),
-        MsgButtons::YesNoCancel, Title, MsgIcon::Question);
+        MsgButtons::YesNoCancel, Title(), MsgIcon::Question);
     if (answer == MsgResult::Yes)
         return ImportChoice::Overwrite;
     return answer == MsgResult::No ? std::optional(ImportChoice::Skip) : std::nullopt;
@@ -52,7 +56,7 @@ std::optional<ImportChoice> AskChoice(MessageService& messages, const ImportPlan
 
 void Say(MessageService& messages, const QString& text, MsgIcon icon = MsgIcon::None)
 {
-    messages.MsgBox(text, MsgButtons::OK, Title, icon);
+    messages.MsgBox(text, MsgButtons::OK, Title(), icon);
 }
 
 } // namespace
@@ -63,7 +67,9 @@ void ImportCatches(const LogContext& context, const QString& yearFile, const QSt
     const QString name = QFileInfo(yearFile).fileName();
     QByteArray csv;
     if (const DbResult read = ReadImportFile(csvPath, csv); !read)
-        return Say(messages, QStringLiteral("Nothing was imported: %1.").arg(read.Message),
+        return Say(messages,
+                   QCoreApplication::translate("ImportCatches", "Nothing was imported: %1.")
+                       .arg(read.Message),
                    MsgIcon::Critical);
     ImportPlan plan;
     const bool json =
@@ -72,11 +78,15 @@ void ImportCatches(const LogContext& context, const QString& yearFile, const QSt
     if (DbResult planned = json ? PlanJsonImport(yearFile, year, csv, plan)
                                 : PlanImport(yearFile, year, csv, plan);
         !planned)
-        return Say(messages, QStringLiteral("Nothing was imported: %1").arg(planned.Message),
+        return Say(messages,
+                   QCoreApplication::translate("ImportCatches", "Nothing was imported: %1")
+                       .arg(planned.Message),
                    MsgIcon::Critical);
     if (plan.Rows.empty())
-        return Say(messages, QStringLiteral("The file holds no catch entry to import into %1.%2")
-                                 .arg(name, IssueReport(plan)));
+        return Say(messages,
+                   QCoreApplication::translate("ImportCatches",
+                                               "The file holds no catch entry to import into %1.%2")
+                       .arg(name, IssueReport(plan)));
     const std::optional<ImportChoice> choice = AskChoice(messages, plan, name);
     if (!choice)
         return;
@@ -89,9 +99,12 @@ void ImportCatches(const LogContext& context, const QString& yearFile, const QSt
             done = ApplyImport(yearFile, plan, *choice, count);
     }
     if (!done)
-        return Say(messages, QStringLiteral("Nothing was imported: %1").arg(done.Message),
+        return Say(messages,
+                   QCoreApplication::translate("ImportCatches", "Nothing was imported: %1")
+                       .arg(done.Message),
                    MsgIcon::Critical);
-    Say(messages, QStringLiteral("%1 day(s) of %2 now hold the imported entries%3.")
+    Say(messages, QCoreApplication::translate("ImportCatches",
+                                              "%1 day(s) of %2 now hold the imported entries%3.")
                       .arg(count.Written)
                       .arg(name, GainedEntryNote(count)));
 }

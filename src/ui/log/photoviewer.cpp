@@ -2,6 +2,7 @@
 
 #include "ui/common/messageservice.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
@@ -36,10 +37,14 @@ bool ShowPhoto(MessageService& messages, const QString& path, QWidget* parent)
     reader.setAutoTransform(true);
     const QImage image = reader.read();
     if (image.isNull()) {
-        const QString why =
-            QFileInfo::exists(path) ? reader.errorString() : QStringLiteral("the file is missing");
-        messages.MsgBox(QStringLiteral("The photo %1 cannot be shown: %2.").arg(path, why),
-                        MsgButtons::OK, QStringLiteral("Photo"), MsgIcon::Exclamation);
+        const QString why = QFileInfo::exists(path)
+                                ? reader.errorString()
+                                : QCoreApplication::translate("PhotoViewer", "the file is missing");
+        messages.MsgBox(
+            QCoreApplication::translate("PhotoViewer", "The photo %1 cannot be shown: %2.")
+                .arg(path, why),
+            MsgButtons::OK, QCoreApplication::translate("PhotoViewer", "Photo"),
+            MsgIcon::Exclamation);
         return false;
     }
     PhotoViewer viewer(image, QFileInfo(path).fileName(), parent);

@@ -1,17 +1,18 @@
 #include "ui/log/unitsmenu.h"
 
+#include <QCoreApplication>
 #include <QMenu>
 
 #include <array>
 
 QMenu* AddUnitsMenu(QMenu* options, bool& imperial)
 {
-    QMenu* menu = options->addMenu(QStringLiteral("&Units"));
+    QMenu* menu = options->addMenu(QCoreApplication::translate("UnitsMenu", "&Units"));
     menu->setObjectName(QStringLiteral("mnuUnits"));
     // Index 0 metric, 1 imperial; the checked one is the choice.
     const std::array<QAction*, 2> items = {
-        menu->addAction(QStringLiteral("&Metric (cm, kg, \u00B0C)")),
-        menu->addAction(QStringLiteral("&Imperial (in, lb, \u00B0F)"))};
+        menu->addAction(QCoreApplication::translate("UnitsMenu", "&Metric (cm, kg, °C)")),
+        menu->addAction(QCoreApplication::translate("UnitsMenu", "&Imperial (in, lb, °F)"))};
     items[0]->setObjectName(QStringLiteral("mnuUnitsMetric"));
     items[1]->setObjectName(QStringLiteral("mnuUnitsImperial"));
     for (std::size_t i = 0; i < items.size(); ++i) {

@@ -182,7 +182,7 @@ void SkyStrip::paintEvent(QPaintEvent*)
 DayGraph::DayGraph(Astronomy& engine, Day day, QWidget* parent)
     : QDialog(parent), Engine(engine), Shown(std::move(day))
 {
-    setWindowTitle(QStringLiteral("Daily Conditions"));
+    setWindowTitle(tr("Daily Conditions"));
     setModal(true);
     BuildControls();
     connect(PicTi, &DayTimeLine::PointerMoved, this, &DayGraph::PicTi_MouseMove);
@@ -222,14 +222,14 @@ void DayGraph::BuildControls()
     Label[0]->setFont(bold);
     Label[0]->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(QStringLiteral("12:00 PM")));
     moment->addStretch();
-    moment->addWidget(MakeLabel(10, QStringLiteral("Moon's Age:")));
+    moment->addWidget(MakeLabel(10, tr("Moon's Age:")));
     moment->addWidget(MakeLabel(11, {}));
     Label[11]->setFont(bold);
-    Label[11]->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(QStringLiteral("29 Days")));
+    Label[11]->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(tr("29 Days")));
     layout->addLayout(moment);
     layout->addLayout(BuildSky());
-    CloseCmd = new QPushButton(QStringLiteral("Close"), this);
-    CloseCmd->setToolTip(QStringLiteral(" Return to Calendar "));
+    CloseCmd = new QPushButton(tr("Close"), this);
+    CloseCmd->setToolTip(tr(" Return to Calendar "));
     layout->addWidget(CloseCmd, 0, Qt::AlignRight);
 }
 
@@ -237,9 +237,9 @@ void DayGraph::BuildControls()
 QLayout* DayGraph::BuildSky()
 {
     PicAZ = new SkyStrip(SkyStrip::Scale::Azimuth, this);
-    PicAZ->setToolTip(QStringLiteral(" Azimuth of Sun and Moon "));
+    PicAZ->setToolTip(tr(" Azimuth of Sun and Moon "));
     PicEL = new SkyStrip(SkyStrip::Scale::Elevation, this);
-    PicEL->setToolTip(QStringLiteral(" Each Tick is 10 Degrees of Elevation "));
+    PicEL->setToolTip(tr(" Each Tick is 10 Degrees of Elevation "));
     for (SkyStrip* strip : {PicAZ, PicEL})
         strip->setMinimumSize(StripWidth, StripHeight);
     Adopt(3,
@@ -253,14 +253,14 @@ QLayout* DayGraph::BuildSky()
 
     auto* grid = new QGridLayout;
     grid->setColumnStretch(0, 1);
-    grid->addWidget(new QLabel(QStringLiteral("Sun"), this), 0, 2);
-    grid->addWidget(new QLabel(QStringLiteral("Moon"), this), 0, 3);
+    grid->addWidget(new QLabel(tr("Sun"), this), 0, 2);
+    grid->addWidget(new QLabel(tr("Moon"), this), 0, 3);
     grid->addWidget(PicAZ, 1, 0);
     grid->addWidget(Label[3], 2, 0);
     grid->addWidget(PicEL, 3, 0);
     grid->addLayout(elevationScale, 4, 0);
-    grid->addWidget(MakeLabel(6, QStringLiteral("Azimuth")), 1, 1);
-    grid->addWidget(MakeLabel(7, QStringLiteral("Elevation")), 3, 1);
+    grid->addWidget(MakeLabel(6, tr("Azimuth")), 1, 1);
+    grid->addWidget(MakeLabel(7, tr("Elevation")), 3, 1);
     // The read-outs: Sun and Moon azimuth, Sun and Moon elevation.
     const int readout = fontMetrics().horizontalAdvance(DegreesText(-359.9)) + 4;
     for (const auto& [index, row, column] :
@@ -347,7 +347,7 @@ void DayGraph::PicTi_MouseMove(double x, double y)
 
 void DayGraph::Label_MouseMove(int index)
 {
-    Label.at(std::size_t(index))->setToolTip(QStringLiteral(" Click To Close "));
+    Label.at(std::size_t(index))->setToolTip(tr(" Click To Close "));
 }
 
 void DayGraph::CloseCmd_Click() { close(); }

@@ -70,7 +70,7 @@ void FrmDetail::BuildControls()
     for (QLabel* label : Label)
         if (label)
             label->setTextInteractionFlags(Qt::NoTextInteraction);
-    CMDClose = new QPushButton(QStringLiteral("Close"), this);
+    CMDClose = new QPushButton(tr("Close"), this);
     grid->addWidget(CMDClose, row, 1, Qt::AlignRight);
     grid->setSizeConstraint(QLayout::SetFixedSize);
     Timer1 = new QTimer(this);
@@ -116,7 +116,7 @@ void FrmDetail::Label_Click(int) { Form_Click(); }
 
 void FrmDetail::Label_MouseMove(int index)
 {
-    Label.at(std::size_t(index))->setToolTip(QStringLiteral("Click to Halt Timer"));
+    Label.at(std::size_t(index))->setToolTip(tr("Click to Halt Timer"));
 }
 
 void FrmDetail::showEvent(QShowEvent* event)

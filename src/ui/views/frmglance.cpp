@@ -22,8 +22,8 @@ FrmGlance::FrmGlance(const Calendar& cal, std::int16_t southernHemisphere, std::
     Pic = new TwipsPicture(this);
     Pic->setFixedSize(Twips(GlancePictureWidth), Twips(GlancePictureHeight));
     Pic->SetDrawing([this](QPainter& p) { DrawGlanceChart(p, Chart); });
-    Cmd[0] = new QPushButton(QStringLiteral("Close"), this);
-    Cmd[1] = new QPushButton(QStringLiteral("Print"), this);
+    Cmd[0] = new QPushButton(tr("Close"), this);
+    Cmd[1] = new QPushButton(tr("Print"), this);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(Cmd[1]);

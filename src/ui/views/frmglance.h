@@ -15,6 +15,8 @@ class QPushButton;
 class TwipsPicture;
 
 class FrmGlance : public QWidget {
+    Q_OBJECT
+
 public:
     // The chart of the month at the place; `mainWindow` is shown again when this window closes.
     FrmGlance(const Calendar& cal, std::int16_t southernHemisphere, std::string place,

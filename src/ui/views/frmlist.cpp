@@ -44,12 +44,10 @@ FrmList::FrmList(Astronomy& engine, const Calendar& cal, std::string locationNam
     Text1->setReadOnly(true);
     Text1->setFont(columns);
     Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
-    Command1 = Button(QStringLiteral("&Close"), QStringLiteral("Command1"),
-                      QStringLiteral(" Close List Screen "), this);
-    Command2 = Button(QStringLiteral("Clip&Board"), QStringLiteral("Command2"),
-                      QStringLiteral(" Copy text to clipboard "), this);
-    Command3 = Button(QStringLiteral("&Print"), QStringLiteral("Command3"),
-                      QStringLiteral(" Print a Calendar "), this);
+    Command1 = Button(tr("&Close"), QStringLiteral("Command1"), tr(" Close List Screen "), this);
+    Command2 =
+        Button(tr("Clip&Board"), QStringLiteral("Command2"), tr(" Copy text to clipboard "), this);
+    Command3 = Button(tr("&Print"), QStringLiteral("Command3"), tr(" Print a Calendar "), this);
     auto* month = new QHBoxLayout;
     month->addWidget(Label[0]);
     month->addWidget(Label[1]);

@@ -17,6 +17,8 @@ class QPlainTextEdit;
 class QPushButton;
 
 class FrmList : public QWidget {
+    Q_OBJECT
+
 public:
     // `mainWindow` is shown again when this window closes.
     FrmList(Astronomy& engine, const Calendar& cal, std::string locationName, bool ampm,
