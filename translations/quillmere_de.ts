@@ -1894,4 +1894,43 @@ Die Datei bleibt, wie sie war.</translation>
         <translation>dddd, d. MMMM yyyy</translation>
     </message>
 </context>
+<context>
+    <name>frmTable2</name>
+    <message>
+        <source>Species</source>
+        <translation>Fischart</translation>
+    </message>
+    <message>
+        <source>Fish</source>
+        <translation>Fische</translation>
+    </message>
+    <message>
+        <source>Released</source>
+        <translation>Zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>Longest (%1)</source>
+        <translation>Längster (%1)</translation>
+    </message>
+    <message>
+        <source>Heaviest (%1)</source>
+        <translation>Schwerster (%1)</translation>
+    </message>
+    <message>
+        <source>Quillmere DataBase</source>
+        <translation>Quillmere-Datenbank</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Record: %1</source>
+        <translation>Datensatz: %1</translation>
+    </message>
+    <message>
+        <source>Data error event hit err:</source>
+        <translation>Datenfehler:</translation>
+    </message>
+</context>
 </TS>

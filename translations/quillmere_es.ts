@@ -1894,4 +1894,43 @@ El archivo se conserva tal como estaba.</translation>
         <translation>dddd, d &apos;de&apos; MMMM &apos;de&apos; yyyy</translation>
     </message>
 </context>
+<context>
+    <name>frmTable2</name>
+    <message>
+        <source>Species</source>
+        <translation>Especie</translation>
+    </message>
+    <message>
+        <source>Fish</source>
+        <translation>Peces</translation>
+    </message>
+    <message>
+        <source>Released</source>
+        <translation>Liberados</translation>
+    </message>
+    <message>
+        <source>Longest (%1)</source>
+        <translation>Más largo (%1)</translation>
+    </message>
+    <message>
+        <source>Heaviest (%1)</source>
+        <translation>Más pesado (%1)</translation>
+    </message>
+    <message>
+        <source>Quillmere DataBase</source>
+        <translation>Base de datos de Quillmere</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Record: %1</source>
+        <translation>Registro: %1</translation>
+    </message>
+    <message>
+        <source>Data error event hit err:</source>
+        <translation>Error de datos:</translation>
+    </message>
+</context>
 </TS>

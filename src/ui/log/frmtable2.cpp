@@ -7,6 +7,7 @@
 #include "ui/common/databar.h"
 #include "ui/common/messageservice.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenuBar>
@@ -45,15 +46,17 @@ QString CatchCaption(int column, UnitSystem units)
 {
     switch (column) {
     case SpeciesColumn:
-        return QStringLiteral("Species");
+        return QCoreApplication::translate("frmTable2", "Species");
     case FishColumn:
-        return QStringLiteral("Fish");
+        return QCoreApplication::translate("frmTable2", "Fish");
     case ReleasedColumn:
-        return QStringLiteral("Released");
+        return QCoreApplication::translate("frmTable2", "Released");
     case LongestColumn:
-        return QStringLiteral("Longest (%1)").arg(QString::fromUtf8(LengthUnit(units)));
+        return QCoreApplication::translate("frmTable2", "Longest (%1)")
+            .arg(QString::fromUtf8(LengthUnit(units)));
     default:
-        return QStringLiteral("Heaviest (%1)").arg(QString::fromUtf8(WeightUnit(units)));
+        return QCoreApplication::translate("frmTable2", "Heaviest (%1)")
+            .arg(QString::fromUtf8(WeightUnit(units)));
     }
 }
 
@@ -87,10 +90,10 @@ QString GridText(const QVariant& stored, ColumnKind kind)
 frmTable2::frmTable2(const LogContext& context, const QString& recordSource, QWidget* parent)
     : QDialog(parent), Ctx(context), Source(recordSource)
 {
-    setWindowTitle(QStringLiteral("Quillmere DataBase"));
+    setWindowTitle(tr("Quillmere DataBase"));
     setModal(true);
     auto* bar = new QMenuBar(this);
-    mnuExit = bar->addAction(QStringLiteral("&Close"));
+    mnuExit = bar->addAction(tr("&Close"));
     mnuExit->setObjectName(QStringLiteral("mnuExit"));
     mnuExit->setShortcut(QKeySequence::Close);
     DBGrid1 = new QTableView(this);
@@ -220,7 +223,7 @@ void frmTable2::Data1_Reposition()
 {
     const BusyPointer busy;
     const int position = Data1.AbsolutePosition();
-    Data1Bar->SetCaption(QStringLiteral("Record: ") + QString::number(position + 1));
+    Data1Bar->SetCaption(tr("Record: %1").arg(position + 1));
     if (position >= 0 && DBGrid1->currentIndex().row() != position)
         DBGrid1->selectRow(position);
 }
@@ -247,7 +250,7 @@ void frmTable2::DBGrid1_DblClick(int row)
 
 void frmTable2::Data1_Error(const QString& message)
 {
-    Ctx.Messages.MsgBox(QStringLiteral("Data error event hit err:") + message);
+    Ctx.Messages.MsgBox(tr("Data error event hit err:") + message);
 }
 
 void frmTable2::mnuExit_Click() { close(); }
