@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Per-call cost of the positions: the Sun (195 VSOP87 terms with nutation), the Moon
 // (120 periodic terms with nutation and the low-precision Sun), and nutation alone.
 #include "astro/astronomy.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cost of the year tables that every change of month recomputes (twice: the month before and
 // the month shown): the year's events, ratings and holidays, and a whole month draw.
 #include "astro/astronomy.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cost of the catch statistics over ten filled year files, each fished every other day and
 // holding 300 catches: reading the records and computing every grouping, per day and per
 // catch; and reading a day of 20 catches with 20 photos, as the record browser does when it

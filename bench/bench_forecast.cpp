@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cost of one day's forecast (ComputeSunDay + ComputeDay): alone, on days far apart so that
 // nothing is reused, and over consecutive days as the month list, the year fill and the
 // command line walk them (positions at 0h of neighbouring days reused); and the command

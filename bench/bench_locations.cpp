@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How quickly the location editor opens: the window built, the location shown and the state
 // list read from the city database (offscreen), and the city list of one state.
 #include "model/location.h"

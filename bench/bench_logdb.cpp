@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cost of filling a year file of the fishing log: a year of day forecasts saved in one
 // transaction, the computing part alone, the whole Create as the program makes it (template
 // copied under a temporary name, year tables, fill, sync, rename into place), and compacting

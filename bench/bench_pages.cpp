@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cost of the printed month views: a month's calendar page (its 29..31 forecasts, the drawing
 // and the PDF file written and renamed into place), the month at a glance as a PDF, and the
 // monthly list's lines.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How quickly the windows answer: a click on the main window's next-month button (the year's
 // tables, the month's 37 cells, the selected day's forecast, the details and the moon picture,
 // and the repaint of the whole window or of what changed, with the forecasts and year tables

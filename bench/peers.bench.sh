@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Speed and accuracy of quillmere-forecast beside two astronomy-library peers (libnova, astronomy-engine).
 # Usage: peers.bench.sh [path/to/quillmere-forecast]   (or set QUILLMERE_FORECAST)
 # Runs from the source tree or from its copy in <build>/bench, where the CMake cache names the sources.

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The layers of src/, from the bottom up, and a check that nothing reaches up.
 
 A file may include headers of its own folder and of the folders in the layers below its own;

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The shell conventions of Quillmere's command lines, one case per run.
 
   cli_conventions_check.py CASE FORECAST LOG SOURCE_DIR

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A program's manual page and its bash and zsh completions, made from its --help text, so
 none can drift from what the program says of itself.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Checks what tools/cli_docs.py made.
 
   cli_docs_check.py manuals MAN_DIR

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Checks a year of daysky_dump output at one place against PyEphem (python3-ephem).
 
   --sky S M     Sun within S degrees and Moon within M degrees of ephem, in azimuth and altitude,

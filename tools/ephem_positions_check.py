@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Compares the engine's Sun and Moon with PyEphem (python3-ephem), the independent reference.
 
 Reads the lines of positions_dump on standard input. The engine's argument is dynamical time,

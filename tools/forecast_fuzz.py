@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Fuzzes quillmere-forecast's arguments: every case is wrong by construction (random bytes,
 numbers out of range, malformed UTF-8, very long values), so every run must exit with status 2,
 write one line on stderr and nothing on stdout, and take less than a second.

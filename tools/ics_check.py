@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Strict check of quillmere-forecast's iCalendar output (RFC 5545): CRLF line ends, lines of at
 most 75 octets folded between UTF-8 characters, well-formed content lines, escaped TEXT values,
 complete events, UIDs unique within a file and across two places, one Major period per real

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs a configured and built tree into a prefix and keeps the list of what it put there,
 # or removes exactly those files again.
 #   install-tree.sh install BUILD_DIR PREFIX

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes the reference for the test of the Moon's lower transit at midnight: places and nights
 where PyEphem's lower transit (its antitransit) falls within seconds of the local midnight, so
 that the search of each of the two days touching it must agree on which one holds it.

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Compares the engine's geocentric distance of the Moon (tests/tools/positions_dump) with the
 Swiss Ephemeris' geometric one (Debian's swetest -emos -true) hour by hour through a year, and
 shows what the difference does to each perigee and apogee: an extreme of the distance moves by

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Checks the PDF pages of quillmere-forecast against poppler's reading of them and against
 PyEphem: February 2024 at Alexandria, LA (92.42W 31.25N, 6 hours west of Greenwich).
 

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Renders the program's icon from its SVG into the PNG sizes that are installed beside it.
 # Needs rsvg-convert (Debian's librsvg2-bin); run it after changing the SVG.
 set -eu

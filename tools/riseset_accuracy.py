@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Accuracy of per-day rise/set/transit/twilight times in forecast CSV files, against python3-ephem.
 
 Each CSV is named with its place as FILE:LAT:LON_EAST:ZONE_WEST (degrees; zone in hours, positive

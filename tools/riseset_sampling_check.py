@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Checks a year of rise, set and twilight events (tests/tools/riseset_dump) against PyEphem's
 altitudes, sampled: no rise/set search of ephem's is used, so a grazing body is judged by where
 it really stands.

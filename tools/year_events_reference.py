@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes the reference instants of the year's events for the engine's accuracy test.
 
 Moon phases, equinoxes and solstices come from python3-ephem; perigees, apogees and the Moon's

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Reference events for the "Local Clock" tests, from python3-ephem, as instants of universal time.
 
 Writes tests/platform/data/zone_events.csv: for six places every sunrise and moonrise of

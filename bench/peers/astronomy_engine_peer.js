@@ -1,4 +1,5 @@
 #!/usr/bin/env node
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Benchmark peer: per-day Sun/Moon events from astronomy-engine in quillmere-forecast's CSV columns.
 // Usage: astronomy_engine_peer.js FROM(YYYY-MM-DD) DAYS LAT LON_EAST ZONE_WEST
 'use strict';

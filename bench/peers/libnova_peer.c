@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 /* Benchmark peer: per-day Sun/Moon events from libnova in quillmere-forecast's CSV columns.
  * Usage: libnova_peer FROM(YYYY-MM-DD) DAYS LAT LON_EAST ZONE_WEST
  * libnova's rise/set/transit work on a UT day, so each local day looks at the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Quillmere: a fishing calendar. It takes --reset, --help and --version; anything else is
 // refused with a usage line, and touches nothing.
 #include "app/startup.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's start before any window exists: read the command line, refuse a second copy,
 // learn the computer's daylight bias and date order, reset the settings when asked to, write
 // the first-start values, load the settings and make the default location current.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The astronomy engine. Positions come back as named places; the day's events, the forecast
 // and the year's event times are left in named members that the caller reads right after the
 // call, so one engine object serves one thread of work; a window, a list or the log filler may

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two drivers of the rise/transit/set search: the Moon's and the Sun's events of one
 // local day, in local clock hours.
 #include "astro/astronomy.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One day's forecast at the observer: the Sun's events and sky position, the Moon's events,
 // the two major periods centred on the Moon's upper and lower transits and the two minor
 // periods between them, and the Moon's phase at the chosen hour.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What one day's forecast leaves for the windows, lists and the log: sun and moon events,
 // the solunar periods (by their centre times) and the Moon at the chosen hour.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Instants (Julian Ephemeris Days) of the year's lunar and solar events, from cycle numbers:
 // Meeus ch. 49 (phases), 50 (perigee and apogee), 52 (greatest declinations), 27 (seasons).
 #pragma once

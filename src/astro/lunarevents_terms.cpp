@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Meeus, Astronomical Algorithms (2nd ed.): Tables 49 (phases), 50.A (perigee, apogee),
 // 52.A (greatest declinations), 27.B and 27.C (equinoxes and solstices).
 #include "astro/lunarevents_terms.h"

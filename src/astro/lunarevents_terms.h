@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Periodic terms of Meeus's chapters 49 (phases), 50 (perigee and apogee), 52 (greatest
 // declinations) and 27 (equinoxes and solstices).
 #pragma once

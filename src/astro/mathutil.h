@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stateless numeric helpers of the engine: polynomials by Horner's rule, three-point
 // interpolation (Meeus eq. 3.3), the extreme of a smooth function (eq. 3.4) and inverse
 // trigonometric functions built on the arctangent.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Moon's apparent position (Meeus ch. 47, mean elements of the first edition), its
 // parallax, and the illuminated fraction and bright limb (ch. 48).
 #include "astro/astronomy.h"

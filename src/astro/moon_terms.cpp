@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Periodic terms of the Moon: Meeus, Astronomical Algorithms, Tables 47.A (longitude in
 // degrees, distance in kilometres) and 47.B (latitude in degrees), with their multiples of
 // D, M, M' and F.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Tables 47.A and 47.B of Meeus: the Moon's periodic terms.
 #pragma once
 

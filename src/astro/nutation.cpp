@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Nutation (Meeus ch. 22), the horizon and the parallactic angle (ch. 13, 14) and the
 // Moon's bright limb (ch. 48).
 #include "astro/astronomy.h"

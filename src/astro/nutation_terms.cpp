@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Nutation in longitude and obliquity, IAU 1980 theory: Meeus, Astronomical Algorithms,
 // Table 22.A. Arguments are multiples of D, M, M', F, Omega; coefficients in arcseconds.
 #include "astro/nutation_terms.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Table 22.A of Meeus: the 63 periodic terms of nutation.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where and when the engine works: the current location's working values and the chosen
 // moment of the day. Longitudes are degrees positive west, latitudes positive north, zones
 // hours west of Greenwich; universal time = local clock time + ZoneDays + DstOffsetDays, or

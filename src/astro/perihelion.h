@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Planets in perihelion and aphelion (Meeus ch. 38): the instant from the mean orbit, with the
 // corrections of Table 38.A that turn the Earth-Moon barycentre's passage into the Earth's.
 // The engine's EarthApsides then refines the Earth's instants on its VSOP87 distance.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rising, transit and setting from the body's coordinates on three consecutive days, with
 // interpolation and iterative correction (Meeus ch. 15).
 #include "astro/astronomy.h"

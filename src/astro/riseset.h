@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Results of the rise, transit and set search (Meeus ch. 15) for one local day.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Sun: apparent position from the VSOP87 Earth terms (Meeus ch. 25, 32) and the short
 // theory of Meeus's Astronomical Formulae for Calculators.
 #include "astro/astronomy.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Time scales shared by the whole engine: Julian day at 0h, centuries and millennia since
 // J2000.0, sidereal time (Meeus ch. 12), Delta-T, range reduction and the clock texts.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // VSOP87 (version D) periodic terms of the Earth, exactly the selection of Meeus,
 // Astronomical Algorithms, Appendix III, held with the digits of the VSOP87 series: each term
 // is A cos(B + C tau), A in radians (L, B) or astronomical units (R), tau in Julian millennia.

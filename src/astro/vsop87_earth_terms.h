@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Earth's periodic terms of VSOP87 (version D), the selection of Meeus's Appendix III.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A place's own clock: its offset from universal time in whole minutes east of Greenwich at
 // any instant, as a table of the instants where the offset changes (the tz database's rules
 // for the years asked for). Instants are Julian days of universal time.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The calendar module: the shown month and year, the day-of-year tables, the year day table
 // with the year's events, ratings and holidays, and what each of the 37 grid cells shows.
 #pragma once

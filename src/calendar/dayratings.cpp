@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lunar day rating (0..4, 4 best) and the moon's age of every day of the year.
 #include "calendar/calendar.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The year's holidays and the daylight-saving days.
 #include "calendar/calendar.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/yearcal.h"
 
 const char* const YearCalWeekdays = " S  M  T  W  T   F   S";

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The texts of the year calendar window: twelve small month calendars of one year.
 #pragma once
 

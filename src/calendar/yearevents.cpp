@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The year's lunar and solar events: one list, in local clock time, that the year day table
 // files by the local day each event falls on and the command line prints, so the grid, the
 // ratings and every list agree on the day and the minute. Each kind is found by walking its

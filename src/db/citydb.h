@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The city database Encdb.MDB in the program's folder, as the location editor and the
 // database editor open it.
 #pragma once

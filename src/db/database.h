@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An open log or city database file: SQLite through Qt Sql, one uniquely named connection per
 // object, statements in the program's Jet dialect, and the file's password.
 //

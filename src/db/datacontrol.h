@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The data control the log windows work through: a database file, an SQL record source in
 // the program's dialect, the current record of its result, edits written back by the
 // record's key, and bound controls that show and edit one column each.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SQLite's errors in words a user can act on: the cause (another program holds the file, no
 // permission, a read-only disk, not a database, a full disk) instead of the engine's bare
 // "disk I/O error", from the extended result code Qt Sql reports and, where the code leaves

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A search condition of the program's Jet dialect, as FindFirst takes it: "dbid = 12",
 // "month between 3 and 5 and waxing = 1", "juliandate >= #03/10/2024#", "City = ?" with the
 // value given apart. It is evaluated on records already read, so the condition's text never

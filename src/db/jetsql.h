@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's SQL is written in the Access/Jet dialect; this turns one statement into the
 // SQLite statements that do the same. The statement is read token by token and written back
 // from the tokens, so only well-formed names, numbers, re-quoted strings and canonical

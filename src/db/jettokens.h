@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tokens of the program's Jet-dialect SQL, shared by the statement translator and the
 // search conditions.
 #pragma once

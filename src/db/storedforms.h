@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stored forms of the log's date and time values. Dates are kept as "YYYY-MM-DD" and times of
 // day as "HH:MM:SS" so that ordering and between work on the values; the texts the program
 // writes and shows ("mm/dd/yyyy", "07:05 PM", "19:05") are converted at the edges.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Backups of the year files, made without the angler thinking of them: a copy goes to the
 // "backups" folder beside the year files whenever a year file is opened for editing and has
 // changed since its last copy. The last ten copies of each year are kept.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Each catch of a day, beside the day's record in table1: species, count, size, released or
 // kept, bait, method, spot, the weather at the time, a note and photos. A day's TotalTaken
 // follows the sum of its catches' counts while it has any.

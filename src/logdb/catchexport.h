@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The catches in the log's export and import. A catch is written as cells after its day's
 // columns, in stored units and forms (time "HH:MM:SS", length mm, weight g, temperatures °C,
 // Released 1 or 0, photos joined by "|"), so that exporting, importing into a fresh year and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A catch's photos: copied into the "photos" folder beside the year files, so that the log
 // and its pictures move together; the year file keeps the path relative to its own folder.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Does the forecast predict the catches? Catch per day fished, grouped by the day's rating,
 // the moon's phase and age, the weekday, and how far the recorded peak time lay from the
 // nearest major or minor period. Plain C++: the records come in, the figures go out.

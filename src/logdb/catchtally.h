@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // When, what and where the catches came: the catches of one year or many counted by species,
 // by how their time lay against the day's solunar periods and the sun, by clock hour, by spot
 // and by water temperature. Plain C++: the catches and their days come in, the counts go out.

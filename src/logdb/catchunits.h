@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Units of a catch's measures. The year file keeps lengths in whole millimetres, weights in
 // whole grams and temperatures in degrees Celsius; the angler reads and types them in metric
 // (cm, kg, °C) or imperial (in, lb, °F) units, chosen once. Plain C++: the windows, the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The angler's catch entries as the log keeps them: Total Taken is a whole number of fish
 // from 0 to 100, Peak Time a time of day written as the browser's hour list writes it
 // ("7:00 AM"), Taken With and Notes text. The record browser and the import read what was

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading comma-separated text as spreadsheets and the log's export write it: fields in double
 // quotes may hold commas, line breaks and doubled quotes; lines end in LF or CR LF.
 #pragma once

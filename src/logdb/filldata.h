@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Filling a new year file with that year's forecasts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A year file's records as the angler reads them: every column of table1 by date, dates and
 // clock times in their display forms, hours of events the day does not have left empty.
 #pragma once

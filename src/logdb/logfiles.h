@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The log's files in the program's folder: the template Default.mdb, one "YYYY.mdb" per
 // year, and their compaction and repair. Nothing here shows a window; every operation
 // returns what happened so that the "Database Functions" window can say it.

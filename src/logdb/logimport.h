@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bringing catches in from a CSV file with the columns of the log's export: the date
 // (JulianDate), TotalTaken, TakenWith, PeakTime and Notes, and the catches' columns (one line
 // per catch, a day's lines one after another); the forecast's columns are ignored.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The repair's salvage of a year file: records read straight from the damaged file's pages,
 // and values that cannot be right for their column found and taken out.
 #pragma once

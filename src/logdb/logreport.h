@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The log's report text over a data control's records. No widgets: the report window and the
 // command line share it; pages/reportpage draws it.
 #pragma once

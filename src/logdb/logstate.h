@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the log windows keep for the whole run, and what they take from the rest of the
 // program when the main window opens them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading the records of a damaged SQLite file straight from its pages, for the repair: every
 // table-leaf cell that still decodes, found through the page's cell pointers or, where a
 // page's header is damaged, by looking for well-formed records in its bytes. A record whose

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The log's questions: fourteen conditions, each a check box with up to two value boxes, run
 // as a chain of select-into steps over the work tables Table2 and Table3, and the five orders
 // the result is shown in. Plain C++: the window and the command line fill a QueryForm and run

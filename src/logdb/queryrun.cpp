@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "logdb/queryrun.h"
 
 #include "logdb/querybuilder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Running the query builder's chain of select-into steps on a year file.
 #pragma once
 

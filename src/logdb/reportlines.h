@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lines of the log's printed report: one fixed-width line per record, the page's title,
 // column heading and dash line, and the split of the report text into printed pages.
 // Plain C++; the report window and the command line both print these.

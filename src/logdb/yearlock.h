@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One writer at a time per year file, for every program that writes one (the windows and
 // quillmere-log, or two of either): an advisory lock on ".<year file>.lock" beside it. The
 // engine's own locks cover one connection's transactions, not the rename with which a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The place and clock a year file was filled for, kept in the file itself (the one-row table
 // QuillmerePlace), so that its times say where and on which clock they hold. Files made before
 // the log kept it have no such table and open as before.

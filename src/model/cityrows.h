@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows of the city database Encdb.MDB, made from a world city list (GeoNames: name,
 // region, country, coordinates, IANA zone) by the build's generator. Plain C++ so that the
 // choices are testable without the list.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The current location: copies the chosen one of the ten into the engine's working values
 // and builds the one-line description shown over the status bar.
 #pragma once

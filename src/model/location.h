@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A user location and the ten the program keeps. Longitudes are degrees positive west,
 // latitudes positive north, time zones hours west of Greenwich (5 for US Eastern). A location
 // may also name its zone of the tz database, whose offsets the "Local Clock" mode follows.

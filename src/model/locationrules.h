@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The location editor's rules without widgets: the digit texts of its boxes, degrees split
 // into whole degrees and hundredths and joined again, the time-zone list, and the city
 // database editor's capitalisation of a second word.

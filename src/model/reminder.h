@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a location's reminders tell of: which of the day's events, how long before each, and
 // on which days. The desktop program sends them while it runs.
 #pragma once

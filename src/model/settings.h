@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings the program keeps between runs, and what start-up learns from the computer.
 // Read once at start, written once when the main window closes.
 #pragma once

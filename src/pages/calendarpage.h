@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printed month calendar: a page of day boxes with each day's phase and rating pictures,
 // its number and its majors and minors. What goes in each box is worked out first, without
 // Qt; the drawing then paints it in twips on any painter (the print window's preview, a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The month at a glance: the month's lunar events on one time line, with the days along the
 // bottom, the principal phases on tall stems, perigee and apogee on middle stems and the
 // greatest declinations on short ones. The chart's layout is worked out first, without Qt;

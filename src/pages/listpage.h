@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The monthly data list on paper: its printed lines in "Times New Roman" bold 12, as many to
 // a page as fit.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Moon's phase picture: a disc lit at the illuminated percentage on the side the phase
 // puts it, the percentage written on it in red, and, for the main window, the same picture
 // turned by the parallactic angle so that it shows the Moon as it stands in the sky.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Printed pages without widgets: a document is a drawing called once per page, written to a
 // PDF file here or sent to a printer by printer.h. The command-line programs use this part
 // alone, so it needs QtGui only.

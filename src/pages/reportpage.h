@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The log's report drawn on any paged device (a printer or a PDF writer), in Courier 10.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's own small pictures: the rating fish of the month grid and the status bar,
 // and the four moon-phase symbols. Each is painted at any size, so printed pages stay sharp.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sizes given in twips (1/1440 inch, 15 to a pixel at 96 dpi) and colours given as
 // 0x00BBGGRR, converted in one place.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Today's date and the time of day. $QUILLMERE_NOW (an ISO date-time such as
 // 2024-03-10T07:30:00) fixes the clock, so tests and screenshots see a known day.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The application object of the command-line programs, which open no window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Desktop notifications through the desktop's notification service
 // (org.freedesktop.Notifications on the session bus). Sending never waits for the service:
 // a desktop without one loses the notification, not the program's time.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's folder: the template Default.mdb, the city database Encdb.MDB, the year log
 // files and the help. $QUILLMERE_HOME when set, else ~/.local/share/Quillmere. On first use
 // it is created and seeded with the files that ship with the program.

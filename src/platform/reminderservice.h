@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sends the reminders of the locations that ask for them while the program runs: a timer
 // checks the program's clock and notifies what fell due since the last check. Each location's
 // plan holds the reminders of its today and tomorrow, made again when its date, its values or

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading and writing the settings in the store, with the stored text forms: longitudes
 // "###.00", latitudes "##.00", time zones with a leading blank when not negative.
 #pragma once

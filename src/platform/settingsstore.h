@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The per-user settings store: application "Quillmere", one section "Settings", every value
 // text. An INI file under $XDG_CONFIG_HOME/Quillmere/.
 #pragma once

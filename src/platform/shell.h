@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The desktop's "open" operation, for web and mail links.
 #pragma once
 

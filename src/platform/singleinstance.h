@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One running copy: a lock file in the user's runtime folder, released when the program ends
 // (or found stale when it crashed), and beside it a local channel on which a second start
 // asks the running copy to come to the front.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the program learns from the computer at start: the daylight bias of its time zone and
 // the order and separator of its short dates.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tz database of the system (its tzdata, through QTimeZone): the zone names it knows and a
 // zone's offsets as the plain table the engine reads.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The units of the day the program counts in: the hour bar, --hour and the daylight bias count
 // minutes, stored times count seconds, and date serials count days from 30 December 1899 0h.
 #pragma once

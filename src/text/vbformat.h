@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Format patterns the program's texts use, written once, with Visual Basic's rules:
 // numbers round half away from zero on their 15-digit decimal form (so 1.005 -> "1.01",
 // where printf would give "1.00"); '0' forces a digit, '#' shows one only when needed.

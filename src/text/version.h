@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The line every Quillmere program prints for --version.
 #pragma once
 

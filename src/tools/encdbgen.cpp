@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Builds the city database Encdb.MDB from the GeoNames city list that Debian's libgeonames
 // carries: encdbgen <schema.sql> <output file>. The rows depend only on the list and on the
 // time-zone data, so two builds give the same rows. Written under a temporary name and

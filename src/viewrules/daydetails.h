@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the day detail window shows for one day: its value labels by index (the captions
 // beside them are the window's own), and where the window goes beside the month grid.
 #pragma once

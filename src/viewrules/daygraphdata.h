@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The numbers of the day graph, without any drawing: the 24-hour time line's bands, period
 // bars, moon marks and event texts in time-line units (7000 to the day), the part of the day
 // under the pointer, and where the Sun and the Moon stand at an instant. The window only

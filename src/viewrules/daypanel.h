@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the day details beside the month grid show for the selected day: captions and
 // colours of the numbered labels, and their tool tips. Plain data, so the main window only
 // applies it and tests read it.

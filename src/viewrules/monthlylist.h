@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of the monthly data list: one fixed-width line per day with sunrise and sunset,
 // moonrise and moonset, the majors and the minors; a missing time shows as "XX:XX".
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which reminders a location's option asks for on given days, and when each is due: a set
 // number of minutes before each period starts, before sunrise and before sunset. Times are
 // local clock Julian days of the location, as the engine's day forecast gives them.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window's "DataBase" entry: the log's "Database Functions" window, modal, for the
 // shown year, with the main window out of view until it closes.
 #include "app/startup.h"

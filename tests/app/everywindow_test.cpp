@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every window of the program, opened as the program opens it, at 96 and 144 dpi: no label,
 // button, box, menu, column heading or cell shows less than its whole text, and no child lies
 // outside its window. Each window's picture goes to the screenshots folder.

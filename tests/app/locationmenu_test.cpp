@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Edit A Location": the main window hides, the location editor opens on the chosen location,
 // and whichever way it closes the main window comes back showing the location as stored.
 #include "app/startup.h"

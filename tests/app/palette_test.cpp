@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window on the dark palette QUILLMERE_PALETTE asks for, enlarged: the grid and the
 // moon picture take the room, and every day's number reads on its cell.
 #include "app/startup.h"

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # A second start of the real program raises the running one and exits quietly with status 0.
 # Usage: second_start.sh PATH-TO-quillmere
 set -u

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window and the record browser in German and in Spanish, at 96 and 144 dpi: every
 // text a reader sees (title, labels, buttons, group titles, tabs, menus and their items, column
 // headings) is another than the English one, unless it is the same in both by nature, and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A program the crash tests start and kill: it runs the log's real create, compact and
 // edit-save code and dies by SIGKILL at the step it is told, as a power cut or a killed
 // process would stop the program.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The data control over a filled year: moving, finding, editing, adding and deleting, and
 // what reaches the file; values given apart from the statement ("?" marks), so that a
 // user's text with quotes stays a value and never becomes SQL.

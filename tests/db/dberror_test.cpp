@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Database errors reach the user naming their cause, under conditions the file system makes
 // real for any user, the superuser too: another program holding the file, a file that is no
 // database, a folder where the engine writes its journal, a file replaced while open.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The city database the build generates, asked directly with plain SQL, against published
 // coordinates and the zones' standard offsets.
 #include "db/database.h"

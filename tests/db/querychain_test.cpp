@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The query builder's select-into chain over a filled year, with the statements exactly as
 // the browser writes them.
 #include "db/datacontrol.h"

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds the Debian package from the test build's own programs (cpack over its install rules),
 # checks its fields, Depends and contents with dpkg-deb, runs lintian when it is installed,
 # then unpacks it and runs the unpacked programs.  Usage: deb_test.sh BUILD_DIR

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the build into a temporary prefix and checks that the desktop finds the program
 # there: programs, launcher, icons of the sizes their folders name, software-centre entry,
 # help and data; the launcher and the entry pass the desktop's own validators when those are

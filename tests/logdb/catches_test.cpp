@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The per-catch records of a year file, checked past the program's own layer with plain SQL:
 // several species on one day, a night trip across midnight, released and kept fish, photos,
 // the day's total following its catches, the upgrade of a file made before catches were kept,

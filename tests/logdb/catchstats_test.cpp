@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Catch statistics over a hand-built year whose catches were counted by hand: which days count
 // as fished, each group's days, total and rate, and the peak time's distance from the nearest
 // period over midnight and without minors.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The per-catch breakdown of a year filled with the engine's forecasts, each grouping compared
 // with a small plain-SQL count over the same file (periods by the day's stored Major, Minor,
 // SunRise and SunSet), past the program's own reading and arithmetic.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Crash safety of the log's files: a child process runs the real create, compact and save
 // code and is killed with SIGKILL at many points; the folder must then hold no year file or a
 // whole one with every saved entry, and the program must open it.

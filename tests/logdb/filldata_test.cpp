@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The year fill on real files: one record per day with the day's forecast, the
 // daylight-saving days, the missing events, and nothing kept when a record cannot be saved.
 #include "astro/astronomy.h"

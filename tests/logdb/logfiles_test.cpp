@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The year files on disk: listing, creating, compacting and protecting them.
 #include "db/datacontrol.h"
 #include "logdb/logfiles.h"

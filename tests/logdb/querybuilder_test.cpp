@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The query builder's statements, pickers and value checks, without a file.
 #include "logdb/querybuilder.h"
 

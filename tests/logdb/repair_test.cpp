@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Repair over damaged copies of a filled year holding the angler's entries: the table's root
 // page, a leaf page's header, a long note's overflow page and a value inside a record are
 // overwritten; every record whose page is intact must come back, the message must count

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The report's lines as golden text, and its split into printed pages.
 #include "logdb/reportlines.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Select Data Where" on a real year of forecasts, checked against the same questions asked
 // of the file in plain SQLite and against orders sorted here.
 #include "db/datacontrol.h"

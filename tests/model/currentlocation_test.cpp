@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/currentlocation.h"
 #include "platform/settingsio.h"
 #include "platform/settingsstore.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The location editor's digit texts, degree splitting, time-zone list and second-word
 // capitalisation, and the choices made when a source city becomes a row of Encdb.MDB.
 #include "model/cityrows.h"

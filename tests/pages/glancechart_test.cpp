@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
 #include "pages/glancechart.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The moon picture by its pixels: which side is lit, how much, the southern swap and the
 // turned view.
 #include "astro/astronomy.h"

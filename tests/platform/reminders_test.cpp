@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The reminders as the desktop receives them: a session bus of the test's own (dbus-daemon
 // --session), a notification service on it that records what it is sent, and the program's
 // reminder service stepped through a day on the fake clock.

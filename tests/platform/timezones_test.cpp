@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Local Clock" against independent references: the offsets QTimeZone gives, and the rise,
 // transit and set instants of python3-ephem (tests/platform/data, made by
 // tools/zone_events_reference.py) turned into each place's clock by QTimeZone.

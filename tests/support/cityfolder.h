@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A fresh folder holding a copy of the built city database, for the window tests.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Real year files for the query builder and report tests: the year filled with the engine's
 // forecasts at Pittsburgh, PA, and questions asked of the file in plain SQLite, past the
 // program's own SQL layer.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The clipping check of the window tests: every text a window shows in less than its whole
 // width or height, and every visible child that lies outside its parent or its window.
 #pragma once

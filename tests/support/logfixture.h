@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Year files with made-up but regular days for the log database tests: every value of a day
 // follows from its day of the year, so a test can predict which records a query must give.
 #pragma once

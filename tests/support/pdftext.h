@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a printed PDF holds, read back by poppler's own tools (independent of Qt's writer).
 #pragma once
 

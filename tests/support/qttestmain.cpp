@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Main of the Qt test programs: an isolated environment, an offscreen QApplication with a
 // fixed style and font so that window tests and screenshots do not depend on the desktop.
 // QUILLMERE_TEST_DARK=1 gives the windows a dark palette, to look at them as on a dark desktop.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Each test program runs in its own temporary HOME, config, data and runtime folders, so no
 // test reads or writes the user's settings or log files.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Prints a year of the engine's day forecasts at one place, for the comparison with an
 // independent ephemeris (tools/ephem_day_check.py). Arguments: latitude (north positive),
 // longitude (west positive), zone (hours west), year, then local clock hours for the sky

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Prints the engine's Sun and Moon for COUNT instants spread over 1900-2100, or with FIRST and
 // STEP for COUNT instants from the Julian day FIRST every STEP days (taken as dynamical time),
 // one line each, for the comparison with an independent ephemeris:

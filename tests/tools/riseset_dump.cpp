@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Prints a year of the engine's rise, set and twilight events at one place, for the comparison
 // with PyEphem's sampled altitudes (tools/riseset_sampling_check.py). Arguments: latitude (north
 // positive), longitude (west positive), zone (hours west), year, and "eu" for European daylight

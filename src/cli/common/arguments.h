@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The command line of quillmere-forecast: three commands, a location either by its stored
 // number or by coordinates, daylight saving, the chosen hour and the output format.
 #pragma once

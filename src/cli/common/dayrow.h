@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One day's forecast as the command line prints it, gathered from the engine and the year
 // day table. The command line reports what happens in the local day: an event carries its
 // time only when it falls in that day, and otherwise says why it has none.

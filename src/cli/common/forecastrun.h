@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The engine and the calendar of one location, walked day by day: the year tables are built
 // once per year, each day's forecast once per day.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printed forms of the command line: a text table, CSV, JSON and iCalendar for days,
 // text and JSON for the year's events.
 #pragma once

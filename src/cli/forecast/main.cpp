@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // quillmere-forecast: the day forecasts, the year's events and the monthly list of the
 // program's engine, for scripts and the terminal.
 #include "calendar/calendar.h"

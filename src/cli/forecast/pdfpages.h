@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printed pages of the command line: the monthly list, the calendar page and the month at
 // a glance, drawn by the windows' own page drawings into a PDF file, with no window opened.
 #pragma once

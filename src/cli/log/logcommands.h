@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // quillmere-log: the fishing log's year files on the command line, through the same
 // operations as the "Database Functions" window. Each command is one entry of a table, so a
 // new command is one function and one line.

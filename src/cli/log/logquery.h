@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The log's questions on the command line: the browser's fourteen conditions and five orders
 // as options of "quillmere-log query" and "quillmere-log report", read into the same form the
 // window fills, so both run the same checks and statements.

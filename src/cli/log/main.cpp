@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // quillmere-log: the fishing log's year files for scripts and the terminal.
 #include "cli/log/logcommands.h"
 #include "platform/headlessapp.h"

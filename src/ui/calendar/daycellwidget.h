@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One day cell of the month grid: background, the day number with its "^^" marks below it,
 // the phase picture at the top right, the rating picture at the bottom left, and the red
 // frame of the selected day along the edges, clear of all of them. It paints what it is given

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The about window: the program's name and version, a contact address and a web address
 // (a click on either opens it through the desktop), and the credit for the city list.
 #pragma once

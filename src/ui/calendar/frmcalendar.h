@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main month window: the month grid, the selected day's details, the moon picture, the
 // hour and year bars, the status bar with the location and the rating legend, and the menus.
 // It owns the navigation state; the numbers come from the calendar module and the engine.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Print Calendar": the shown month as a printable calendar page, previewed in the window
 // and printed on request at 1.2 times its size.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The reminder options of the ten locations: which events (major and minor periods, sunrise
 // and sunset), how many minutes before, and on every day or the best days only. The choices
 // are kept per location while the window is open and go into the settings on OK.

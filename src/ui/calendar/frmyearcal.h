@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The year calendar window: the twelve months of a year as small calendars, a year bar, and a
 // double click that returns to the main window on the chosen month.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The help viewer: the shipped HTML help of the program folder in a browser window.
 #pragma once
 

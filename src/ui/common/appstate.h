@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one application state: the settings, the store they come from, the message service,
 // the engine and the calendar. main() owns it and hands references to the windows; tests
 // build fresh ones.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The hourglass pointer for as long as a handler works.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A push button of the program's windows: its caption, the object name the tests find it by
 // and its tool tip. Enter in a dialog never presses it (no auto-default).
 #pragma once

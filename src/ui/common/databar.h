@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The visible part of a data control: buttons to the first, previous, next and last record
 // around a caption that the window sets (the record counter).
 #pragma once

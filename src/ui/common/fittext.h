@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Boxes sized by what they show: a line edit's least width is the room its widest expected
 // text needs in the box's own font and style, so a layout never squeezes it below that.
 #pragma once

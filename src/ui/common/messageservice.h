@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Message and input boxes with the program's texts, titles and buttons. Windows show every
 // message through one MessageService; a test installs scripted answers and reads back each
 // message that was shown, with its title and buttons.

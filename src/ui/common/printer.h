@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printer: the platform's print dialog over the printers CUPS knows, with "Print to File
 // (PDF)" in the same dialog. With $QUILLMERE_PRINT_PDF set, documents go straight into that
 // PDF file without a dialog (tests, scripts).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's icon in the desktop's system tray while reminders are on: with it, closing the
 // main window leaves the program running to send them; its menu opens the window again or
 // quits. Without a tray (or without reminders) closing the window quits, as before.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The windows' colours were chosen for a light desktop. On a dark Qt palette they are carried
 // over so that they read: backgrounds darkened (keeping their hue), texts lightened, black
 // text the palette's own. On a light palette they stay as they are.

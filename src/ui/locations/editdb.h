@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Edit Database": browses the city database by state, finds and filters cities, and adds,
 // edits, deletes and corrects its records. Every name the user gives reaches the database
 // as a bound value, so names with a quote ("Coeur d'Alene") work like any other.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "User Location": edits the current one of the ten locations. Degrees and hundredths of
 // longitude and latitude are typed or set with scroll bars and E/W, N/S options, the time
 // zone is picked from a list, the name is typed; or a state and a city picked from the city

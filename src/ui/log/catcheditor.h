@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Catch": one catch of a day, typed in the units chosen in Options. What is typed is what is
 // stored, or the message under the fields says why not and the field keeps the focus. OK
 // writes the catch (one transaction under the year's lock) and copies its new photos into

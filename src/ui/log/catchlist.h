@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The day's catches under the record browser's fields: one row each with its time, species,
 // count, measures in the chosen units, released or kept, bait, spot and its photos as
 // thumbnails. Add, Edit and Remove write through the log's catch operations; photo files

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The statistics window's pages of catches: fish by species, by time of day (against the
 // day's solunar periods and the sun, and by clock hour), by spot and by water temperature.
 // Each chart stacks the fish kept and released, with the fish taken printed over each bar.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The log windows switch their controls between browsing and editing through these two.
 #pragma once
 

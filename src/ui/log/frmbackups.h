@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Backups": the copies kept of one year file, newest first, and restoring one of them.
 #pragma once
 

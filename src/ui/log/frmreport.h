@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The report of the record browser's selection: one fixed-width line per record under the
 // column headings, in the browser's order, and printed in pages.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Database Functions": the year files of the program's folder, and creating, opening,
 // deleting, compacting and repairing them. Creating a file fills it with the year's
 // forecasts; opening one shows the record browser.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Catch Statistics": whether the angler's catches follow the forecast, over the open year
 // file or every year file of the folder. A line in words, one bar chart per grouping with the
 // days fished over each bar, and the figures as a table that can be copied.

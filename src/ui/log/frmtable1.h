@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Quillmere DataBase": the records of the open year file one at a time, the day's
 // forecast as the fill wrote it, the moon picture, and the angler's catch entries, which
 // are edited only between Edit and Update.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The record browser's query builder: the fourteen conditions with their value boxes and
 // pickers, the orders, the Months and Days menus, All Records, and the grid view and the
 // report over the records shown.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The grid view of the record browser's selection: one row per record in the browser's
 // order, the columns the angler reads at a glance, then the day's catches (species, fish,
 // released, longest and heaviest in the chosen units), and a double click on a row that takes

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The catches' photos as thumbnails: each file is read once, at thumbnail size, and kept until
 // the file changes, so moving the browser between days costs no image decoding.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A catch's photo at full size, scrolled when it is larger than the screen.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Options > Units: metric or imperial lengths, weights and temperatures for the catches,
 // chosen once and kept with the settings.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The day graph: one day as a 24-hour time line with the twilight bands, the major and minor
 // periods and the Moon's rise, transit and set; moving the pointer along the line shows where
 // the Sun and the Moon stand at that moment. Modal; it changes no state of the program.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The day detail window: one day's sun and moon details and its events, beside the month grid
 // so that it does not cover the chosen day. The main window places it and fills its labels.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Lunar Events for Mon/Year": the month at a glance, centred on the screen, with a button
 // that prints the chart. The main window is out of view while it is open.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Monthly Data for <location>": the shown month's times, one line per day, with buttons that
 // copy the list to the clipboard and print it. The main window is out of view while it is
 // open.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "astro/timebase.h"
 #include "cli/common/forecastrun.h"
 #include "cli/common/formats.h"

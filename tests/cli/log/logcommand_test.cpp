@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // quillmere-log end to end: the built program on a folder of the test's own, its output read
 // back by Python's strict CSV and JSON readers and compared with the file through Python's
 // own SQLite module.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The log's questions on the command line: options read into the browser's form, and the
 // selected days and the report as text, on a real year of forecasts.
 #include "cli/log/logquery.h"

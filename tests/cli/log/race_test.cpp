@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Two programs at once on one year file: quillmere-log's import and compact, and a child that
 // saves entries through the record browser's save code or restores a backup as the Backups
 // window does, started with random delays between them. Whatever a program reported saved is

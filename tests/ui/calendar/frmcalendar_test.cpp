@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "astro/timebase.h"
 #include "platform/settingsio.h"
 #include "ui/calendar/daycellwidget.h"

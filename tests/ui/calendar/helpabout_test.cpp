@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/programfolder.h"
 #include "ui/calendar/frmabout.h"
 #include "ui/calendar/helpwindow.h"

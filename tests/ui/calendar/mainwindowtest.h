@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The set-up the main window's tests share: the window over the first-start settings at a
 // fixed "now", shown, with the month and label helpers.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Edit Database" on a copy of the built city database: the state list, the record counter,
 // the buttons' states, Find, Filter, Add, Update, Delete, Cancel and Load, checked against
 // plain SQL asked of the file.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The location editor on a copy of the built city database: the boxes, options and zone
 // list for a location, picking a state and a city (names with a quote too), "&Done", and
 // what happens when the city list is missing, empty or has lost a record.

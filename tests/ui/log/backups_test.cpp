@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Backups of the year files on real files: a copy only when the file changed, ten kept per
 // year, restoring that keeps the current file, and the windows that make and restore them.
 #include "logdb/backups.h"

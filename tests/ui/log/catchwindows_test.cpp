@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The catch editor driven by key events on the real window, and the record browser's catch
 // list after adds, edits and removals, checked against the year file read in plain SQL.
 #include "logdb/catches.h"

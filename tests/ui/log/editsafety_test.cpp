@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The browser never drops a catch entry: every way out while a record is being edited asks
 // "Save changes to this day?", and Save, Discard and Cancel do what they say, as read back
 // from the file with plain SQL.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "Database Functions" offscreen on real folders: the file list, the messages, creating and
 // filling a year, deleting, compacting and repairing, and the browser it opens.
 #include "logdb/logfiles.h"

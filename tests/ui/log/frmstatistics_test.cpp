@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Catch statistics read from real year files, checked against the same counts asked of the
 // files in plain SQL; the statistics window opened from the record browser, its summary,
 // charts, table and copy, with screenshots.

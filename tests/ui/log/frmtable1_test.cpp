@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The record browser on real year files, offscreen: what each record shows, the browsing
 // and editing states, and catch entries that survive closing the file.
 #include "support/filledyear.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Importing catches from CSV into a real year file: the reader's quoting, every kind of bad
 // row reported line by line before anything is written, and skipping or overwriting records
 // that already hold an entry, checked by asking the file in plain SQL.

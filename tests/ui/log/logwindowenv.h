@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the log windows need from the program, for window tests: a scripted message
 // service, the log state, an engine at Pittsburgh, PA and a program folder of the test's own.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The browser's query builder, the grid view and the report window on a real year of
 // forecasts, offscreen.
 #include "logdb/catches.h"
