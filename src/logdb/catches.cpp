@@ -128,14 +128,20 @@ DbResult ReadPhotos(Database& db, const QString& where, const QVariantList& valu
     return DbResult::Success();
 }
 
+// Opens a year file and reads its catch schema version (0: no catch tables yet).
+DbResult OpenCatchFile(Database& db, const QString& yearFile, const QString& connect, int& version)
+{
+    const DbResult result = db.Open(yearFile, connect);
+    return result ? VersionOf(db, version) : result;
+}
+
 // The catches the condition `where` over Catches c picks, with their photos.
 DbResult ReadCatches(const QString& yearFile, const QString& connect, const QString& where,
                      const QVariantList& values, std::vector<Catch>& out)
 {
     Database db;
     int version = 0;
-    DbResult result = db.Open(yearFile, connect);
-    result = result ? VersionOf(db, version) : result;
+    DbResult result = OpenCatchFile(db, yearFile, connect, version);
     if (!result || version == 0)
         return result;
     QSqlQuery q(db.Connection());
@@ -250,8 +256,7 @@ DbResult ChangeCatches(const QString& yearFile, const QString& connect, const QD
         return DbResult::Failure(lock.Message());
     Database db;
     int version = 0;
-    DbResult result = db.Open(yearFile, connect);
-    result = result ? VersionOf(db, version) : result;
+    DbResult result = OpenCatchFile(db, yearFile, connect, version);
     if (result && version > CatchSchemaVersion)
         return DbResult::Failure(
             QStringLiteral("%1 was written by a newer Quillmere; its catches cannot be changed "
@@ -291,9 +296,8 @@ bool PhotoInUse(const QString& yearFile, const QString& connect, const QString& 
         const QString path = QDir(folder).filePath(name);
         Database db;
         int version = 0;
-        DbResult result =
-            db.Open(path, QFileInfo(path) == QFileInfo(yearFile) ? connect : QString());
-        result = result ? VersionOf(db, version) : result;
+        const DbResult result = OpenCatchFile(
+            db, path, QFileInfo(path) == QFileInfo(yearFile) ? connect : QString(), version);
         if (!result)
             return true;
         QSqlQuery q(db.Connection());
@@ -329,8 +333,7 @@ DbResult CreateCatchTables(Database& db)
 DbResult CatchSchemaOf(const QString& yearFile, int& version, const QString& connect)
 {
     Database db;
-    DbResult result = db.Open(yearFile, connect);
-    return result ? VersionOf(db, version) : result;
+    return OpenCatchFile(db, yearFile, connect, version);
 }
 
 DbResult ReadDayCatches(const QString& yearFile, const QString& date, std::vector<Catch>& out,
@@ -349,8 +352,7 @@ DbResult ReadCatchSummaries(const QString& yearFile, const std::set<QString>& da
 {
     Database db;
     int version = 0;
-    DbResult result = db.Open(yearFile, connect);
-    result = result ? VersionOf(db, version) : result;
+    DbResult result = OpenCatchFile(db, yearFile, connect, version);
     if (!result || version == 0)
         return result;
     QSqlQuery q(db.Connection());
@@ -510,8 +512,7 @@ DbResult SpeciesList(const QString& folder, QStringList& species)
         Database db;
         int version = 0;
         const QString path = QDir(folder).filePath(name);
-        DbResult result = db.Open(path);
-        result = result ? VersionOf(db, version) : result;
+        const DbResult result = OpenCatchFile(db, path, {}, version);
         if (!result)
             return DbResult::Failure(QStringLiteral("%1: %2").arg(name, result.Message));
         if (version == 0)
