@@ -214,7 +214,15 @@ bool SaveSettings(const Settings& s, SettingsStore& store)
     return store.Flush();
 }
 
-void WriteFirstStartValues(SettingsStore& store)
+namespace {
+bool WritesAmPm(const QLocale& locale)
+{
+    return locale.language() == QLocale::C ||
+           locale.timeFormat(QLocale::ShortFormat).contains(QLatin1Char('a'), Qt::CaseInsensitive);
+}
+} // namespace
+
+void WriteFirstStartValues(SettingsStore& store, const QLocale& locale)
 {
     for (int n = 1; n <= LocationCount; ++n) {
         const LocationDefaults& d = Defaults[std::size_t(n - 1)];
@@ -230,7 +238,7 @@ void WriteFirstStartValues(SettingsStore& store)
     store.Write("HemiSphere", "North");
     store.Write("MoonColor", QString::number(DefaultMoonColor));
     store.Write("DefLoc", "1");
-    store.Write("AMPM", "True");
+    store.Write("AMPM", WritesAmPm(locale) ? "True" : "False");
     store.Write("Graphic", "0");
     store.Write("MouseClick", "True");
     store.Write("ParallacticAngle", "True");

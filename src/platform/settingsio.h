@@ -5,6 +5,8 @@
 
 #include "model/settings.h"
 
+#include <QLocale>
+
 class SettingsStore;
 
 // Reads every key in the program's order; a missing key takes its default. Throws
@@ -13,8 +15,10 @@ class SettingsStore;
 void LoadSettings(Settings& s, const SettingsStore& store);
 // False when the store's file cannot be written.
 [[nodiscard]] bool SaveSettings(const Settings& s, SettingsStore& store);
-// The complete set of values a first start writes before reading them back.
-void WriteFirstStartValues(SettingsStore& store);
+// The complete set of values a first start writes before reading them back. The clock is the
+// locale's: 24-hour where it writes times so (German, Spanish), 12-hour in the C locale and
+// where the locale writes AM/PM.
+void WriteFirstStartValues(SettingsStore& store, const QLocale& locale = QLocale::system());
 
 // The stored text forms.
 std::string LongitudeText(double degrees);

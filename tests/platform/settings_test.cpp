@@ -93,6 +93,18 @@ TEST(Settings, FirstStartValuesDifferFromTheDefaultsInThreePlaces)
     EXPECT_FALSE(store.Contains("FormTop"));
 }
 
+// The first start's clock is the locale's: "14:30" in Germany and Spain, "2:30 PM" in the
+// United States, the program's 12-hour clock in the C locale.
+TEST(Settings, FirstStartClockFollowsTheLocale)
+{
+    for (const auto& [name, ampm] :
+         {std::pair{"de_DE", "False"}, {"es_ES", "False"}, {"en_US", "True"}, {"C", "True"}}) {
+        SettingsStore store = FreshStore();
+        WriteFirstStartValues(store, QLocale(QString::fromLatin1(name)));
+        EXPECT_EQ(store.Read("AMPM", ""), ampm) << name;
+    }
+}
+
 TEST(Settings, TextThatDoesNotConvertNamesTheKey)
 {
     SettingsStore store = FreshStore();
