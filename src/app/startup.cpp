@@ -15,7 +15,6 @@
 #include <QEvent>
 #include <QLoggingCategory>
 #include <QPalette>
-#include <QStyleFactory>
 #include <QWidget>
 
 #include <cstdio>
@@ -183,7 +182,7 @@ void ApplyRequestedPalette()
 {
     if (qEnvironmentVariable("QUILLMERE_PALETTE") != QStringLiteral("dark"))
         return;
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(QStringLiteral("Fusion"));
     const QColor window(53, 53, 53), base(42, 42, 42), accent(42, 130, 218);
     QPalette p;
     p.setColor(QPalette::Window, window);

@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
-#include <QStyleFactory>
 
 #include <gtest/gtest.h>
 
@@ -39,8 +38,8 @@ QPalette DarkPalette()
 int main(int argc, char** argv)
 {
     testenv::Isolate();
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication app(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setFont(QFont("DejaVu Sans", 9));
     if (qEnvironmentVariableIsSet("QUILLMERE_TEST_DARK"))
         QApplication::setPalette(DarkPalette());
