@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "astro/timebase.h"
 #include "calendar/calendar.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,7 @@ Calendar HolidaysOf(int year)
     cal.CurYear = std::int16_t(year);
     cal.YearSlots = IsLeapYear(year) ? 367 : 366;
     cal.YearDays.assign(std::size_t(cal.YearSlots) + 2, DayMarks{});
-    cal.YearStartJD = 2415018.5 + 1.0;
+    cal.YearStartJD = CivilToJd(year, 1, 1);
     SetHolidays(cal);
     return cal;
 }
@@ -45,6 +46,15 @@ TEST(Holidays, CaptionsOnTheirDaysAcrossYears)
         holidays += cal.YearDays[std::size_t(d)].Holiday;
     EXPECT_EQ(holidays, 27);
     EXPECT_TRUE(cal.YearDays[std::size_t(DayOfYearOf(2024, 7, 4))].Holiday);
+}
+
+// The calendar's daylight-saving rule changes the clocks at 2 AM local standard time of the
+// first Sunday of April and the last Sunday of October.
+TEST(Holidays, DaylightSavingChangesAtTwoInTheMorning)
+{
+    const Calendar cal = HolidaysOf(2024);
+    EXPECT_NEAR(cal.DstStartJD, CivilToJd(2024, 4, 7) + 2.0 / 24.0, 1e-6);
+    EXPECT_NEAR(cal.DstEndJD, CivilToJd(2024, 10, 27) + 2.0 / 24.0, 1e-6);
 }
 
 } // namespace
