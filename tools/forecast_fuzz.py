@@ -106,45 +106,28 @@ def case(rng):
     return args
 
 
-def run(program, args, home):
-    env = dict(os.environ, HOME=home, XDG_CONFIG_HOME=os.path.join(home, 'config'),
-               QT_QPA_PLATFORM='offscreen')
-    start = time.monotonic()
-    try:
-        p = subprocess.run([program] + args, env=env,
-                           capture_output=True, timeout=5)
-    except subprocess.TimeoutExpired:
-        return None, b'', b'', time.monotonic() - start
-    return p.returncode, p.stdout, p.stderr, time.monotonic() - start
-
-
 def main():
     ap = argparse.ArgumentParser(description=__doc__)
     ap.add_argument('program')
     ap.add_argument('--cases', type=int, default=250)
     ap.add_argument('--seed', type=int, default=19)
     a = ap.parse_args()
-    rng = random.Random(a.seed)
-    failures = 0
-    slowest = 0.0
+    rng, failures, slowest = random.Random(a.seed), 0, 0.0
     with tempfile.TemporaryDirectory() as home:
+        env = dict(os.environ, HOME=home, XDG_CONFIG_HOME=os.path.join(home, 'config'),
+                   QT_QPA_PLATFORM='offscreen')
         for n in range(a.cases):
-            args = case(rng)
-            status, out, err, seconds = run(a.program, args, home)
+            args, start = case(rng), time.monotonic()
+            p = subprocess.run([a.program] + args, env=env, capture_output=True, timeout=5)
+            seconds = time.monotonic() - start
             slowest = max(slowest, seconds)
-            problems = []
-            if status != 2:
-                problems.append(f'exit status {status}')
-            if out:
-                problems.append(f'{len(out)} bytes on stdout')
-            if err.count(b'\n') != 1 or not err.endswith(b'\n'):
-                problems.append(f'stderr is not one line: {err[:200]!r}')
-            if seconds >= 1.0:
-                problems.append(f'took {seconds:.2f} s')
+            problems = [text for bad, text in (
+                (p.returncode != 2, f'exit status {p.returncode}'), (p.stdout, f'{len(p.stdout)} bytes on stdout'),
+                (p.stderr.count(b'\n') != 1 or not p.stderr.endswith(b'\n'), f'stderr {p.stderr[:200]!r}'),
+                (seconds >= 1.0, f'took {seconds:.2f} s')) if bad]
             if problems:
                 failures += 1
-                shown = [x[:60] + (b'...' if len(x) > 60 else b'') for x in args]
-                print(f'case {n}: {shown}: ' + '; '.join(problems))
+                print(f'case {n}: {[x[:60] for x in args]}: ' + '; '.join(problems))
         written = [f for _, _, files in os.walk(home) for f in files]
     if written:
         print(f'the settings store was written: {written}')

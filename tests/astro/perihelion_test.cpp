@@ -41,16 +41,4 @@ TEST(Perihelion, EarthOf2024And2025AgreeWithPublishedTable)
     }
 }
 
-// Local clock time of the zone, daylight saving included.
-TEST(Perihelion, EarthTimesAreLocalClockTime)
-{
-    Astronomy utc, local;
-    local.Site.ZoneDays = 6.0 / 24.0;
-    local.Site.DstOffsetDays = -1.0 / 24.0;
-    utc.EarthApsides(2024);
-    local.EarthApsides(2024);
-    EXPECT_NEAR(local.EarthApsisTimes[0], utc.EarthApsisTimes[0] - 5.0 / 24.0, 1e-9);
-    EXPECT_NEAR(local.EarthApsisTimes[1], utc.EarthApsisTimes[1] - 5.0 / 24.0, 1e-9);
-}
-
 } // namespace

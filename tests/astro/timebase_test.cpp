@@ -4,22 +4,18 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <fstream>
+#include <string>
 
 TEST(TimeBase, JulianDay0SplitsAtMidnight)
 {
     Astronomy a;
-    EXPECT_DOUBLE_EQ(a.JulianDay0(2451545.0), 2451544.5);
-    EXPECT_DOUBLE_EQ(a.DayFraction, 0.5);
-    EXPECT_DOUBLE_EQ(a.JulianDay0(2451544.5), 2451544.5);
-    EXPECT_DOUBLE_EQ(a.DayFraction, 0.0);
-    EXPECT_DOUBLE_EQ(a.JulianDay0(2451544.2), 2451543.5);
-    EXPECT_NEAR(a.DayFraction, 0.7, 1e-9);
-}
-
-TEST(TimeBase, CenturiesAndMillennia)
-{
-    EXPECT_DOUBLE_EQ(CenturiesSinceJ2000(J2000 + 36525.0), 1.0);
-    EXPECT_DOUBLE_EQ(MillenniaSinceJ2000(J2000 - 365250.0), -1.0);
+    for (const auto& [jd, day, fraction] : {std::tuple{2451545.0, 2451544.5, 0.5},
+                                            {2451544.5, 2451544.5, 0.0},
+                                            {2451544.2, 2451543.5, 0.7}}) {
+        EXPECT_DOUBLE_EQ(a.JulianDay0(jd), day);
+        EXPECT_NEAR(a.DayFraction, fraction, 1e-9);
+    }
 }
 
 // Meeus example 12.a: 1987 April 10, 0h UT -> 13h10m46.3668s; 12.b: 19h21m00s UT -> 8h34m57.0896s.
@@ -31,47 +27,58 @@ TEST(TimeBase, GreenwichSiderealTimeMatchesMeeus12)
     EXPECT_NEAR(a.GreenwichSiderealHours(jd) * 3600.0, (8 * 60 + 34) * 60 + 57.0896, 0.01);
 }
 
-TEST(TimeBase, DeltaTFromTableHalfwayForOddYearsAndPolynomialAfter2000)
+// Delta T in the middle of each year against the published values (astro/data).
+TEST(TimeBase, DeltaTAgreesWithThePublishedValues)
 {
-    EXPECT_EQ(DeltaTTable.size(), 191u);
-    EXPECT_EQ(DeltaTTable.front(), 1240);
-    EXPECT_EQ(DeltaTTable[(1872 - 1620) / 2], -10);
-    EXPECT_EQ(DeltaTTable.back(), 670);
-    EXPECT_NEAR(DeltaTSeconds(CivilToJd(1990, 7, 1)), 56.9, 1e-9);
-    EXPECT_NEAR(DeltaTSeconds(CivilToJd(1991, 7, 1)), 57.45, 1e-9);
-    EXPECT_NEAR(DeltaTSeconds(CivilToJd(1620, 7, 1)), 124.0, 1e-9);
-    EXPECT_NEAR(DeltaTSeconds(CivilToJd(1901, 7, 1)), -1.35, 1e-9); // (-2.7 + 0) / 2
-    EXPECT_DOUBLE_EQ(DeltaTSeconds(J2000), 67.0);
-    const double T = CenturiesSinceJ2000(CivilToJd(2100, 1, 1));
-    EXPECT_NEAR(DeltaTSeconds(CivilToJd(2100, 1, 1)), 67 + 123.5 * T + 32.5 * T * T, 1e-9);
+    std::ifstream file(QUILLMERE_DELTA_T);
+    ASSERT_TRUE(file) << QUILLMERE_DELTA_T;
+    int rows = 0;
+    for (std::string line; std::getline(file, line);) {
+        int year = 0;
+        double seconds = 0.0, tolerance = 0.0;
+        if (std::sscanf(line.c_str(), "%d,%lf,%lf", &year, &seconds, &tolerance) != 3)
+            continue;
+        EXPECT_NEAR(DeltaTSeconds(CivilToJd(year, 7, 2)), seconds, tolerance) << year;
+        ++rows;
+    }
+    EXPECT_GE(rows, 10);
 }
 
 TEST(TimeBase, WrapIntoHandlesExactMultiplesAndNegatives)
 {
-    EXPECT_EQ(WrapInto(-24.0, 24.0), 0.0);
-    EXPECT_EQ(WrapInto(-48.0, 24.0), 0.0);
-    EXPECT_EQ(WrapInto(24.0, 24.0), 0.0);
-    EXPECT_DOUBLE_EQ(WrapInto(25.5, 24.0), 1.5);
-    EXPECT_DOUBLE_EQ(WrapInto(-0.25, 24.0), 23.75);
-    EXPECT_EQ(WrapInto(0.0, TwoPi), 0.0);
+    for (const auto& [x, wrapped] : {std::pair{-24.0, 0.0},
+                                     {-48.0, 0.0},
+                                     {24.0, 0.0},
+                                     {25.5, 1.5},
+                                     {-0.25, 23.75},
+                                     {0.0, 0.0}})
+        EXPECT_DOUBLE_EQ(WrapInto(x, 24.0), wrapped) << x;
     EXPECT_NEAR(WrapSigned(1.5 * Pi), -0.5 * Pi, 1e-12);
     EXPECT_NEAR(WrapSigned(-1.5 * Pi), 0.5 * Pi, 1e-12);
     EXPECT_NEAR(WrapSigned(Pi), Pi, 1e-12);
 }
 
+// Minutes and seconds are truncated, never rounded up to 60; 24:10 stays past midnight.
 TEST(TimeBase, FormatClockModes)
 {
-    EXPECT_EQ(FormatClock(0, 0.5, true), "12:30 AM");
-    EXPECT_EQ(FormatClock(0, 12.25, true), "12:15 PM");
-    EXPECT_EQ(FormatClock(0, 13.0, true), "01:00 PM");
-    EXPECT_EQ(FormatClock(0, 19.0 + 5.5 / 60.0, true), "07:05 PM");
-    EXPECT_EQ(FormatClock(3, 0.5, true), "00:30");
-    EXPECT_EQ(FormatClock(3, 12.25, true), "12:15");
-    EXPECT_EQ(FormatClock(3, 13.0, true), "13:00");
-    EXPECT_EQ(FormatClock(0, 6.9999, false), "06:59"); // minutes truncated, not rounded
-    EXPECT_EQ(FormatClock(1, 6.5 + 30.4 / 3600.0, false), "06:30:30");
-    EXPECT_EQ(FormatClock(1, 6.0 + 59.7 / 3600.0, false), "06:00:59"); // seconds never reach 60
-    EXPECT_EQ(FormatClock(0, 24.0 + 10 / 60.0, false), "24:10");
+    const struct {
+        int Mode;
+        double Hours;
+        bool AmPm;
+        const char* Text;
+    } cases[] = {{0, 0.5, true, "12:30 AM"},
+                 {0, 12.25, true, "12:15 PM"},
+                 {0, 19.0 + 5.5 / 60.0, true, "07:05 PM"},
+                 {3, 0.5, true, "00:30"},
+                 {3, 13.0, true, "13:00"},
+                 {0, 6.9999, false, "06:59"},
+                 {1, 6.5 + 30.4 / 3600.0, false, "06:30:30"},
+                 {1, 6.0 + 59.7 / 3600.0, false, "06:00:59"},
+                 {0, 24.0 + 10 / 60.0, false, "24:10"},
+                 {0, 16.9, true, "04:54 PM"},
+                 {0, 12.0 - 1e-12, true, "12:00 PM"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(FormatClock(c.Mode, c.Hours, c.AmPm), c.Text) << c.Hours;
 }
 
 // Every minute of the day prints as itself, however its hour was computed (16.9 h is 16:54,
@@ -84,8 +91,6 @@ TEST(TimeBase, FormatClockEveryMinuteOfTheDay)
         ASSERT_EQ(FormatClock(3, m / 60.0, true), want);
         ASSERT_EQ(FormatClock(3, (m * 60.0 + 0.999) / 3600.0, true), want);
     }
-    EXPECT_EQ(FormatClock(0, 16.9, true), "04:54 PM");
-    EXPECT_EQ(FormatClock(0, 12.0 - 1e-12, true), "12:00 PM");
 }
 
 // An event's minute, day and text: 23:59:40 is the next day's 00:00.
@@ -96,24 +101,14 @@ TEST(TimeBase, EventMinuteDayAndClock)
     EXPECT_EQ(EventDayJD(late), day + 1.0);
     EXPECT_EQ(EventClock(late, 3, false), "00:00");
     EXPECT_EQ(EventClock(day + 0.5 + 20.0 / 86400.0, 0, true), "12:00 PM");
-    EXPECT_EQ(EventClock(day + 16.9 / 24.0, 0, false), "16:54");
 }
 
-TEST(TimeBase, JdToTextBothDateOrdersAndBeforeTheSerialEpoch)
+TEST(TimeBase, DatesAsTextAndCivilDates)
 {
-    EXPECT_EQ(JdToText(2451545.0, true), "01/01/2000 12:00:00");
-    EXPECT_EQ(JdToText(2451545.0, false), "01/01/2000 12:00:00");
     EXPECT_EQ(JdToText(2451573.25, true), "01/29/2000 18:00:00");
     EXPECT_EQ(JdToText(2451573.25, false), "29/01/2000 18:00:00");
     EXPECT_EQ(JdToText(SerialEpochJD - 0.75, true), "12/29/1899 06:00:00");
-}
-
-TEST(TimeBase, CivilDatesRoundTrip)
-{
     EXPECT_DOUBLE_EQ(CivilToJd(2000, 1, 1.5), 2451545.0);
-    EXPECT_DOUBLE_EQ(CivilToJd(1899, 12, 30), SerialEpochJD);
-    const CivilDate d = JdToCivil(2460310.5); // 2024-01-01
-    EXPECT_EQ(d.Year, 2024);
-    EXPECT_EQ(d.Month, 1);
-    EXPECT_EQ(d.Day, 1);
+    const CivilDate d = JdToCivil(2460310.5);
+    EXPECT_EQ(std::tuple(d.Year, d.Month, d.Day), std::tuple(2024, 1, 1));
 }

@@ -50,26 +50,18 @@ QRgb RightOf(const QImage& image) { return image.pixel(74, 36); }
 
 } // namespace
 
-TEST(MoonPicture, TerminatorAspectTableMatchesItsShapes)
+// Waxing is lit on the right and waning on the left in the north, the other way round in the
+// south; 50 and 51 are both a half disc.
+TEST(MoonPicture, LitSideByPhaseAndHemisphere)
 {
-    EXPECT_EQ(TerminatorAspect[0], 0);
-    EXPECT_EQ(TerminatorAspect[25], 1.0);
-    EXPECT_EQ(TerminatorAspect[33], 1.91);
-    EXPECT_EQ(TerminatorAspect[50], 45);
-    EXPECT_TRUE(std::is_sorted(TerminatorAspect.begin(), TerminatorAspect.end()));
-}
-
-TEST(MoonPicture, WaxingIsLitOnTheRightAndWaningOnTheLeftInTheNorth)
-{
-    for (int percent : {10, 20, 50, 51, 80, 90}) {
-        const QImage waxing = DrawMoonDisc(Size, Look(percent, 1));
-        EXPECT_EQ(RightOf(waxing), Lit) << percent;
-        EXPECT_EQ(LeftOf(waxing), Dark) << percent;
-        const QImage waning = DrawMoonDisc(Size, Look(percent, 0));
-        EXPECT_EQ(LeftOf(waning), Lit) << percent;
-        EXPECT_EQ(RightOf(waning), Dark) << percent;
-    }
-    // 50 and 51 are both a half disc.
+    for (int percent : {10, 20, 25, 50, 51, 80, 90})
+        for (int waxing : {0, 1})
+            for (int south : {0, -1}) {
+                const QImage disc = DrawMoonDisc(Size, Look(percent, waxing, south));
+                const bool right = (waxing == 1) == (south == 0);
+                EXPECT_EQ(RightOf(disc), right ? Lit : Dark) << percent << waxing << south;
+                EXPECT_EQ(LeftOf(disc), right ? Dark : Lit) << percent << waxing << south;
+            }
     for (int percent : {50, 51}) {
         const QImage half = DrawMoonDisc(Size, Look(percent, 1));
         EXPECT_EQ(half.pixel(34, 30), Dark) << percent;
@@ -77,39 +69,21 @@ TEST(MoonPicture, WaxingIsLitOnTheRightAndWaningOnTheLeftInTheNorth)
     }
 }
 
+// The lit share of the disc follows the percentage; new is all black and full all lit inside
+// a black outline (the top at R = 38); waning 30% lights only the thin left part.
 TEST(MoonPicture, LitAreaFollowsThePercentage)
 {
-    for (int percent : {10, 30, 50, 70, 90}) {
+    for (int percent : {0, 10, 30, 50, 70, 90, 100})
         for (int waxing : {0, 1})
-            EXPECT_NEAR(LitShare(DrawMoonDisc(Size, Look(percent, waxing))), percent, 7)
+            EXPECT_NEAR(LitShare(DrawMoonDisc(Size, Look(percent, waxing))), percent,
+                        percent == 0 ? 0 : 7)
                 << percent << " waxing " << waxing;
-    }
-    // Waning 30%: shape 70 on the left arc, and only the thin left part is lit.
+    const QImage full = DrawMoonDisc(Size, Look(100, 0));
+    EXPECT_EQ(full.pixel(40, 2), Dark);
+    EXPECT_EQ(full.pixel(0, 0), Back);
     const QImage waning = DrawMoonDisc(Size, Look(30, 0));
     EXPECT_EQ(waning.pixel(8, 40), Lit);
     EXPECT_EQ(waning.pixel(40, 40), Dark);
-}
-
-TEST(MoonPicture, SouthernHemisphereSwapsTheLitSide)
-{
-    const QImage crescent = DrawMoonDisc(Size, Look(25, 1, -1));
-    EXPECT_EQ(LeftOf(crescent), Lit);
-    EXPECT_EQ(RightOf(crescent), Dark);
-    const QImage waning = DrawMoonDisc(Size, Look(25, 0, -1));
-    EXPECT_EQ(RightOf(waning), Lit);
-    EXPECT_EQ(LeftOf(waning), Dark);
-}
-
-TEST(MoonPicture, NewIsAllBlackAndFullAllLitInsideABlackOutline)
-{
-    const QImage fresh = DrawMoonDisc(Size, Look(0, 1));
-    const QImage full = DrawMoonDisc(Size, Look(100, 0));
-    EXPECT_EQ(LitShare(fresh), 0);
-    EXPECT_EQ(fresh.pixel(40, 40), Dark);
-    EXPECT_EQ(full.pixel(40, 40), Lit);
-    EXPECT_EQ(full.pixel(40, 2), Dark); // the outline at the top, R = 38
-    EXPECT_EQ(full.pixel(0, 0), Back);
-    EXPECT_GT(LitShare(full), 90);
 }
 
 // Without a box: a white full moon on any background shows by its rim, in the rim's colour,
@@ -162,39 +136,6 @@ TEST(MoonPicture, TurnedViewOnlyWhenTheMoonIsUpAndTheOptionOn)
     EXPECT_TRUE(DrawMoon(Size, Look(50, 1), turn).ToPict.isNull());
     turn = {0.3, q, false, Size};
     EXPECT_TRUE(DrawMoon(Size, Look(50, 1), turn).ToPict.isNull());
-}
-
-TEST(MoonPicture, TurnedViewRotatesByTheParallacticAngle)
-{
-    // Turned by -q with q = 90 degrees (clockwise on the screen) the lit right half of a
-    // waxing half moon goes to the bottom; the southern disc is drawn half a turn round, so it
-    // is turned by 180 degrees - q and its lit left half goes to the bottom as well.
-    const double q = std::acos(0.0);
-    const QImage north = DrawMoon(Size, Look(50, 1), MoonTurn{0.5, q, true, Size}).ToPict;
-    EXPECT_EQ(north.pixel(40, 64), Lit);
-    EXPECT_EQ(north.pixel(40, 16), Dark);
-    const QImage south = DrawMoon(Size, Look(50, 1, -1), MoonTurn{0.5, q, true, Size}).ToPict;
-    EXPECT_EQ(south.pixel(40, 64), Lit);
-    EXPECT_EQ(south.pixel(40, 16), Dark);
-    const QImage level = DrawMoon(Size, Look(50, 1), MoonTurn{0.5, 0.0, true, Size}).ToPict;
-    EXPECT_EQ(RightOf(level), Lit);
-    EXPECT_EQ(LeftOf(level), Dark);
-}
-
-TEST(MoonPicture, RotatePictureCopiesPixelByPixelAndLeavesRowAndColumnZero)
-{
-    QImage source(10, 10, QImage::Format_RGB32);
-    source.fill(qRgb(0, 0, 255));
-    source.setPixel(7, 5, qRgb(255, 0, 0));
-    QImage target(10, 10, QImage::Format_RGB32);
-    target.fill(qRgb(0, 255, 0));
-    // A quarter turn counter-clockwise on the screen: (7, 5) -> (5, 3) about (5, 5).
-    RotatePicture(source, target, std::acos(0.0), 0, 0, 10, 10, 5, 5, 5, 5);
-    EXPECT_EQ(target.pixel(5, 3), qRgb(255, 0, 0));
-    EXPECT_EQ(target.pixel(0, 0), qRgb(0, 255, 0));
-    EXPECT_EQ(target.pixel(4, 0), qRgb(0, 255, 0));
-    EXPECT_EQ(target.pixel(0, 4), qRgb(0, 255, 0));
-    EXPECT_EQ(target.pixel(6, 6), qRgb(0, 0, 255));
 }
 
 namespace {

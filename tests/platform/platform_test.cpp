@@ -11,20 +11,20 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
+// Only a short date that begins with "31" puts the day first; a date that is not numeric
+// (the C locale's) keeps the program's month first and slash.
 TEST(DateOrder, DayFirstOnlyWhenTheShortDateBeginsWith31)
 {
-    const DateOrder german = DateOrderFromShortDate("31.12.97");
-    EXPECT_FALSE(german.MonthFirstDates);
-    EXPECT_EQ(german.DateSeparator, QChar('.'));
-    const DateOrder us = DateOrderFromShortDate("12/31/1997");
-    EXPECT_TRUE(us.MonthFirstDates);
-    EXPECT_EQ(us.DateSeparator, QChar('/'));
-    const DateOrder iso = DateOrderFromShortDate("97-12-31");
-    EXPECT_TRUE(iso.MonthFirstDates);
-    EXPECT_EQ(iso.DateSeparator, QChar('-'));
-    const DateOrder cLocale = DateOrderFromShortDate("31 Dec 1997"); // not numeric
-    EXPECT_TRUE(cLocale.MonthFirstDates);
-    EXPECT_EQ(cLocale.DateSeparator, QChar('/'));
+    for (const auto& [text, monthFirst, separator] : {std::tuple{"31.12.97", false, '.'},
+                                                      {"12/31/1997", true, '/'},
+                                                      {"97-12-31", true, '-'},
+                                                      {"31 Dec 1997", true, '/'}}) {
+        const DateOrder order = DateOrderFromShortDate(text);
+        EXPECT_EQ(order.MonthFirstDates, monthFirst) << text;
+        EXPECT_EQ(order.DateSeparator, QChar(separator)) << text;
+    }
 }
 
 TEST(SettingsStore, ReadsDefaultsWritesAndDeletesEverything)

@@ -121,24 +121,6 @@ void ExpectDayAgrees(Astronomy& engine, const DayEvents& reference, const QDate&
 
 } // namespace
 
-TEST(ZoneRules, EveryDaysOffsetIsTheZonesAtLocalNoon)
-{
-    for (const Place& p : {YearPlaces[0], YearPlaces[1], YearPlaces[2], YearPlaces[3],
-                           YearPlaces[4], YearPlaces[5], NewYork}) {
-        const Astronomy engine = LocalClockEngine(p);
-        const QTimeZone zone(p.Zone);
-        for (QDate d(2025, 1, 1); d.year() == 2025; d = d.addDays(1)) {
-            const QDateTime noon(d, QTime(12, 0), zone);
-            const double J0 = JulianDayOf(QDateTime(d, QTime(0, 0), Qt::UTC));
-            const double ut = engine.Site.InstantOf(J0 + 0.5);
-            EXPECT_NEAR(ut, JulianDayOf(noon), 1e-6) << p.Zone << " " << d.toString().toStdString();
-            EXPECT_EQ(std::lround(-engine.Site.ClockDaysAt(ut) * MinutesPerDay),
-                      noon.offsetFromUtc() / 60)
-                << p.Zone << " " << d.toString().toStdString();
-        }
-    }
-}
-
 // A time the clock skips is the moment of the skip; one it shows twice is its first showing.
 TEST(ZoneRules, SkippedAndRepeatedHoursOfNewYork)
 {

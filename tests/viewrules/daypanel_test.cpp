@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 DayForecast Day()
@@ -44,28 +46,31 @@ TEST(DayPanel, PeriodsNearTheSunAreYellow)
     EXPECT_EQ(DoLabels(Day(), -0.1, true).Captions.at(32), "Moon has Set");
 }
 
+// Labels 18-19 and 21-22: the Moon's first and second event of the day, named and timed;
+// an event on another day reads "*****".
 TEST(DayPanel, MoonRiseAndSetInTheOrderTheyHappen)
 {
-    DayForecast f = Day();
-    DayPanel p = DoLabels(f, 0, true);
-    EXPECT_EQ(p.Captions.at(18), "Rise");
-    EXPECT_EQ(p.Captions.at(19), "03:15 AM");
-    EXPECT_EQ(p.Captions.at(21), "Set");
-    f.MoonEvents.RiseTime = 16.0;
-    p = DoLabels(f, 0, true);
-    EXPECT_EQ(p.Captions.at(18), "Set");
-    EXPECT_EQ(p.Captions.at(22), "04:00 PM");
-    f.MoonEvents.RiseFlag = EventFlag::OtherDay;
-    p = DoLabels(f, 0, true);
-    EXPECT_EQ(p.Captions.at(18), "Set");
-    EXPECT_EQ(p.Captions.at(19), "03:30 PM");
-    EXPECT_EQ(p.Captions.at(21), "Rise");
-    EXPECT_EQ(p.Captions.at(22), "*****");
-    f.MoonEvents.RiseFlag = EventFlag::InDay;
-    f.MoonEvents.SetFlag = EventFlag::OtherDay;
-    p = DoLabels(f, 0, true);
-    EXPECT_EQ(p.Captions.at(19), "*****");
-    EXPECT_EQ(p.Captions.at(22), "04:00 PM");
+    const struct {
+        double Rise;
+        EventFlag RiseFlag, SetFlag;
+        const char *First, *FirstTime, *Second, *SecondTime;
+    } cases[] = {
+        {3.25, EventFlag::InDay, EventFlag::InDay, "Rise", "03:15 AM", "Set", "03:30 PM"},
+        {16.0, EventFlag::InDay, EventFlag::InDay, "Set", "03:30 PM", "Rise", "04:00 PM"},
+        {16.0, EventFlag::OtherDay, EventFlag::InDay, "Set", "03:30 PM", "Rise", "*****"},
+        {16.0, EventFlag::InDay, EventFlag::OtherDay, "Set", "*****", "Rise", "04:00 PM"},
+    };
+    for (const auto& c : cases) {
+        DayForecast f = Day();
+        f.MoonEvents.RiseTime = c.Rise;
+        f.MoonEvents.RiseFlag = c.RiseFlag;
+        f.MoonEvents.SetFlag = c.SetFlag;
+        const DayPanel p = DoLabels(f, 0, true);
+        EXPECT_EQ(
+            std::tuple(p.Captions.at(18), p.Captions.at(19), p.Captions.at(21), p.Captions.at(22)),
+            std::tuple(c.First, c.FirstTime, c.Second, c.SecondTime))
+            << c.Rise << " " << int(c.RiseFlag) << " " << int(c.SetFlag);
+    }
 }
 
 TEST(DayPanel, ToolTips)
