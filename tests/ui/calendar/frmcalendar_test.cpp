@@ -33,14 +33,14 @@ protected:
     }
 };
 
-TEST_F(Window, OpensOnTodayAtNoon)
+// Today at noon on opening and after "Now"; the month buttons wrap from 2500 to 1900 and
+// back; the year bar's scrolling shows only the number until it is let go.
+TEST_F(Window, OpensOnTodayAndTheMonthAndYearControlsMoveIt)
 {
-    EXPECT_EQ(Text(11), "March");
-    EXPECT_EQ(Text(12), " 2024");
-    EXPECT_EQ(W->VsbHour->value(), 720);
+    const auto shown = [this] { return Text(11) + Text(12); };
+    EXPECT_EQ(shown(), "March 2024");
     EXPECT_EQ(Text(15), "12:00 PM");
     EXPECT_EQ(FramedCell(), 5 + 9); // 1 March 2024 is a Friday
-    EXPECT_EQ(W->SelDay, 10);
     EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 10));
     EXPECT_NEAR(App.Astro.Site.HourInstant, 0.5 + 0.25, 1e-12);
     EXPECT_EQ(W->txtpic[14]->Shown().Number, "10");
@@ -48,46 +48,30 @@ TEST_F(Window, OpensOnTodayAtNoon)
     // Chicago's clocks went forward that day ("Local Clock" is the first-start mode).
     EXPECT_EQ(W->txtpic[14]->toolTip(), " Daylight Saving's Time Starts  Moon at Perigee ");
     EXPECT_EQ(W->txtpic[5 + 30]->toolTip(), " Easter Sunday ");
-}
 
-TEST_F(Window, MonthButtonsWrapTheYearRange)
-{
     SetMonth(2500, 12);
     W->IncMonth_Click();
-    EXPECT_EQ(App.Cal.CurYear, 1900);
-    EXPECT_EQ(App.Cal.CurMonth, 1);
+    EXPECT_EQ(shown(), "January 1900");
     EXPECT_EQ(W->VsbYear->value(), 1900);
-    EXPECT_EQ(Text(11), "January");
-    EXPECT_EQ(Text(12), " 1900");
     W->DecMonth_Click();
-    EXPECT_EQ(App.Cal.CurYear, 2500);
-    EXPECT_EQ(App.Cal.CurMonth, 12);
-    EXPECT_EQ(Text(11), "December");
+    EXPECT_EQ(std::tie(App.Cal.CurYear, App.Cal.CurMonth), std::tuple(2500, 12));
     W->DecMonth_Click();
-    EXPECT_EQ(Text(11), "November");
+    EXPECT_EQ(shown(), "November 2500");
     EXPECT_EQ(FramedCell(), App.Cal.FirstWeekday); // not this month: day 1 is framed
-}
 
-TEST_F(Window, NowReturnsToTodayAtNoon)
-{
-    SetMonth(1999, 7);
-    W->VsbHour->setValue(100);
-    W->CmdNOW_Click();
-    EXPECT_EQ(Text(11), "March");
-    EXPECT_EQ(W->VsbYear->value(), 2024);
-    EXPECT_EQ(W->VsbHour->value(), 720);
-    EXPECT_EQ(FramedCell(), 14);
-}
-
-TEST_F(Window, YearBarChangesTheYearAndScrollingOnlyTheNumber)
-{
     W->VsbYear->setValue(2030);
-    EXPECT_EQ(Text(12), " 2030");
-    EXPECT_EQ(App.Cal.CurYear, 2030);
+    EXPECT_EQ(shown(), "November 2030");
     W->VsbYear->setSliderPosition(2040);
     W->VsbYear_Scroll();
     EXPECT_EQ(App.Cal.CurYear, 2040);
     EXPECT_EQ(Text(12), " 2030");
+
+    W->VsbHour->setValue(100);
+    W->CmdNOW_Click();
+    EXPECT_EQ(shown(), "March 2024");
+    EXPECT_EQ(W->VsbYear->value(), 2024);
+    EXPECT_EQ(W->VsbHour->value(), 720);
+    EXPECT_EQ(FramedCell(), 14);
 }
 
 // The hour bar moves the moment: the Moon's altitude changes, the label follows, and the
@@ -130,6 +114,9 @@ TEST_F(Window, MouseOptionsDecideWhenADayIsRecomputed)
     W->Form_MouseMove();
     EXPECT_EQ(Text(3), "");
     EXPECT_EQ(W->LastHoveredCell, -1);
+    SetMonth(2024, 12);
+    W->txtpic_MouseMove(App.Cal.FirstWeekday + 30);
+    EXPECT_EQ(Text(3), "Day  366   0 days remain");
 }
 
 TEST_F(Window, ClickSelectsAndRecomputesAtNoon)
@@ -144,16 +131,10 @@ TEST_F(Window, ClickSelectsAndRecomputesAtNoon)
     EXPECT_EQ(Text(0), App.Astro.Forecast.Major1Text);
 }
 
-TEST_F(Window, DayCounterOfTheLastDayOfALeapYear)
-{
-    SetMonth(2024, 12);
-    W->txtpic_MouseMove(App.Cal.FirstWeekday + 30);
-    EXPECT_EQ(Text(3), "Day  366   0 days remain");
-}
-
 // The hour bar follows the place's clock while today is selected, and stays put on another
-// day: 21:20 UT is 16:20 in Alexandria, LA on daylight time, whatever the computer's zone.
-TEST_F(Window, TimerKeepsTodayOnTheClock)
+// day: 21:20 UT is 16:20 in Alexandria, LA on daylight time, whatever the computer's zone;
+// 07:30 UT is 18:30 in Sydney on 10 March 2024 (daylight time) and 13:00 in Kolkata.
+TEST_F(Window, TimerKeepsTodayOnTheChosenPlacesClock)
 {
     qputenv("QUILLMERE_NOW", "2024-03-10T21:20:40Z");
     W->Timer1_Timer();
@@ -162,6 +143,19 @@ TEST_F(Window, TimerKeepsTodayOnTheClock)
     W->txtpic_Click(15);
     W->Timer1_Timer();
     EXPECT_EQ(W->VsbHour->value(), 720);
+
+    qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00Z");
+    App.Config.Locations[6] = {"Sydney, Australia", -151.21, -33.87, -10, "Australia/Sydney"};
+    App.Config.Locations[7] = {"Kolkata, India", -88.36, 22.57, -6, "Asia/Kolkata"};
+    for (const auto& [location, minutes] : {std::pair{6, 18 * 60 + 30}, {7, 13 * 60}}) {
+        W->DLoc_Click(location);
+        W->CmdNOW_Click();
+        W->Timer1_Timer();
+        EXPECT_EQ(W->VsbHour->value(), minutes) << location;
+        EXPECT_EQ(W->SelDay, 10);
+    }
+    EXPECT_NE(W->Here.LocationCaption.find("TimeZone=Asia/Kolkata"), std::string::npos);
+    EXPECT_TRUE(W->grab().save(QStringLiteral(QUILLMERE_SCREENSHOTS "/frmcalendar-kolkata.png")));
 }
 
 // A southern location swaps the quarter pictures of the grid; a northern one swaps them back.
@@ -227,11 +221,7 @@ TEST_F(Window, DayCellsKeepTheirPartsApart)
         }
     }
     EXPECT_GT(marked, 4);
-}
-
-// A cell keeps its font's measures until its font changes, and then measures again.
-TEST_F(Window, DayCellMeasuresFollowItsFont)
-{
+    // A cell measures again when its font changes.
     DayCellWidget& cell = *W->txtpic[10];
     const QRect before = cell.Place().Number;
     QFont larger = cell.font();
@@ -256,16 +246,6 @@ TEST_F(Window, LocationChangeKeepsTheChosenClockHour)
     EXPECT_EQ(App.Astro.Forecast.MoonParallacticAngle, fresh.Forecast.MoonParallacticAngle);
 }
 
-// A stored time format that is neither choice leaves the menu's checks alone.
-TEST_F(Window, UnknownTimeFormatLeavesTheMenuChecks)
-{
-    W->DST_Click(0);
-    App.Config.TimeFormats = 2;
-    W->ApplyCurrentLocation();
-    EXPECT_TRUE(W->DST[0]->isChecked());
-    EXPECT_FALSE(W->DST[1]->isChecked());
-}
-
 TEST_F(Window, DaylightSavingMovesTheTimesOneHour)
 {
     const std::string local = Text(14); // 10 March 2024: on daylight time from 2 AM
@@ -279,11 +259,13 @@ TEST_F(Window, DaylightSavingMovesTheTimesOneHour)
     EXPECT_EQ(Text(14), local);
     W->DST_Click(1);
     EXPECT_EQ(Text(14), standard);
+    // A stored time format that is neither choice leaves the menu's checks alone.
+    App.Config.TimeFormats = 2;
+    W->ApplyCurrentLocation();
+    EXPECT_TRUE(W->DST[1]->isChecked());
+    EXPECT_FALSE(W->DST[0]->isChecked());
 }
 
-} // namespace
-
-namespace {
 TEST_F(Window, LocationMenusAndStatusBarCaption)
 {
     App.Config.DefLoc = "4";
@@ -304,54 +286,6 @@ TEST_F(Window, LocationMenusAndStatusBarCaption)
     W->StatusBar1_MouseMove(2100);
     EXPECT_EQ(W->StatusBar1->toolTip(), "");
 }
-
-// Screenshots for a person to look at: this month at location 1, a southern location, and a
-// month with holidays and all four phases (March 2024).
-TEST_F(Window, SavesScreenshots)
-{
-    const QString dir = QStringLiteral(QUILLMERE_SCREENSHOTS);
-    W->resize(W->size()); // the window's own fixed size
-    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-location1.png"));
-    SetMonth(2024, 3);
-    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-march2024.png"));
-    W->Mouse_Click(1);
-    W->txtpic_Click(App.Cal.FirstWeekday + 13); // 14 March at noon: the Moon is up
-    EXPECT_EQ(Text(32), "Moon is Up");
-    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-alexandria-14march2024.png"));
-    App.Config.Locations[5] = {"Hobart, TAS", -147.33, -42.88, -10};
-    W->DLoc_Click(5);
-    EXPECT_EQ(W->StatusPanels[0]->text(), "Hobart, TAS");
-    W->Pangle_Click(1);
-    W->txtpic_Click(App.Cal.FirstWeekday + 13);
-    W->VsbHour->setValue(19 * 60); // an evening waxing crescent, turned as in the sky
-    EXPECT_TRUE(W->ToPict->isVisible());
-    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-southern.png"));
-}
-
-// With Sydney chosen the hour bar follows Sydney's clock (07:30 UT is 18:30 there on 10 March
-// 2024, daylight time); Kolkata's clock is 5:30 ahead of UT. Screenshots of both.
-TEST_F(Window, TheChosenPlacesClockAndItsScreenshots)
-{
-    qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00Z");
-    const QString dir = QStringLiteral(QUILLMERE_SCREENSHOTS);
-    App.Config.Locations[6] = {"Sydney, Australia", -151.21, -33.87, -10, "Australia/Sydney"};
-    App.Config.Locations[7] = {"Kolkata, India", -88.36, 22.57, -6, "Asia/Kolkata"};
-    W->DLoc_Click(6);
-    W->CmdNOW_Click();
-    W->Timer1_Timer();
-    EXPECT_EQ(W->VsbHour->value(), 18 * 60 + 30);
-    EXPECT_EQ(W->SelDay, 10);
-    EXPECT_NE(W->Here.LocationCaption.find("TimeZone=Australia/Sydney"), std::string::npos);
-    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-sydney.png"));
-    W->DLoc_Click(7);
-    W->CmdNOW_Click();
-    W->Timer1_Timer();
-    EXPECT_EQ(W->VsbHour->value(), 13 * 60);
-    EXPECT_TRUE(W->grab().save(dir + "/frmcalendar-kolkata.png"));
-}
-} // namespace
-
-namespace {
 
 // The keys on the real window, one after another from Sunday 10 March 2024: the framed day
 // and the month shown after each, across month and year ends; each key redraws a month at
