@@ -5,6 +5,7 @@
 #include "support/cityfolder.h"
 #include "ui/common/databar.h"
 #include "ui/common/messageservice.h"
+#include "ui/locations/datarows.h"
 #include "ui/locations/editdb.h"
 
 #include <QApplication>
@@ -147,21 +148,6 @@ TEST(EditDB, AddNeedsStateAndCityThenReachesTheFile)
 // stays as it was; a usable value is stored as typed.
 TEST(EditDB, UpdateStoresUsableValuesAsTypedAndRefusesTheOthers)
 {
-    const struct {
-        int Box;
-        const char* Keys;
-        const char* Message; // empty: stored
-    } cases[] = {
-        {3, "12.5", ""},
-        {7, "-3", ""},
-        {4, "e", ""},
-        {3, "999", "Longitude: \"999\" is not a number of degrees from 0 to 180."},
-        {4, "X", "LongChar: \"X\" is not W or E."},
-        {5, "-91", "Latitude: \"-91\" is not a number of degrees from 0 to 90."},
-        {6, "north", "LatChar: \"north\" is not N or S."},
-        {7, "40", "TimeZone: \"40\" is not a whole number of hours from -12 to 12."},
-        {7, "5.5", "TimeZone: \"5.5\" is not a whole number of hours from -12 to 12."},
-    };
     const char* columns[] = {"",        "",        "", "LongInDegrees", "LongChar", "LatInDegrees",
                              "LatChar", "Timezone"};
     Window w("edit-typed");
@@ -169,18 +155,21 @@ TEST(EditDB, UpdateStoresUsableValuesAsTypedAndRefusesTheOthers)
     const auto stored = [&](int box) {
         return w.Sql(QString("SELECT %1 FROM Table1 WHERE LongLatID = %2").arg(columns[box], id));
     };
-    for (const auto& c : cases) {
-        const QString before = stored(c.Box);
+    const auto rows = DataRows(QUILLMERE_TYPED_CITY);
+    ASSERT_EQ(rows.size(), 9u);
+    for (const QStringList& row : rows) {
+        const int box = row[0].toInt();
+        const bool refused = !row[2].isEmpty();
+        const QString before = stored(box);
         w.W->CmdB_Click(EditDB::Edit);
-        w.Type(c.Box, c.Keys);
+        w.Type(box, row[1]);
         const std::size_t shown = w.Messages.Shown().size();
         w.W->CmdB_Click(EditDB::Update);
-        const bool refused = *c.Message != '\0';
-        EXPECT_EQ(w.Messages.Shown().size(), shown + (refused ? 1 : 0)) << c.Keys;
-        EXPECT_EQ(stored(c.Box), refused ? before : c.Keys) << c.Keys;
+        EXPECT_EQ(w.Messages.Shown().size(), shown + (refused ? 1 : 0)) << row[1].toStdString();
+        EXPECT_EQ(stored(box), refused ? before : row[1]);
         if (refused) {
-            EXPECT_EQ(w.LastMessage(), c.Message);
-            EXPECT_EQ(w.W->Data1.EditMode(), DataControl::EditState::Editing) << c.Keys;
+            EXPECT_EQ(w.LastMessage(), row[2]);
+            EXPECT_EQ(w.W->Data1.EditMode(), DataControl::EditState::Editing);
             w.W->CmdB_Click(EditDB::Cancel);
         }
     }

@@ -2,9 +2,9 @@
 // The location editor on a copy of the built city database: the boxes, options and zone
 // list for a location, picking a state and a city (names with a quote too), "&Done", and
 // what happens when the city list is missing, empty or has lost a record.
-#include "model/locationrules.h"
 #include "support/cityfolder.h"
 #include "ui/common/messageservice.h"
+#include "ui/locations/datarows.h"
 #include "ui/locations/frmlocation.h"
 
 #include <QApplication>
@@ -174,38 +174,25 @@ TEST(FrmLocation, MissingOrEmptyCityListLeavesHandEditing)
 TEST(FrmLocation, TypedDegreesAndNamesAreStoredOrRefusedWithTheEditorsMessage)
 {
     const QString folder = cityfolder::Make("loc-typed");
-    const QString tooLong(MaxLocationNameLength + 1, 'x');
-    const struct {
-        int Box;
-        QString Keys;
-        Location Stored; // when the message is empty
-        QString Message;
-    } cases[] = {
-        {0, "122", {"Home", 122.25, 30.5, 6}, {}},
-        {1, "5", {"Home", 90.05, 30.5, 6}, {}},
-        {2, "45", {"Home", 90.25, 45.5, 6}, {}},
-        {4, "Lake Bistineau", {"Lake Bistineau", 90.25, 30.5, 6}, {}},
-        {4, tooLong.chopped(1), {tooLong.chopped(1).toStdString(), 90.25, 30.5, 6}, {}},
-        {0, "200", Home, "Longitude degrees: \"200\" is not a whole number from 0 to 180."},
-        {3, "abc", Home, "Latitude hundredths: \"abc\" is not a whole number from 0 to 99."},
-        {0, "180", Home, "A longitude runs to 180 degrees and a latitude to 90; 180.25 is beyond."},
-        {2, "90", Home, "A longitude runs to 180 degrees and a latitude to 90; 90.50 is beyond."},
-        {4, "", Home, "The location needs a name: type one, or pick a state and a city."},
-        {4, tooLong, Home, "A location's name holds at most 80 characters; this one has 81."},
-    };
-    for (const auto& c : cases) {
-        const std::string where = std::to_string(c.Box) + " typed " + c.Keys.left(20).toStdString();
+    const auto rows = DataRows(QUILLMERE_TYPED_LOCATION);
+    ASSERT_EQ(rows.size(), 11u);
+    for (const QStringList& row : rows) {
+        const std::string where = row.mid(0, 2).join(" typed ").left(30).toStdString();
+        const bool stored = row.size() == 5;
         Editor e(folder, Home);
         e.Activate();
-        QTest::mouseClick(e.W->Text[std::size_t(c.Box)], Qt::LeftButton);
+        QTest::mouseClick(e.W->Text[std::size_t(row[0].toInt())], Qt::LeftButton);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
-        QTest::keyClicks(QApplication::focusWidget(), c.Keys);
+        QTest::keyClicks(QApplication::focusWidget(), row[1]);
         QTest::mouseClick(e.W->CloseLocation, Qt::LeftButton);
-        EXPECT_EQ(e.Messages.Shown().empty() ? QString() : e.Messages.Shown()[0].Text, c.Message)
+        EXPECT_EQ(e.Messages.Shown().empty() ? QString() : e.Messages.Shown()[0].Text,
+                  stored ? QString() : row[2])
             << where;
-        EXPECT_EQ(e.W->isVisible(), !c.Message.isEmpty()) << where; // open to correct the entry
-        EXPECT_TRUE(Same(e.Locations[3], c.Stored)) << where;
+        EXPECT_EQ(e.W->isVisible(), !stored) << where; // open to correct the entry
+        const Location expected =
+            stored ? Location{row[2].toStdString(), row[3].toDouble(), row[4].toDouble(), 6} : Home;
+        EXPECT_TRUE(Same(e.Locations[3], expected)) << where;
     }
 }
 
