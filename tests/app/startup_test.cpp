@@ -23,6 +23,15 @@ void NeverStarted()
     SettingsStore(QStringLiteral("Install")).DeleteAll();
 }
 
+// The stored values of the keys, joined by '|'.
+QString Stored(const QStringList& keys)
+{
+    QStringList values;
+    for (const QString& key : keys)
+        values << SettingsStore().Read(key, "");
+    return values.join('|');
+}
+
 StartOutcome Start(AppState& app, bool reset = false)
 {
     app.Messages.Script({});
@@ -44,7 +53,7 @@ TEST(StartUp, FirstStartWritesInitialValuesAndMakesTheDefaultLocationCurrent)
     ASSERT_EQ(Start(app), StartOutcome::Run);
     qunsetenv("QUILLMERE_NOW");
     EXPECT_EQ(app.Config.Locations[8].Name, "Pittsburgh, PA");
-    EXPECT_EQ(SettingsStore().Read("Usr5Long", ""), "84.39");
+    EXPECT_EQ(Stored({"Usr5Long", "DefLoc"}), "84.39|1");
     EXPECT_EQ(app.Config.CurLoc, 1);
     EXPECT_DOUBLE_EQ(app.Config.SelectedJD, 2460379.5); // 2024-03-10 at 0h
     EXPECT_TRUE(app.Messages.Shown().empty());
@@ -69,9 +78,8 @@ TEST(StartUp, ResetKeepsTheOldSettingsAndABadValueIsNamed)
               "Stored settings reset to their defaults; the old ones are kept in " +
                   (path + ".bak.\n").toStdString());
     EXPECT_EQ(testenv::FileBytes(path + ".bak"), before);
-    EXPECT_EQ(reset.Config.CurLoc, 1);
-    EXPECT_EQ(reset.Config.TimeFormats, 1);
-    EXPECT_EQ(reset.Config.FormLeft, 300);
+    EXPECT_EQ(std::tie(reset.Config.CurLoc, reset.Config.TimeFormats, reset.Config.FormLeft),
+              std::tuple(1, 1, 300));
     EXPECT_EQ(reset.Config.Locations[8].Name, "Pittsburg, PA"); // not a first start
     EXPECT_DOUBLE_EQ(reset.Config.Locations[5].Longitude, 84.79);
 
@@ -92,8 +100,8 @@ TEST(StartUp, SecondCopyIsRefusedWithoutTouchingTheSettings)
     AppState app;
     EXPECT_EQ(Start(app), StartOutcome::AlreadyRunning);
     ASSERT_EQ(app.Messages.Shown().size(), 1u);
-    EXPECT_EQ(app.Messages.Shown()[0].Text, "Program Already Running!");
-    EXPECT_EQ(app.Messages.Shown()[0].Title, "Error Loading");
+    EXPECT_EQ(app.Messages.Shown()[0].Title + ": " + app.Messages.Shown()[0].Text,
+              "Error Loading: Program Already Running!");
     EXPECT_EQ(app.Messages.Shown()[0].Buttons, MsgButtons::OK);
     EXPECT_FALSE(SettingsStore().Contains("Usr1Long"));
 }
@@ -114,17 +122,13 @@ TEST(FrmCalendar, OpensAtTheStoredPlaceAndSavesOnClose)
         w.move(40, 60);
         w.mnuexit->trigger();
     }
-    SettingsStore store;
-    EXPECT_EQ(store.Read("FormLeft", ""), "600");
-    EXPECT_EQ(store.Read("FormTop", ""), "900");
-    EXPECT_EQ(store.Read("Usr2Long", ""), "80.20");
-    EXPECT_EQ(store.Read("Usr1TZ", ""), " 6");
+    EXPECT_EQ(Stored({"FormLeft", "FormTop", "Usr2Long", "Usr1TZ"}), "600|900|80.20| 6");
     { // closed maximized: the top left corner
         FrmCalendar w(app);
         w.showMaximized();
         w.close();
     }
-    EXPECT_EQ(SettingsStore().Read("FormLeft", "") + SettingsStore().Read("FormTop", ""), "00");
+    EXPECT_EQ(Stored({"FormLeft", "FormTop"}), "0|0");
 }
 
 // Settings that cannot be saved are reported with the file's name; No keeps the window open,
