@@ -103,7 +103,7 @@ TEST(ForecastArguments, EveryRangeTakesBothEndsAndNothingBeyond)
         EXPECT_EQ(Error(given).empty(), taken == "yes") << line << ": " << Error(given);
         ++rows;
     }
-    EXPECT_GT(rows, 40);
+    EXPECT_GT(rows, 55);
     EXPECT_EQ(Parse(At("92W", "31N", "-14")).AtCoordinates->TimeZone, -14);
     EXPECT_NE(Error({"days", "--from", "1899-12-31"}).find("1900..2500"), std::string::npos);
     EXPECT_NE(Error({"days", "--from", "2500-12-25", "--days", "100"}).find("2500-12-31"),
@@ -121,17 +121,9 @@ TEST(ForecastArguments, BadInputIsRefusedWithOneClearLine)
               "give either --location or --lon/--lat/--zone, not both");
     EXPECT_NE(Error({"days", "--from", "2024-01-01", "--bogus"}).find("--bogus"),
               std::string::npos);
-    for (const Args& refused :
-         {At("92.42X", "31N", "6"), At("nanW", "31N", "6"), At("92W", "nanN", "6"),
-          At("infW", "31N", "6"), Named("Camp\nEND:VCALENDAR"), Named(std::string(200, '\x80')),
-          Named("\xed\xa0\x80") /* a UTF-16 surrogate */, Named(""),
-          Args{"events", "--year", "2024", "--format", "csv"},
-          Args{"events", "--year", "2024", "--days", "3"}, Args{"month", "--year", "2024"},
-          Args{"days", "--version"}, Args{"fly"}, Args{},
-          Args{"glance", "--year", "2024", "--month", "2"}, Args{"calendar", "--pdf", "x.pdf"},
-          Args{"events", "--year", "2024", "--pdf", "x.pdf"},
-          Args{"calendar", "--year", "2024", "--month", "2", "--pdf"}})
-        EXPECT_NE(Error(refused), "") << (refused.empty() ? "" : refused.back());
+    for (const Args& refused : {Named("Camp\nEND:VCALENDAR"), Named(std::string(200, '\x80')),
+                                Named("\xed\xa0\x80") /* a UTF-16 surrogate */, Named("")})
+        EXPECT_NE(Error(refused), "") << refused.back();
     EXPECT_EQ(Error(Named("S\xc3\xa3o Jo\xc3\xa3o, \xe6\x9d\xb1\xe4\xba\xac \xf0\x9f\x8e\xa3")),
               "");
 }
