@@ -109,8 +109,8 @@ TEST(EditDB, BrowsesStatesFiltersAndFinds)
     EXPECT_TRUE(w.Messages.Shown().empty());
     w.Typed = "Coeur"; // the whole name or nothing
     w.W->CmdB_Click(EditDB::Find);
-    EXPECT_EQ(w.LastMessage(), "City NOT Found!");
-    EXPECT_EQ(w.Messages.Shown().back().Title, "City Search");
+    EXPECT_EQ(w.Messages.Shown().back().Title + ": " + w.LastMessage(),
+              "City Search: City NOT Found!");
     EXPECT_EQ(w.W->Data1.AbsolutePosition(), 0);
     w.Filter("coeur d'alene");
     ASSERT_EQ(w.W->Data1.RecordCount(), 1);
@@ -186,7 +186,7 @@ TEST(EditDB, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
     };
     for (const auto& [way, take] : ways) {
         for (const MsgResult answer : {MsgResult::Cancel, MsgResult::Discard, MsgResult::Save}) {
-            const std::string where = std::string(way) + " answered " + std::to_string(int(answer));
+            SCOPED_TRACE(std::string(way) + " answered " + std::to_string(int(answer)));
             Window w("edit-leave");
             const QString id = w.Text(0);
             const QString city = w.Text(2);
@@ -194,17 +194,15 @@ TEST(EditDB, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
             w.Type(2, "Renamed");
             w.Answer = answer;
             take(*w.W);
-            ASSERT_EQ(w.Messages.Shown().size(), 1u) << where;
-            EXPECT_EQ(w.LastMessage(), "Save changes to this city?") << where;
-            EXPECT_EQ(w.Messages.Shown()[0].Buttons, MsgButtons::SaveDiscardCancel) << where;
-            EXPECT_EQ(w.W->isVisible(), answer == MsgResult::Cancel) << where;
+            ASSERT_EQ(w.Messages.Shown().size(), 1u);
+            EXPECT_EQ(w.LastMessage(), "Save changes to this city?");
+            EXPECT_EQ(w.Messages.Shown()[0].Buttons, MsgButtons::SaveDiscardCancel);
+            EXPECT_EQ(w.W->isVisible(), answer == MsgResult::Cancel);
             // After a save the list starts again at its first city.
             EXPECT_TRUE(answer == MsgResult::Save ||
-                        w.Text(2) == (answer == MsgResult::Cancel ? "Renamed" : city))
-                << where;
+                        w.Text(2) == (answer == MsgResult::Cancel ? "Renamed" : city));
             EXPECT_EQ(w.Sql("SELECT City FROM Table1 WHERE LongLatID = " + id),
-                      answer == MsgResult::Save ? "Renamed" : city)
-                << where;
+                      answer == MsgResult::Save ? "Renamed" : city);
         }
     }
 }
@@ -218,8 +216,8 @@ TEST(EditDB, DeleteAskedAndCancelLeaveOrRemoveTheRecord)
     const QString id = w.Text(0);
     w.Answer = MsgResult::No;
     w.W->CmdB_Click(EditDB::Delete);
-    EXPECT_EQ(w.Messages.Shown().back().Text, "Delete Current Record?");
-    EXPECT_EQ(w.Messages.Shown().back().Title, "Delete Record");
+    EXPECT_EQ(w.Messages.Shown().back().Title + ": " + w.LastMessage(),
+              "Delete Record: Delete Current Record?");
     EXPECT_EQ(w.Count(), before);
     EXPECT_EQ(w.Enabled(), Browsing);
 
