@@ -152,6 +152,9 @@ TEST_F(Functions, TableListsCopiesPrintsAndReturns)
     const QStringList shown = list->Text1->toPlainText().split('\n', Qt::SkipEmptyParts);
     ASSERT_EQ(shown.size(), 29);
     EXPECT_TRUE(shown[4].startsWith("05  "));
+    // 1 February's line: the Moon's transit at 10:57 UT (PyEphem), 04:57 AM here.
+    EXPECT_TRUE(shown[0].startsWith("01  ") && shown[0].contains("04:57"))
+        << shown[0].toStdString();
 
     list->Command2->click();
     const QString clip = QGuiApplication::clipboard()->text();
