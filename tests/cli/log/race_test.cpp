@@ -29,26 +29,17 @@ constexpr int RunsEach = 6;
 constexpr int MaxStartGapMs = 250;
 constexpr int WaitMs = 120000;
 
-std::unique_ptr<QProcess> Start(const QString& program, const QStringList& args,
-                                const QString& home)
+// quillmere-log on the home folder, or with no home the crash tests' child.
+std::unique_ptr<QProcess> Start(const QStringList& args, const QString& home = {})
 {
     auto process = std::make_unique<QProcess>();
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("QUILLMERE_HOME", home);
     process->setProcessEnvironment(env);
-    process->start(program, args);
+    process->start(home.isEmpty() ? QStringLiteral(LOGCRASH_CHILD) : QStringLiteral(QUILLMERE_LOG),
+                   args);
     EXPECT_TRUE(process->waitForStarted());
     return process;
-}
-
-std::unique_ptr<QProcess> StartLog(const QString& home, const QStringList& args)
-{
-    return Start(QStringLiteral(QUILLMERE_LOG), args, home);
-}
-
-std::unique_ptr<QProcess> StartChild(const QStringList& args)
-{
-    return Start(QStringLiteral(LOGCRASH_CHILD), args, {});
 }
 
 struct Ended {
@@ -102,54 +93,51 @@ int ImportedCount(const Ended& run)
 
 } // namespace
 
+// An import with a compaction started beside it keeps every imported day.
 TEST(TwoPrograms, CompactBesideImportKeepsEveryImportedDay)
 {
     for (int run = 0; run < RunsEach; ++run) {
+        SCOPED_TRACE("run " + std::to_string(run));
         const QString path = MakeYearFileWithEntries("race-compact-import");
         const QString home = QFileInfo(path).absolutePath();
-        const QString csv = CatchCsv(home, "import", 1, 60);
-        auto import = StartLog(home, {"import", "--year", "2024", csv});
+        auto import = Start({"import", "--year", "2024", CatchCsv(home, "import", 1, 60)}, home);
         PauseUpTo(MaxStartGapMs);
-        auto compact = StartLog(home, {"compact", "--year", "2024"});
+        auto compact = Start({"compact", "--year", "2024"}, home);
         const Ended imported = Finish(*import);
-        const Ended compacted = Finish(*compact);
-        const std::string where = "run " + std::to_string(run);
-        EXPECT_EQ(compacted.Status, 0) << where;
-        ASSERT_EQ(imported.Status, 0) << where;
-        EXPECT_EQ(ImportedCount(imported), 60) << where;
+        EXPECT_EQ(Finish(*compact).Status, 0);
+        ASSERT_EQ(imported.Status, 0);
+        EXPECT_EQ(ImportedCount(imported), 60);
         const QStringList notes = NotesOf(path);
         for (int day = 1; day <= 60; ++day)
-            EXPECT_EQ(notes[day - 1], QString("import %1").arg(day)) << where << " day " << day;
+            EXPECT_EQ(notes[day - 1], QString("import %1").arg(day)) << "day " << day;
     }
 }
 
+// Two imports over the same days: each day of the overlap holds one import's entry, and the
+// counts they report say which.
 TEST(TwoPrograms, TwoImportsNeverOverwriteEachOther)
 {
     for (int run = 0; run < RunsEach; ++run) {
+        SCOPED_TRACE("run " + std::to_string(run));
         const QString path = MakeYearFileWithEntries("race-two-imports");
         const QString home = QFileInfo(path).absolutePath();
-        auto first = StartLog(home, {"import", "--year", "2024", CatchCsv(home, "A", 1, 60)});
+        auto first = Start({"import", "--year", "2024", CatchCsv(home, "A", 1, 60)}, home);
         PauseUpTo(MaxStartGapMs);
         auto second =
-            StartLog(home, {"import", "--year", "2024", CatchCsv(home, "B", 31, 90), "--skip"});
-        const Ended a = Finish(*first);
-        const Ended b = Finish(*second);
-        const std::string where = "run " + std::to_string(run);
-        EXPECT_EQ(b.Status, 0) << where;
+            Start({"import", "--year", "2024", CatchCsv(home, "B", 31, 90), "--skip"}, home);
+        const Ended a = Finish(*first), b = Finish(*second);
+        EXPECT_EQ(b.Status, 0);
         const QStringList notes = NotesOf(path);
-        // Each day of the overlap holds one import's entry, and the counts say which.
         int fromA = 0, fromB = 0;
         for (int day = 1; day <= 90; ++day) {
-            const QString note = notes[day - 1];
-            fromA += note == QString("A %1").arg(day);
-            fromB += note == QString("B %1").arg(day);
-            if (a.Status == 0 || day > 60) {
-                EXPECT_TRUE(note == QString("A %1").arg(day) || note == QString("B %1").arg(day))
-                    << where << " day " << day << ": " << note.toStdString();
-            }
+            const bool isA = notes[day - 1] == QString("A %1").arg(day);
+            const bool isB = notes[day - 1] == QString("B %1").arg(day);
+            fromA += isA;
+            fromB += isB;
+            EXPECT_TRUE(isA || isB || (a.Status != 0 && day <= 60)) << "day " << day;
         }
-        EXPECT_EQ(fromA, a.Status == 0 ? ImportedCount(a) : 0) << where;
-        EXPECT_EQ(fromB, ImportedCount(b)) << where;
+        EXPECT_EQ(fromA, a.Status == 0 ? ImportedCount(a) : 0);
+        EXPECT_EQ(fromB, ImportedCount(b));
     }
 }
 
@@ -164,12 +152,12 @@ TEST_P(SaveBeside, EverySaveReportedIsKept)
     const bool restoring = QString(GetParam()) == "restore";
     ASSERT_TRUE(BackUpIfChanged(path, QDateTime::currentDateTime()));
     const QString backup = ListBackups(path).front();
-    auto saver = StartChild({"save", path, "saved"});
+    auto saver = Start({"save", path, "saved"});
     int others = 0;
     while (saver->state() == QProcess::Running && others < 3 * RunsEach) {
         PauseUpTo(MaxStartGapMs);
-        auto other = restoring ? StartChild({"restore", path, backup})
-                               : StartLog(home, {"compact", "--year", "2024"});
+        auto other = restoring ? Start({"restore", path, backup})
+                               : Start({"compact", "--year", "2024"}, home);
         EXPECT_EQ(Finish(*other).Status, 0) << GetParam() << " " << others;
         ++others;
     }

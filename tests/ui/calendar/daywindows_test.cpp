@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/settingsio.h"
 #include "ui/calendar/daycellwidget.h"
-#include "ui/calendar/frmcalendar.h"
 #include "ui/calendar/frmyearcal.h"
 #include "ui/calendar/mainwindowtest.h"
 #include "ui/views/daygraph.h"
 #include "ui/views/frmdetail.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QLabel>
-#include <QMenuBar>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -39,19 +33,6 @@ protected:
         });
     }
 };
-
-// "&Yearly" stands between "&DataBase" and "&Options" in the menu bar.
-TEST_F(DayWindows, YearlyMenuInItsPlace)
-{
-    QStringList captions;
-    for (QAction* a : W->menuBar()->actions())
-        captions << a->text();
-    const auto yearly = captions.indexOf("&Yearly");
-    ASSERT_GE(yearly, 0) << captions.join(",").toStdString();
-    EXPECT_EQ(captions.indexOf("&DataBase"), yearly - 1);
-    EXPECT_GT(captions.indexOf("&Options"), yearly);
-    EXPECT_EQ(W->mnuyearly->objectName(), "mnuyearly");
-}
 
 // Double-clicking a day opens the details beside it (a Wednesday's to its right), never over
 // it and within the screen, filled for the day; a click on another day hides them, and while
@@ -134,36 +115,22 @@ TEST_F(DayWindows, YearCalendarReturnsOnTheChosenMonth)
 // A click marks a month in white; "Done-Exit" without a change leaves the month as it was.
 TEST_F(DayWindows, YearCalendarClickMarksAndExitWithoutChange)
 {
-    WithModal<FrmYearCal>([](FrmYearCal& y) {
-        EXPECT_EQ(y.Labmonth[3]->palette().color(QPalette::WindowText), QColor(Qt::white));
-        EXPECT_EQ(y.Labmonth[5]->palette().color(QPalette::WindowText), QColor(Qt::black));
-        EXPECT_FALSE(y.Changed);
-        y.cmdexit_Click();
-    });
-    W->mnuyearly_Click();
-    EXPECT_EQ(Text(11), "March");
-    EXPECT_EQ(Text(12), " 2024");
-
-    WithModal<FrmYearCal>([](FrmYearCal& y) {
-        y.Labmonth_Click(5);
-        EXPECT_EQ(y.Labmonth[5]->palette().color(QPalette::WindowText), QColor(Qt::white));
-        EXPECT_EQ(y.Labmonth[3]->palette().color(QPalette::WindowText), QColor(Qt::black));
-        EXPECT_TRUE(y.Changed);
-        y.cmdexit_Click();
-    });
-    W->mnuyearly_Click();
-    EXPECT_EQ(Text(11), "May");
-}
-
-// The year calendar and the details window, for a person to look at.
-TEST_F(DayWindows, SavesScreenshots)
-{
-    const QDir dir(QUILLMERE_SCREENSHOTS);
-    WithModal<FrmYearCal>(
-        [&](FrmYearCal& y) { EXPECT_TRUE(y.grab().save(dir.filePath("FrmYearCal-2024.png"))); });
-    W->mnuyearly_Click();
-    W->DisplayDetails(App.Config.SelectedJD, 14);
-    EXPECT_TRUE(W->Detail->grab().save(dir.filePath("FrmDetail-main.png")));
+    const auto colour = [](FrmYearCal& y, int month) {
+        return y.Labmonth[std::size_t(month)]->palette().color(QPalette::WindowText);
+    };
+    for (const int clicked : {0, 5}) {
+        WithModal<FrmYearCal>([&](FrmYearCal& y) {
+            if (clicked)
+                y.Labmonth_Click(clicked);
+            const int marked = clicked ? clicked : 3;
+            EXPECT_EQ(colour(y, marked), QColor(Qt::white));
+            EXPECT_EQ(colour(y, 8 - marked), QColor(Qt::black));
+            EXPECT_EQ(y.Changed, clicked != 0);
+            y.cmdexit_Click();
+        });
+        W->mnuyearly_Click();
+        EXPECT_EQ(Text(11) + Text(12), clicked ? "May 2024" : "March 2024");
+    }
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QPalette>
 #include <QRadioButton>
 #include <QSpinBox>
 
@@ -44,25 +43,4 @@ TEST(FrmReminders, KeepsEachLocationsChoicesUntilOK)
                     (ReminderOption{.SunEvents = true, .LeadMinutes = 90}));
         EXPECT_FALSE(edited.Locations[1].Reminder.Any());
     }
-}
-
-// Laid out by its content: no control is narrower than its text at the palette the desktop
-// gives, dark included.
-TEST(FrmReminders, ControlsAreAsWideAsTheirTexts)
-{
-    Settings s;
-    FrmReminders w(s);
-    QPalette dark;
-    dark.setColor(QPalette::Window, QColor(0x2d, 0x2d, 0x2d));
-    dark.setColor(QPalette::WindowText, Qt::white);
-    dark.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x1e));
-    dark.setColor(QPalette::Text, Qt::white);
-    dark.setColor(QPalette::Button, QColor(0x3c, 0x3c, 0x3c));
-    dark.setColor(QPalette::ButtonText, Qt::white);
-    w.setPalette(dark);
-    w.show();
-    for (QWidget* c : std::initializer_list<QWidget*>{w.ChkMajors, w.ChkMinors, w.ChkSun,
-                                                      w.OptEveryDay, w.OptBestDays, w.SpnLead})
-        EXPECT_GE(c->width(), c->sizeHint().width()) << c->metaObject()->className();
-    EXPECT_TRUE(w.grab().save(QStringLiteral(QUILLMERE_SCREENSHOTS "/frmreminders.png")));
 }

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "calendar/calendar.h"
 #include "pages/calendarpage.h"
-#include "platform/settingsio.h"
 #include "support/pdftext.h"
 #include "support/testenv.h"
-#include "ui/calendar/frmcalendar.h"
 #include "ui/calendar/frmprint.h"
 #include "ui/calendar/mainwindowtest.h"
 #include "ui/views/frmglance.h"
@@ -12,16 +9,12 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QScrollBar>
 
 #include <gtest/gtest.h>
-
-#include <set>
 
 namespace {
 
@@ -41,7 +34,6 @@ protected:
         qputenv("QUILLMERE_PRINT_PDF", path.toLocal8Bit());
         return path;
     }
-    static QString Screenshots() { return QStringLiteral(QUILLMERE_SCREENSHOTS); }
 };
 
 template <typename T> T* OpenWindow()
@@ -52,50 +44,48 @@ template <typename T> T* OpenWindow()
     return nullptr;
 }
 
-TEST_F(Functions, MenuHoldsPrintGlanceAndTable)
+// The menu bar in its order, and the Functions menu's items.
+TEST_F(Functions, MenuBarAndTheFunctionsMenu)
 {
-    QMenu* menu = W->menuBar()->findChild<QMenu*>(QStringLiteral("ProgFunctions"));
-    ASSERT_NE(menu, nullptr);
-    EXPECT_EQ(menu->title(), "&Functions");
-    QStringList captions;
-    for (QAction* a : menu->actions())
-        captions << a->text();
-    EXPECT_EQ(captions, QStringList({"&Print", "@&Glance", "&Table"}));
+    QStringList bar, functions;
+    for (QAction* a : W->menuBar()->actions())
+        bar << a->text();
+    EXPECT_EQ(bar.join(' ').toStdString(),
+              "&DataBase &Yearly &Functions &Options &Locations &Help E&xit");
+    for (QAction* a : W->menuBar()->findChild<QMenu*>("ProgFunctions")->actions())
+        functions << a->text();
+    EXPECT_EQ(functions.join(' ').toStdString(), "&Print @&Glance &Table");
 }
 
-// February 2024 begins on a Thursday: 29 boxes with times, in five rows; June 2024 begins on
-// a Saturday and needs six.
+// The printed calendar's boxes: February 2024 begins on a Thursday, 29 boxes with times in
+// five rows; June 2024 begins on a Saturday and needs six. 1 February 2024: the Moon's
+// transit at 10:57 UT (PyEphem) is 04:57 AM here. Days 2 and 16 carry the quarters (last
+// quarter lit on the left in the north), 9 new, 24 full; the south sees the quarters the
+// other way round.
 TEST_F(Functions, CalendarPageBoxesFollowTheMonthGrid)
 {
     const CalendarPage feb = CalendarPageOf(App.Astro, App.Cal, 0);
-    ASSERT_EQ(feb.Boxes.size(), 29u);
-    EXPECT_EQ(feb.Rows, 5);
-    EXPECT_EQ(feb.Boxes[0].Column, 4);
-    EXPECT_EQ(feb.Boxes[0].Row, 0);
-    EXPECT_EQ(feb.Boxes[28].Column, 4);
-    EXPECT_EQ(feb.Boxes[28].Row, 4);
-    for (const CalendarPageBox& b : feb.Boxes) {
-        EXPECT_NE(b.Majors.find('/'), std::string::npos) << b.Day;
-        EXPECT_NE(b.Minors.find('/'), std::string::npos) << b.Day;
-        EXPECT_EQ(b.Majors.find(" PM"), std::string::npos) << b.Majors;
-    }
-    // 1 February 2024: the Moon's transit at 10:57 UT (PyEphem) is 04:57 AM here.
-    EXPECT_EQ(feb.Boxes[0].Majors.substr(0, 8), "04:57 A/");
-    // Days 2 and 16 carry the quarters (last quarter lit on the left in the north), 9 new,
-    // 24 full; the south sees the quarters the other way round.
     const CalendarPage south = CalendarPageOf(App.Astro, App.Cal, -1);
+    ASSERT_EQ(feb.Boxes.size(), 29u);
+    for (const CalendarPageBox& b : feb.Boxes)
+        EXPECT_TRUE(b.Majors.find('/') != b.Majors.npos && b.Minors.find('/') != b.Minors.npos &&
+                    b.Majors.find(" PM") == b.Majors.npos)
+            << b.Day << ": " << b.Majors;
+    EXPECT_EQ(feb.Boxes[0].Majors.substr(0, 8), "04:57 A/");
     for (auto [day, north, southern] : {std::tuple{2, 4, 2}, {9, 1, 1}, {16, 2, 4}, {24, 3, 3}}) {
         EXPECT_EQ(feb.Boxes[std::size_t(day - 1)].PhaseSymbol, north) << day;
         EXPECT_EQ(south.Boxes[std::size_t(day - 1)].PhaseSymbol, southern) << day;
     }
-
     SetMonth(2024, 6);
     const CalendarPage june = CalendarPageOf(App.Astro, App.Cal, 0);
-    EXPECT_EQ(june.Rows, 6);
-    EXPECT_EQ(june.Boxes[0].Column, 6);
-    EXPECT_EQ(june.Boxes[29].Row, 5);
-    EXPECT_EQ(june.Boxes[29].Column, 0);
     EXPECT_EQ(june.Title, "June   2024");
+    // Rows, then the first and last day's column and row.
+    for (const auto& [page, rows, first, last] :
+         {std::tuple{&feb, 5, std::pair{4, 0}, std::pair{4, 4}}, {&june, 6, {6, 0}, {0, 5}}}) {
+        EXPECT_EQ(page->Rows, rows);
+        EXPECT_EQ(std::pair(page->Boxes.front().Column, page->Boxes.front().Row), first);
+        EXPECT_EQ(std::pair(page->Boxes.back().Column, page->Boxes.back().Row), last);
+    }
 }
 
 // "&Print" previews the shown month; the window's print button prints it at 1.2 times its
@@ -110,7 +100,6 @@ TEST_F(Functions, PrintCalendarPreviewsAndPrints)
     EXPECT_EQ(print->windowTitle(), "Print Calendar");
     EXPECT_EQ(print->Page.Boxes.size(), 29u);
     EXPECT_EQ(App.Astro.Forecast.Major1Text, major);
-    EXPECT_TRUE(print->grab().save(Screenshots() + "/frmprint-feb2024.png"));
 
     const QString pdf = PrintTo("calendar");
     print->Command2->click();
@@ -118,20 +107,9 @@ TEST_F(Functions, PrintCalendarPreviewsAndPrints)
     EXPECT_EQ(testenv::PdfPages(pdf), 1);
     const QString text = testenv::PdfText(pdf);
     EXPECT_TRUE(text.contains(QRegularExpression("February\\s+2024"))) << text.toStdString();
-    // The page names its place and explains its fish.
+    // The page names its place; tools/pdf_pages_check.py reads the rest of the page.
     EXPECT_TRUE(text.contains(QString::fromStdString(W->Here.CurLocName))) << text.toStdString();
-    for (const char* word : {"Best", "V.Good", "Good", "Fair"})
-        EXPECT_TRUE(text.contains(word)) << word;
     EXPECT_TRUE(text.contains("04:57 A/")) << text.toStdString();
-    std::set<int> numbers;
-    for (const auto& m : QRegularExpression("(?:^|\\s)(\\d{1,2})(?=\\s|$)").globalMatch(text))
-        numbers.insert(m.captured(1).toInt());
-    for (int d = 1; d <= 29; ++d)
-        EXPECT_TRUE(numbers.count(d)) << d;
-    EXPECT_FALSE(numbers.count(30));
-    for (const char* day : {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"})
-        EXPECT_TRUE(text.contains(day)) << day;
-    testenv::PdfToPng(pdf, Screenshots() + "/printed-calendar-feb2024");
     print->Command1->click();
     EXPECT_FALSE(print->isVisible());
 }
@@ -149,7 +127,6 @@ TEST_F(Functions, GlanceOpensCentredPrintsAndReturns)
     const QRect screen = glance->screen()->geometry();
     EXPECT_NEAR(glance->x() + glance->width() / 2, screen.center().x(), 2);
     EXPECT_NEAR(glance->y() + glance->height() / 2, screen.center().y(), 2);
-    EXPECT_TRUE(glance->grab().save(Screenshots() + "/frmglance-feb2024.png"));
 
     const QString pdf = PrintTo("glance");
     glance->Cmd[1]->click();
@@ -169,15 +146,15 @@ TEST_F(Functions, TableListsCopiesPrintsAndReturns)
     ASSERT_NE(list, nullptr);
     EXPECT_FALSE(W->isVisible());
     EXPECT_EQ(list->windowTitle(), "Monthly Data for Alexandria, LA");
-    EXPECT_EQ(list->Label[0]->text(), "Feb");
-    EXPECT_EQ(list->Label[1]->text(), "2024");
-    EXPECT_EQ(list->Command1->toolTip(), " Close List Screen ");
-    EXPECT_EQ(list->Command2->toolTip(), " Copy text to clipboard ");
-    EXPECT_EQ(list->Command3->toolTip(), " Print a Calendar ");
+    EXPECT_EQ(list->Label[0]->text() + list->Label[1]->text(), "Feb2024");
+    EXPECT_EQ(list->Command1->toolTip() + list->Command2->toolTip() + list->Command3->toolTip(),
+              " Close List Screen  Copy text to clipboard  Print a Calendar ");
     const QStringList shown = list->Text1->toPlainText().split('\n', Qt::SkipEmptyParts);
     ASSERT_EQ(shown.size(), 29);
     EXPECT_TRUE(shown[4].startsWith("05  "));
-    EXPECT_TRUE(list->grab().save(Screenshots() + "/frmlist-feb2024.png"));
+    // 1 February's line: the Moon's transit at 10:57 UT (PyEphem), 04:57 AM here.
+    EXPECT_TRUE(shown[0].startsWith("01  ") && shown[0].contains("04:57"))
+        << shown[0].toStdString();
 
     list->Command2->click();
     const QString clip = QGuiApplication::clipboard()->text();
@@ -189,8 +166,7 @@ TEST_F(Functions, TableListsCopiesPrintsAndReturns)
     list->Command3->click();
     const QString text = testenv::PdfText(pdf);
     EXPECT_TRUE(text.contains("Feb 2024"));
-    for (int d = 1; d <= 29; ++d)
-        EXPECT_TRUE(text.contains(QString("\n%1 ").arg(d, 2, 10, QChar('0')))) << d;
+    EXPECT_TRUE(text.contains("\n01 ") && text.contains("\n29 ")) << text.toStdString();
     list->Command1->click();
     EXPECT_TRUE(W->isVisible());
 }

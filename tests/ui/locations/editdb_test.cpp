@@ -5,6 +5,7 @@
 #include "support/cityfolder.h"
 #include "ui/common/databar.h"
 #include "ui/common/messageservice.h"
+#include "ui/locations/datarows.h"
 #include "ui/locations/editdb.h"
 
 #include <QApplication>
@@ -20,18 +21,25 @@
 namespace {
 
 struct Window {
-    explicit Window(const QString& name) : Folder(cityfolder::Make(name))
+    explicit Window(const QString& name, bool withCityList = true)
+        : Folder(cityfolder::Make(name, withCityList))
     {
         Messages.Script([this](const ShownMessage&) { return Answer; },
                         [this](const ShownInput&) { return std::optional<QString>(Typed); });
         W = std::make_unique<EditDB>(Messages, Folder);
         W->show();
     }
+    QString Sql(const QString& sql) const { return cityfolder::Column(Folder, sql).value(0); }
     int Count(const QString& where = "1") const
     {
-        return cityfolder::Column(Folder, "SELECT count(*) FROM Table1 WHERE " + where)[0].toInt();
+        return Sql("SELECT count(*) FROM Table1 WHERE " + where).toInt();
     }
     QString Text(int i) const { return W->Text[std::size_t(i)]->text(); }
+    void Type(int box, const QString& keys) const
+    {
+        W->Text[std::size_t(box)]->selectAll();
+        QTest::keyClicks(W->Text[std::size_t(box)], keys);
+    }
     std::vector<bool> Enabled() const
     {
         std::vector<bool> states;
@@ -43,6 +51,16 @@ struct Window {
     {
         return Messages.Shown().empty() ? QString() : Messages.Shown().back().Text;
     }
+    void Filter(const QString& city)
+    {
+        Typed = city;
+        W->CmdB_Click(EditDB::Filter);
+    }
+    void ShowState(const QString& state)
+    {
+        W->Combo->setCurrentIndex(W->Combo->findText(state));
+        W->Combo_Click();
+    }
 
     QString Folder;
     MessageService Messages;
@@ -51,70 +69,55 @@ struct Window {
     std::unique_ptr<EditDB> W;
 };
 
+// Close, Edit, Add, Delete, Update, Find, Filter, Load, Cancel.
 const std::vector<bool> Browsing = {true, true, true, true, false, true, true, true, false};
 
 } // namespace
 
-TEST(EditDB, StartsBrowsingEveryCityWithTheStateList)
+// Every city at first, with the state list; a state shows its cities in order; Filter
+// ignores case; Find takes the whole name as typed or says it found none.
+TEST(EditDB, BrowsesStatesFiltersAndFinds)
 {
-    Window w("edit-load");
+    Window w("edit-browse");
     EXPECT_EQ(w.W->windowTitle(), "Edit Database");
     EXPECT_EQ(w.W->Combo->itemText(0), "ALL");
-    EXPECT_EQ(w.W->Combo->count() - 1,
-              cityfolder::Column(w.Folder, "SELECT count(DISTINCT State) FROM Table1")[0].toInt());
-    EXPECT_EQ(w.W->Data1.RecordCount(), w.Count());
+    EXPECT_EQ(w.W->Combo->count() - 1, w.Sql("SELECT count(DISTINCT State) FROM Table1").toInt());
     EXPECT_EQ(w.W->Data1Bar->Caption(), QString("Record: 1 of %1 Record(s)").arg(w.Count()));
     EXPECT_EQ(w.Enabled(), Browsing);
     EXPECT_FALSE(w.W->Text[1]->isEnabled());
-    EXPECT_EQ(w.W->CmdB[EditDB::Find]->toolTip(), " Find this City ");
     w.W->Data1.MoveNext();
     EXPECT_EQ(w.W->Data1Bar->Caption(), QString("Record: 2 of %1 Record(s)").arg(w.Count()));
-}
 
-TEST(EditDB, FilterIgnoresCaseFindTakesTheNameAsTypedAndAllShowsEverything)
-{
-    Window w("edit-filter");
-    w.Typed = "austin";
-    w.W->CmdB_Click(EditDB::Filter);
-    EXPECT_EQ(w.W->Data1.RecordCount(), 2); // Austin, MN and Austin, TX
-    EXPECT_EQ(w.Text(2), "Austin");
-    EXPECT_EQ(w.Messages.Asked().back().Prompt, "Input City");
-    EXPECT_EQ(w.Enabled(), Browsing);
-
-    w.W->Combo->setCurrentIndex(0); // ALL
-    w.W->Combo_Click();
-    EXPECT_EQ(w.W->Data1.RecordCount(), w.Count());
-
-    w.Typed = "Coeur d'Alene";
-    w.W->CmdB_Click(EditDB::Find);
-    EXPECT_EQ(w.Text(1), "ID");
-    EXPECT_EQ(w.Text(2), "Coeur d'Alene");
-    EXPECT_TRUE(w.Messages.Shown().empty());
-    w.Typed = "Coeur"; // the whole name or nothing
-    w.W->CmdB_Click(EditDB::Find);
-    EXPECT_EQ(w.LastMessage(), "City NOT Found!");
-    EXPECT_EQ(w.Messages.Shown().back().Title, "City Search");
-    EXPECT_EQ(w.W->Data1.AbsolutePosition(), 0);
-
-    w.Typed = "coeur d'alene";
-    w.W->CmdB_Click(EditDB::Filter);
-    ASSERT_EQ(w.W->Data1.RecordCount(), 1);
-    EXPECT_EQ(w.Text(2), "Coeur d'Alene");
-}
-
-TEST(EditDB, StateListShowsOneStateInCityOrder)
-{
-    Window w("edit-state");
-    w.W->Combo->setCurrentIndex(w.W->Combo->findText("ID"));
-    w.W->Combo_Click();
+    w.ShowState("ID");
     const QStringList cities =
         cityfolder::Column(w.Folder, "SELECT City FROM Table1 WHERE State = 'ID' ORDER BY City");
     ASSERT_EQ(w.W->Data1.RecordCount(), cities.size());
     EXPECT_EQ(w.Text(2), cities.front());
     w.W->Data1.MoveLast();
     EXPECT_EQ(w.Text(2), cities.back());
+
+    w.Filter("austin");
+    EXPECT_EQ(w.W->Data1.RecordCount(), 2); // Austin, MN and Austin, TX
+    EXPECT_EQ(w.Text(2), "Austin");
+    EXPECT_EQ(w.Messages.Asked().back().Prompt, "Input City");
+    w.ShowState("ALL");
+    EXPECT_EQ(w.W->Data1.RecordCount(), w.Count());
+
+    w.Typed = "Coeur d'Alene";
+    w.W->CmdB_Click(EditDB::Find);
+    EXPECT_EQ(w.Text(1) + " " + w.Text(2), "ID Coeur d'Alene");
+    EXPECT_TRUE(w.Messages.Shown().empty());
+    w.Typed = "Coeur"; // the whole name or nothing
+    w.W->CmdB_Click(EditDB::Find);
+    EXPECT_EQ(w.Messages.Shown().back().Title + ": " + w.LastMessage(),
+              "City Search: City NOT Found!");
+    EXPECT_EQ(w.W->Data1.AbsolutePosition(), 0);
+    w.Filter("coeur d'alene");
+    ASSERT_EQ(w.W->Data1.RecordCount(), 1);
+    EXPECT_EQ(w.Text(2), "Coeur d'Alene");
 }
 
+// Add needs a state and a city; Enter moves to the next box; the new city reaches the file.
 TEST(EditDB, AddNeedsStateAndCityThenReachesTheFile)
 {
     Window w("edit-add");
@@ -122,69 +125,51 @@ TEST(EditDB, AddNeedsStateAndCityThenReachesTheFile)
     w.W->CmdB_Click(EditDB::Add);
     EXPECT_EQ(w.Enabled(),
               std::vector<bool>({true, false, false, false, true, false, false, true, true}));
-    EXPECT_TRUE(w.W->Text[2]->isEnabled());
-    QTest::keyClicks(w.W->Text[1], "LA");
+    w.Type(1, "LA");
+    QTest::keyClick(w.W->Text[1], Qt::Key_Return);
+    EXPECT_EQ(w.W->focusWidget(), w.W->Text[2]);
+    EXPECT_TRUE(w.W->isVisible());
     w.W->CmdB_Click(EditDB::Update);
     EXPECT_EQ(w.LastMessage(), "Missing Data!");
     EXPECT_EQ(w.W->Data1.EditMode(), DataControl::EditState::Adding);
-    QTest::keyClicks(w.W->Text[2], "Toledo Bend");
-    QTest::keyClicks(w.W->Text[3], "93.57");
-    QTest::keyClicks(w.W->Text[4], "W");
-    QTest::keyClicks(w.W->Text[5], "31.17");
-    QTest::keyClicks(w.W->Text[6], "N");
-    QTest::keyClicks(w.W->Text[7], "6");
+    int box = 2;
+    for (const char* keys : {"Toledo Bend", "93.57", "W", "31.17", "N", "6"})
+        w.Type(box++, keys);
     w.W->CmdB_Click(EditDB::Update);
     EXPECT_EQ(w.Count(), before + 1);
-    EXPECT_EQ(cityfolder::Column(w.Folder, "SELECT LongInDegrees || LongChar || Timezone FROM "
-                                           "Table1 WHERE City = 'Toledo Bend' AND State = 'LA'"),
-              QStringList({"93.57W6"}));
+    EXPECT_EQ(w.Sql("SELECT LongInDegrees || LongChar || LatInDegrees || LatChar || Timezone FROM "
+                    "Table1 WHERE City = 'Toledo Bend' AND State = 'LA'"),
+              "93.57W31.17N6");
     EXPECT_EQ(w.Enabled(), Browsing);
     EXPECT_FALSE(w.W->Text[2]->isEnabled());
 }
 
 // What the location editor could not use is refused with the box's message and the record
-// stays as it was; a usable value is stored as typed. Plain SQL reads the file.
+// stays as it was; a usable value is stored as typed.
 TEST(EditDB, UpdateStoresUsableValuesAsTypedAndRefusesTheOthers)
 {
-    const struct {
-        int Box;
-        const char* Keys;
-        const char* Message; // empty: stored
-    } cases[] = {
-        {3, "12.5", ""},
-        {7, "-3", ""},
-        {4, "e", ""},
-        {3, "999", "Longitude: \"999\" is not a number of degrees from 0 to 180."},
-        {4, "X", "LongChar: \"X\" is not W or E."},
-        {5, "-91", "Latitude: \"-91\" is not a number of degrees from 0 to 90."},
-        {6, "north", "LatChar: \"north\" is not N or S."},
-        {7, "40", "TimeZone: \"40\" is not a whole number of hours from -12 to 12."},
-        {7, "5.5", "TimeZone: \"5.5\" is not a whole number of hours from -12 to 12."},
-    };
     const char* columns[] = {"",        "",        "", "LongInDegrees", "LongChar", "LatInDegrees",
                              "LatChar", "Timezone"};
     Window w("edit-typed");
     const QString id = w.Text(0);
     const auto stored = [&](int box) {
-        return cityfolder::Column(
-                   w.Folder,
-                   QString("SELECT %1 FROM Table1 WHERE LongLatID = %2").arg(columns[box], id))
-            .at(0);
+        return w.Sql(QString("SELECT %1 FROM Table1 WHERE LongLatID = %2").arg(columns[box], id));
     };
-    for (const auto& c : cases) {
-        const QString before = stored(c.Box);
+    const auto rows = DataRows(QUILLMERE_TYPED_CITY);
+    ASSERT_EQ(rows.size(), 9u);
+    for (const QStringList& row : rows) {
+        const int box = row[0].toInt();
+        const bool refused = !row[2].isEmpty();
+        const QString before = stored(box);
         w.W->CmdB_Click(EditDB::Edit);
-        w.W->Text[std::size_t(c.Box)]->selectAll();
-        QTest::keyClicks(w.W->Text[std::size_t(c.Box)], c.Keys);
+        w.Type(box, row[1]);
         const std::size_t shown = w.Messages.Shown().size();
         w.W->CmdB_Click(EditDB::Update);
-        if (*c.Message == '\0') {
-            EXPECT_EQ(w.Messages.Shown().size(), shown) << c.Keys;
-            EXPECT_EQ(stored(c.Box), c.Keys);
-        } else {
-            EXPECT_EQ(w.LastMessage(), c.Message);
-            EXPECT_EQ(stored(c.Box), before) << c.Keys;
-            EXPECT_EQ(w.W->Data1.EditMode(), DataControl::EditState::Editing) << c.Keys;
+        EXPECT_EQ(w.Messages.Shown().size(), shown + (refused ? 1 : 0)) << row[1].toStdString();
+        EXPECT_EQ(stored(box), refused ? before : row[1]);
+        if (refused) {
+            EXPECT_EQ(w.LastMessage(), row[2]);
+            EXPECT_EQ(w.W->Data1.EditMode(), DataControl::EditState::Editing);
             w.W->CmdB_Click(EditDB::Cancel);
         }
     }
@@ -201,31 +186,28 @@ TEST(EditDB, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
     };
     for (const auto& [way, take] : ways) {
         for (const MsgResult answer : {MsgResult::Cancel, MsgResult::Discard, MsgResult::Save}) {
-            const std::string where = std::string(way) + " answered " + std::to_string(int(answer));
+            SCOPED_TRACE(std::string(way) + " answered " + std::to_string(int(answer)));
             Window w("edit-leave");
             const QString id = w.Text(0);
             const QString city = w.Text(2);
             w.W->CmdB_Click(EditDB::Edit);
-            w.W->Text[2]->selectAll();
-            QTest::keyClicks(w.W->Text[2], "Renamed");
+            w.Type(2, "Renamed");
             w.Answer = answer;
             take(*w.W);
-            ASSERT_EQ(w.Messages.Shown().size(), 1u) << where;
-            EXPECT_EQ(w.LastMessage(), "Save changes to this city?") << where;
-            EXPECT_EQ(w.Messages.Shown()[0].Buttons, MsgButtons::SaveDiscardCancel) << where;
-            EXPECT_EQ(w.W->isVisible(), answer == MsgResult::Cancel) << where;
+            ASSERT_EQ(w.Messages.Shown().size(), 1u);
+            EXPECT_EQ(w.LastMessage(), "Save changes to this city?");
+            EXPECT_EQ(w.Messages.Shown()[0].Buttons, MsgButtons::SaveDiscardCancel);
+            EXPECT_EQ(w.W->isVisible(), answer == MsgResult::Cancel);
             // After a save the list starts again at its first city.
             EXPECT_TRUE(answer == MsgResult::Save ||
-                        w.W->Text[2]->text() == (answer == MsgResult::Cancel ? "Renamed" : city))
-                << where;
-            EXPECT_EQ(
-                cityfolder::Column(w.Folder, "SELECT City FROM Table1 WHERE LongLatID = " + id),
-                QStringList{answer == MsgResult::Save ? "Renamed" : city})
-                << where;
+                        w.Text(2) == (answer == MsgResult::Cancel ? "Renamed" : city));
+            EXPECT_EQ(w.Sql("SELECT City FROM Table1 WHERE LongLatID = " + id),
+                      answer == MsgResult::Save ? "Renamed" : city);
         }
     }
 }
 
+// Delete asks; No and Cancel leave the record; Yes removes it.
 TEST(EditDB, DeleteAskedAndCancelLeaveOrRemoveTheRecord)
 {
     Window w("edit-delete");
@@ -234,15 +216,13 @@ TEST(EditDB, DeleteAskedAndCancelLeaveOrRemoveTheRecord)
     const QString id = w.Text(0);
     w.Answer = MsgResult::No;
     w.W->CmdB_Click(EditDB::Delete);
-    EXPECT_EQ(w.Messages.Shown().back().Text, "Delete Current Record?");
-    EXPECT_EQ(w.Messages.Shown().back().Title, "Delete Record");
+    EXPECT_EQ(w.Messages.Shown().back().Title + ": " + w.LastMessage(),
+              "Delete Record: Delete Current Record?");
     EXPECT_EQ(w.Count(), before);
-    EXPECT_EQ(w.Text(2), first);
     EXPECT_EQ(w.Enabled(), Browsing);
 
     w.W->CmdB_Click(EditDB::Edit);
-    w.W->Text[2]->clear();
-    QTest::keyClicks(w.W->Text[2], "Changed");
+    w.Type(2, "Changed");
     w.W->CmdB_Click(EditDB::Cancel);
     EXPECT_EQ(w.Count("City = 'Changed'"), 0);
     EXPECT_EQ(w.Text(2), first);
@@ -253,48 +233,24 @@ TEST(EditDB, DeleteAskedAndCancelLeaveOrRemoveTheRecord)
     EXPECT_EQ(w.Count("LongLatID = " + id), 0);
 }
 
+// Load capitalises the second word of the cities shown, and only of those.
 TEST(EditDB, LoadCapitalisesTheSecondWordOfTheShownCities)
 {
     Window w("edit-lower");
     ASSERT_TRUE(cityfolder::Exec(w.Folder, "UPDATE Table1 SET City = 'fort worth texas' "
                                            "WHERE City = 'Fort Worth' AND State = 'TX'"));
-    w.Typed = "fort worth texas";
-    w.W->CmdB_Click(EditDB::Filter);
+    w.Filter("fort worth texas");
     ASSERT_EQ(w.W->Data1.RecordCount(), 1);
     w.W->CmdB_Click(EditDB::Load);
-    EXPECT_EQ(cityfolder::Column(w.Folder, "SELECT City FROM Table1 WHERE State = 'TX' AND "
-                                           "City LIKE 'fort%texas'"),
-              QStringList({"fort Worth texas"}));
+    EXPECT_EQ(w.Sql("SELECT City FROM Table1 WHERE State = 'TX' AND City LIKE 'fort%texas'"),
+              "fort Worth texas");
     EXPECT_EQ(w.Count("City = 'Dallas' AND State = 'TX'"), 1); // outside the filter: untouched
-}
-
-TEST(EditDB, EnterMovesToTheNextBox)
-{
-    Window w("edit-enter");
-    w.W->CmdB_Click(EditDB::Edit);
-    w.W->Text[1]->setFocus();
-    QTest::keyClick(w.W->Text[1], Qt::Key_Return);
-    EXPECT_EQ(w.W->focusWidget(), w.W->Text[2]);
-    EXPECT_TRUE(w.W->isVisible());
-    w.W->CmdB_Click(EditDB::Cancel);
-}
-
-TEST(EditDB, MissingCityListIsSaidInOneLine)
-{
-    const QString folder = cityfolder::Make("edit-missing", false);
-    MessageService messages;
-    messages.Script([](const ShownMessage&) { return MsgResult::OK; });
-    EditDB w(messages, folder);
-    ASSERT_EQ(messages.Shown().size(), 1u);
-    EXPECT_TRUE(messages.Shown()[0].Text.contains("is missing"));
-    EXPECT_FALSE(w.CmdB[EditDB::Edit]->isEnabled());
-    EXPECT_TRUE(w.CmdB[EditDB::Close]->isEnabled());
-}
-
-TEST(EditDB, Screenshot)
-{
-    Window w("edit-shot");
-    w.W->Combo->setCurrentIndex(w.W->Combo->findText("LA"));
-    w.W->Combo_Click();
+    w.ShowState("LA");
     EXPECT_TRUE(w.W->grab().save(QStringLiteral(QUILLMERE_SCREENSHOTS "/editdb.png")));
+
+    Window missing("edit-missing", false);
+    ASSERT_EQ(missing.Messages.Shown().size(), 1u);
+    EXPECT_TRUE(missing.LastMessage().contains("is missing"));
+    EXPECT_FALSE(missing.W->CmdB[EditDB::Edit]->isEnabled());
+    EXPECT_TRUE(missing.W->CmdB[EditDB::Close]->isEnabled());
 }
