@@ -8,7 +8,10 @@
 #include "ui/common/messageservice.h"
 
 #include <QDir>
+#include <QFile>
 #include <QWidget>
+
+#include <gtest/gtest.h>
 
 #include <vector>
 
