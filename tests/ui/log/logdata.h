@@ -27,4 +27,26 @@ inline std::vector<QStringList> DataRows(const QString& name, QChar separator)
     return rows;
 }
 
+// The catches of a data file of rows "date|time|species|fish|released|length mm|weight g|water
+// °C", a measure left empty when not known.
+inline std::vector<Catch> CatchRows(const QString& name)
+{
+    std::vector<Catch> catches;
+    for (const QStringList& f : DataRows(name, '|')) {
+        Catch c{.Date = f[0],
+                .Time = f[1],
+                .Species = f[2],
+                .Count = f[3].toInt(),
+                .Released = f[4] == "1"};
+        if (!f[5].isEmpty())
+            c.LengthMm = f[5].toInt();
+        if (!f[6].isEmpty())
+            c.WeightG = f[6].toInt();
+        if (!f[7].isEmpty())
+            c.WaterTemp = f[7].toDouble();
+        catches.push_back(c);
+    }
+    return catches;
+}
+
 } // namespace logtest

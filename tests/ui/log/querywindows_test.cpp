@@ -125,27 +125,6 @@ TEST(QueryBuilderWindow, PickersAndTypedValuesFillTheClickedBox)
     w->Check1[3]->setChecked(true);
     w->cmdSelect_Click();
     EXPECT_EQ(w.ShownIds(), Plain("Month BETWEEN 12 AND 12 AND MoonAge BETWEEN 12 AND 20"));
-    EXPECT_TRUE(w.Env.Messages.Shown().empty()) << w.Env.ShownTexts().join('|').toStdString();
-}
-
-// Weekend days of the waxing moon from April to June, sorted by rating.
-TEST(QueryBuilderWindow, ConditionsAndOrderSelectWhatPlainSqlSelects)
-{
-    Browser w;
-    for (int check : {2, 3, 10})
-        w->Check1[std::size_t(check)]->setChecked(true);
-    for (const auto& [box, value] :
-         {std::pair{1, "4"}, {2, "6"}, {3, "8"}, {4, "8"}, {5, "0"}, {6, "29"}})
-        w->Text6[std::size_t(box)]->setText(value);
-    w->SortByCombo->setCurrentIndex(3);
-    w->SortByCombo_Click();
-    w->cmdSelect_Click();
-    EXPECT_EQ(w->Label9->text(), "Sorted by Fish Rating");
-    const std::vector<int> expected = PlainIds(
-        SharedYear(), "SELECT DBID FROM table1 WHERE Month BETWEEN 4 AND 6 AND DayOfWeek_ IN "
-                      "(1, 7) AND Waxing = 1 ORDER BY GraphicType, JulianDate");
-    EXPECT_EQ(w.ShownIds(), expected);
-    EXPECT_EQ(w->Data1Bar->Caption(), QString("Record: 1 of %1 Record(s)").arg(expected.size()));
     w->resize(1400, 760);
     Screenshot(w.Window, "frmTable1-query");
     EXPECT_TRUE(w.Env.Messages.Shown().empty()) << w.Env.ShownTexts().join('|').toStdString();
@@ -315,35 +294,7 @@ TEST(TableView, CatchColumnsSummariseEachDaysCatches)
 {
     const QString path = MakeYearFile("grid-catches");
     const QString old = MakeYearFile("grid-catches-old");
-    std::vector<Catch> catches = {{.Date = "2024-03-10",
-                                   .Time = "06:10:00",
-                                   .Species = "Pike",
-                                   .LengthMm = 812,
-                                   .WeightG = 4350},
-                                  {.Date = "2024-03-10",
-                                   .Time = "05:00:00",
-                                   .Species = "walleye",
-                                   .Count = 3,
-                                   .LengthMm = 400,
-                                   .Released = true},
-                                  {.Date = "2024-03-10",
-                                   .Time = "20:00:00",
-                                   .Species = "PIKE",
-                                   .Count = 2,
-                                   .WeightG = 5000,
-                                   .Released = true},
-                                  {.Date = "2024-03-11", .Species = "Perch", .Count = 5},
-                                  {.Date = "2024-03-11",
-                                   .Time = "04:00:00",
-                                   .Species = "Bream",
-                                   .LengthMm = 300,
-                                   .WeightG = 640},
-                                  {.Date = "2024-07-04",
-                                   .Time = "23:50:00",
-                                   .Species = "Ñandú",
-                                   .LengthMm = 1234,
-                                   .WeightG = 12345,
-                                   .Released = true}};
+    std::vector<Catch> catches = CatchRows("grid_catches.csv");
     ASSERT_TRUE(AddCatches(path, catches, QDateTime::currentDateTime()));
     const struct {
         QString File;
