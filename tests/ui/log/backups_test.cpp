@@ -2,18 +2,9 @@
 // Backups of the year files on real files: a copy only when the file changed, ten kept per
 // year, restoring that keeps the current file, and the windows that make and restore them.
 #include "logdb/backups.h"
-#include "support/filledyear.h"
-#include "support/logfixture.h"
-#include "support/testenv.h"
 #include "ui/log/frmbackups.h"
 #include "ui/log/frmselectdb.h"
 #include "ui/log/logwindowenv.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QListWidget>
-
-#include <gtest/gtest.h>
 
 using namespace logtest;
 

@@ -3,9 +3,6 @@
 // the statistics' catch charts and the catches' export and import, checked against the year
 // file read in plain SQL.
 #include "logdb/catchphotos.h"
-#include "support/filledyear.h"
-#include "support/logfixture.h"
-#include "support/testenv.h"
 #include "ui/log/catcheditor.h"
 #include "ui/log/catchlist.h"
 #include "ui/log/catchtabs.h"
@@ -16,25 +13,16 @@
 #include "ui/log/logwindowenv.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QBarCategoryAxis>
 #include <QBarSet>
 #include <QChartView>
 #include <QCompleter>
 #include <QElapsedTimer>
-#include <QFileInfo>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QPainter>
-#include <QPushButton>
 #include <QSpinBox>
 #include <QStackedBarSeries>
 #include <QTabWidget>
-#include <QTest>
 #include <QTreeWidget>
-
-#include <gtest/gtest.h>
 
 using namespace logtest;
 

@@ -2,18 +2,11 @@
 // The browser never drops a catch entry: every way out while a record is being edited asks
 // "Save changes to this day?", and Save, Discard and Cancel do what they say, as read back
 // from the file with plain SQL.
-#include "support/filledyear.h"
-#include "support/logfixture.h"
 #include "ui/log/frmtable1.h"
 #include "ui/log/logwindowenv.h"
 
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
-
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <memory>

@@ -3,27 +3,19 @@
 // files in plain SQL; the statistics window opened from the record browser, its summary,
 // charts, table and copy, with screenshots.
 #include "logdb/catchdays.h"
-#include "support/filledyear.h"
-#include "support/logfixture.h"
 #include "ui/log/frmstatistics.h"
 #include "ui/log/frmtable1.h"
 #include "ui/log/logwindowenv.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QChartView>
 #include <QClipboard>
 #include <QComboBox>
-#include <QFile>
-#include <QFileInfo>
-#include <QLabel>
 #include <QMenuBar>
 #include <QSqlQuery>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTimer>
-
-#include <gtest/gtest.h>
 
 using namespace logtest;
 

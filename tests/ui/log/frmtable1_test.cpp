@@ -1,25 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The record browser on real year files, offscreen: what each record shows, the browsing
 // and editing states, and catch entries that survive closing the file.
-#include "support/filledyear.h"
-#include "support/logfixture.h"
-#include "support/testenv.h"
 #include "ui/common/databar.h"
 #include "ui/log/frmtable1.h"
 #include "ui/log/logdata.h"
 #include "ui/log/logwindowenv.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTest>
 #include <QToolButton>
-
-#include <gtest/gtest.h>
 
 using namespace logtest;
 

@@ -5,17 +5,8 @@
 #include "logdb/backups.h"
 #include "logdb/csvread.h"
 #include "logdb/logimport.h"
-#include "support/filledyear.h"
-#include "support/logfixture.h"
-#include "support/testenv.h"
 #include "ui/log/frmselectdb.h"
 #include "ui/log/logwindowenv.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QListWidget>
-
-#include <gtest/gtest.h>
 
 using namespace logtest;
 

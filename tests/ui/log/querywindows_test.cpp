@@ -4,10 +4,7 @@
 #include "logdb/catches.h"
 #include "logdb/querybuilder.h"
 #include "logdb/reportlines.h"
-#include "support/filledyear.h"
-#include "support/logfixture.h"
 #include "support/pdftext.h"
-#include "support/testenv.h"
 #include "ui/common/databar.h"
 #include "ui/log/frmreport.h"
 #include "ui/log/frmtable1.h"
@@ -16,18 +13,11 @@
 #include "ui/log/logwindowenv.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QTableView>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 using namespace logtest;
 
