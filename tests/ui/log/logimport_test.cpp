@@ -6,6 +6,7 @@
 #include "logdb/csvread.h"
 #include "logdb/logimport.h"
 #include "ui/log/frmselectdb.h"
+#include "ui/log/logdata.h"
 #include "ui/log/logwindowenv.h"
 
 using namespace logtest;
@@ -18,32 +19,25 @@ QString YearToImportInto(const QString& folderName)
     return MakeYearFileWithEntries(folderName, {{11, {{"TotalTaken", 1}}}});
 }
 
-const QByteArray EveryKindOfRow =
-    "JulianDate,SunRise,TotalTaken,TakenWith,PeakTime,Notes,Bait Color\r\n"
-    "01/05/2024,06:05 AM,3,worms,7:00 AM,\"clear, calm\",red\r\n"
-    "01/06/2024,06:06 AM,,,,,\r\n"
-    "13/45/2024,,1,,,,\r\n"
-    "12/31/2023,,2,,,,\r\n"
-    "01/07/2024,,two,,,,\r\n"
-    "01/08/2024,,1,,25:00,,\r\n"
-    "01/09/2024,,4,spinner,23:00,\"said \"\"big\"\"\nall day\",\r\n"
-    "01/10/2024,,5\r\n"
-    "01/11/2024,,6,jig,5:00 PM,,\r\n"
-    "01/05/2024,,9,,,,\r\n"
-    "01/12/2024,,101,,,,\r\n"
-    "01/13/2024,,2,caf\xE9 spinner,,,\r\n";
+// A CSV file of good rows and one of every kind of bad row.
+QByteArray EveryKindOfRow()
+{
+    return testenv::FileBytes(QStringLiteral(QUILLMERE_LOG_DATA "/every_kind_of_row.csv"));
+}
 
 // The catch columns of a day, asked of the file.
 QStringList Entry(const QString& path, const QString& date)
 {
-    const auto rows = PlainRows(path, "SELECT TotalTaken, TakenWith, PeakTime, Notes FROM table1 "
-                                      "WHERE JulianDate = '" +
+    const auto rows = PlainRows(path, "SELECT TotalTaken, TakenWith, PeakTime, Notes FROM "
+                                      "table1 WHERE JulianDate = '" +
                                           date + "'");
     QStringList values;
     for (const QVariant& v : rows.at(0))
         values << (v.isNull() ? "<null>" : v.toString());
     return values;
 }
+
+const QStringList Empty = {"<null>", "<null>", "<null>", "<null>"};
 
 } // namespace
 
@@ -59,42 +53,25 @@ TEST(ReadCsv, QuotedCommasQuotesAndLineBreaksWithTheirStartingLines)
     EXPECT_EQ(records[2].Fields, (std::vector<std::string>{"last", "", ""}));
 }
 
-TEST(LogImport, ReportsEveryBadRowByLineBeforeWritingAnything)
+// Every bad row is named by its line before anything is written; Skip leaves a held entry,
+// Overwrite replaces it; a file without a date column imports nothing.
+TEST(LogImport, ReportsEveryBadRowByLineThenSkipsOrOverwritesHeldEntries)
 {
     const QString path = YearToImportInto("import-plan");
+    const QString copy = QFileInfo(path).absolutePath() + "/copy.mdb";
+    ASSERT_TRUE(QFile::copy(path, copy));
     const QByteArray before = testenv::FileBytes(path);
     ImportPlan plan;
-    ASSERT_TRUE(PlanImport(path, 2024, EveryKindOfRow, plan));
-    EXPECT_EQ(
-        IssueLines(plan),
-        QStringList({"Line 1: unknown column \"Bait Color\" is ignored",
-                     "Line 4: \"13/45/2024\" is not a date", "Line 5: 12/31/2023 is not in 2024",
-                     "Line 6: TotalTaken \"two\" is not a whole number from 0 to 100",
-                     "Line 7: PeakTime \"25:00\" is not a time of day",
-                     "Line 10: 3 fields where the header has 7",
-                     "Line 11: 01/11/2024 already holds an entry",
-                     "Line 12: 01/05/2024 comes a second time; this line is left out",
-                     "Line 13: TotalTaken \"101\" is not a whole number from 0 to 100",
-                     "Line 14: the line is not UTF-8 text and is left out; save the file as "
-                     "UTF-8"}));
+    ASSERT_TRUE(PlanImport(path, 2024, EveryKindOfRow(), plan));
+    QStringList issues;
+    for (const QStringList& row : DataRows("import_issues.txt", '\t'))
+        issues << row[0];
+    EXPECT_EQ(IssueLines(plan), issues);
     ASSERT_EQ(plan.Rows.size(), 3u);
     EXPECT_EQ(plan.Rows[1].Line, 8);
     EXPECT_EQ(plan.OccupiedRows(), 1);
     EXPECT_EQ(testenv::FileBytes(path), before);
 
-    ImportPlan none;
-    const DbResult noDate = PlanImport(path, 2024, "Date,TotalTaken\n01/05/2024,3\n", none);
-    EXPECT_FALSE(noDate);
-    EXPECT_EQ(noDate.Message, "The first line names no JulianDate column.");
-}
-
-TEST(LogImport, SkipLeavesHeldEntriesAndOverwriteReplacesThem)
-{
-    const QString path = YearToImportInto("import-apply");
-    const QString copy = QFileInfo(path).absolutePath() + "/copy.mdb";
-    ASSERT_TRUE(QFile::copy(path, copy));
-    ImportPlan plan;
-    ASSERT_TRUE(PlanImport(path, 2024, EveryKindOfRow, plan));
     ImportCount count;
     ASSERT_TRUE(ApplyImport(path, plan, ImportChoice::Skip, count));
     EXPECT_EQ(count.Written, 2);
@@ -103,20 +80,25 @@ TEST(LogImport, SkipLeavesHeldEntriesAndOverwriteReplacesThem)
               QStringList({"4", "spinner", "11:00 PM", "said \"big\"\nall day"}));
     EXPECT_EQ(Entry(path, "2024-01-11"), QStringList({"1", "<null>", "<null>", "<null>"}));
     for (const char* untouched : {"2024-01-06", "2024-01-07", "2024-01-08", "2024-01-10"})
-        EXPECT_EQ(Entry(path, untouched), QStringList({"<null>", "<null>", "<null>", "<null>"}))
-            << untouched;
-
+        EXPECT_EQ(Entry(path, untouched), Empty) << untouched;
     ASSERT_TRUE(ApplyImport(copy, plan, ImportChoice::Overwrite, count));
     EXPECT_EQ(count.Written, 3);
     EXPECT_EQ(Entry(copy, "2024-01-11"), QStringList({"6", "jig", "5:00 PM", "<null>"}));
+
+    ImportPlan none;
+    const DbResult noDate = PlanImport(path, 2024, "Date,TotalTaken\n01/05/2024,3\n", none);
+    EXPECT_FALSE(noDate);
+    EXPECT_EQ(noDate.Message, "The first line names no JulianDate column.");
 }
 
+// Database Functions wants a selected file, shows the problems and the choice, and imports
+// after a backup of the file as it was.
 TEST(LogImport, DatabaseFunctionsShowsTheProblemsThenImportsAfterABackup)
 {
     const QString path = YearToImportInto("import-window");
     LogWindowEnv env(QFileInfo(path).absolutePath());
     const QString csv = env.Folder + "/catches.csv";
-    testenv::WriteFile(csv, EveryKindOfRow);
+    testenv::WriteFile(csv, EveryKindOfRow());
     FrmSelectDB w(env.Context());
     w.ChooseImportFile = [&] { return csv; };
     w.CmdImport_Click(); // nothing selected
@@ -138,8 +120,7 @@ TEST(LogImport, DatabaseFunctionsShowsTheProblemsThenImportsAfterABackup)
     EXPECT_EQ(texts[3], "2 day(s) of 2024.mdb now hold the imported entries.");
     EXPECT_EQ(Entry(path, "2024-01-05"), QStringList({"3", "worms", "7:00 AM", "clear, calm"}));
     ASSERT_EQ(ListBackups(path).size(), 1); // the file as it was before the import
-    EXPECT_EQ(Entry(ListBackups(path)[0], "2024-01-05"),
-              QStringList({"<null>", "<null>", "<null>", "<null>"}));
+    EXPECT_EQ(Entry(ListBackups(path)[0], "2024-01-05"), Empty);
     w.show();
     Screenshot(w, "frmselectdb-import");
 }
