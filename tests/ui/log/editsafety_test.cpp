@@ -8,9 +8,6 @@
 #include <QPlainTextEdit>
 #include <QTimer>
 
-#include <functional>
-#include <memory>
-
 using namespace logtest;
 
 namespace {
@@ -20,84 +17,77 @@ QString StoredField(const QString& path, const QString& field)
     return PlainColumn(path, "select " + field + " from table1 where dbid = 1").at(0).toString();
 }
 
-struct WayOut {
-    const char* Name;
-    std::function<void(frmTable1&, QWidget& owner)> Take;
-};
+// A browser of a small year, shown, editing the first day's note with the text added.
+std::unique_ptr<frmTable1> Editing(LogWindowEnv& env, const QString& added,
+                                   QWidget* owner = nullptr)
+{
+    env.State.DBPath = MakeYearFile("edit-safety", 5);
+    auto w = std::make_unique<frmTable1>(env.Context(), owner);
+    w->show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(w.get()));
+    QTest::mouseClick(w->cmdEdit, Qt::LeftButton);
+    w->Text7->moveCursor(QTextCursor::End);
+    QTest::keyClicks(w->Text7, added);
+    return w;
+}
 
 } // namespace
 
+// Escape, the close button and the main window's closing each ask once; Cancel keeps the edit
+// open with what was typed (Update still saves it), Discard and Save close as they say.
+// Leaving while only browsing asks nothing.
 TEST(EditSafety, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
 {
-    const std::vector<WayOut> ways = {
+    {
+        LogWindowEnv env(QString{}, MakeYearFile("edit-safety-browse", 5));
+        frmTable1 w(env.Context());
+        w.show();
+        QTest::keyClick(&w, Qt::Key_Escape);
+        EXPECT_FALSE(w.isVisible());
+        EXPECT_TRUE(env.Messages.Shown().empty());
+    }
+    const std::pair<const char*, std::function<void(frmTable1&, QWidget&)>> ways[] = {
         {"Escape", [](frmTable1& w, QWidget&) { QTest::keyClick(w.Text7, Qt::Key_Escape); }},
         {"close button", [](frmTable1& w, QWidget&) { w.close(); }},
         {"main window closing", [](frmTable1&, QWidget& owner) { owner.close(); }},
     };
-    int typed = 0;
-    for (const WayOut& way : ways) {
+    for (const auto& [way, take] : ways) {
         for (const MsgResult answer : {MsgResult::Cancel, MsgResult::Discard, MsgResult::Save}) {
-            const std::string where =
-                std::string(way.Name) + " answered " + std::to_string(int(answer));
-            LogWindowEnv env(QString{}, MakeYearFile("edit-safety", 5));
+            const std::string where = std::string(way) + " answered " + std::to_string(int(answer));
+            LogWindowEnv env(QString{});
             QWidget owner;
             owner.show();
-            frmTable1 w(env.Context(), &owner);
-            w.show();
-            ASSERT_TRUE(QTest::qWaitForWindowExposed(&w));
-            QTest::mouseClick(w.cmdEdit, Qt::LeftButton);
-            const QString note = QString("pike %1").arg(++typed);
-            w.Text7->selectAll();
-            QTest::keyClicks(w.Text7, note);
-
+            const auto w = Editing(env, " pike", &owner);
             env.Answers = {answer};
-            way.Take(w, owner);
+            take(*w, owner);
             ASSERT_EQ(env.Messages.Shown().size(), 1u) << where;
-            const ShownMessage& asked = env.Messages.Shown().front();
-            EXPECT_EQ(asked.Text, "Save changes to this day?") << where;
-            EXPECT_EQ(asked.Buttons, MsgButtons::SaveDiscardCancel) << where;
-
+            EXPECT_EQ(env.Messages.Shown()[0].Text, "Save changes to this day?") << where;
+            EXPECT_EQ(env.Messages.Shown()[0].Buttons, MsgButtons::SaveDiscardCancel) << where;
             const QString stored = StoredField(env.State.DBPath, "Notes");
             if (answer == MsgResult::Cancel) {
-                // The edit stays open with what was typed, and nothing is written yet.
-                EXPECT_TRUE(w.isVisible()) << where;
-                EXPECT_TRUE(owner.isVisible()) << where;
-                EXPECT_TRUE(w.cmdUpdate->isEnabled()) << where;
-                EXPECT_EQ(w.Text7->toPlainText(), note) << where;
-                EXPECT_EQ(stored, "row-001") << where;
-                // Update still saves it.
-                QTest::mouseClick(w.cmdUpdate, Qt::LeftButton);
-                EXPECT_EQ(StoredField(env.State.DBPath, "Notes"), note) << where;
-            } else {
-                EXPECT_FALSE(way.Name == std::string("main window closing") ? owner.isVisible()
-                                                                            : w.isVisible())
+                EXPECT_TRUE(w->isVisible() && owner.isVisible() && w->cmdUpdate->isEnabled())
                     << where;
-                EXPECT_EQ(stored, answer == MsgResult::Save ? note : QString("row-001")) << where;
-                EXPECT_TRUE(w.cmdEdit->isEnabled()) << where; // back to browsing
-                EXPECT_EQ(w.Text7->toPlainText(), stored) << where;
+                EXPECT_EQ(w->Text7->toPlainText(), "row-001 pike") << where;
+                EXPECT_EQ(stored, "row-001") << where;
+                QTest::mouseClick(w->cmdUpdate, Qt::LeftButton);
+                EXPECT_EQ(StoredField(env.State.DBPath, "Notes"), "row-001 pike") << where;
+                continue;
             }
+            EXPECT_FALSE(std::string(way) == "main window closing" ? owner.isVisible()
+                                                                   : w->isVisible())
+                << where;
+            EXPECT_EQ(stored, answer == MsgResult::Save ? "row-001 pike" : "row-001") << where;
+            EXPECT_TRUE(w->cmdEdit->isEnabled()) << where; // back to browsing
+            EXPECT_EQ(w->Text7->toPlainText(), stored) << where;
         }
     }
-}
-
-TEST(EditSafety, LeavingWhileBrowsingAsksNothing)
-{
-    LogWindowEnv env(QString{}, MakeYearFile("edit-safety-browse", 5));
-    frmTable1 w(env.Context());
-    w.show();
-    QTest::keyClick(&w, Qt::Key_Escape);
-    EXPECT_FALSE(w.isVisible());
-    EXPECT_TRUE(env.Messages.Shown().empty());
 }
 
 TEST(EditSafety, TakenWithHoldsWhatItsColumnHoldsAndDaylightShowsFifteenDigits)
 {
     LogWindowEnv env(QString{}, MakeYearFile("edit-safety-length", 5));
-    {
-        Database db;
-        ASSERT_TRUE(db.Open(env.State.DBPath));
-        ASSERT_TRUE(db.UpdateRecord({"table1"}, "DBID", 1, {{"DaylightHours", 10.15910733546643}}));
-    }
+    PlainExec(env.State.DBPath,
+              "UPDATE table1 SET DaylightHours = 10.15910733546643 WHERE DBID = 1");
     frmTable1 w(env.Context());
     w.show();
     EXPECT_EQ(w.Text4->text(), "10.1591073354664");
@@ -110,41 +100,27 @@ TEST(EditSafety, TakenWithHoldsWhatItsColumnHoldsAndDaylightShowsFifteenDigits)
     EXPECT_EQ(StoredField(env.State.DBPath, "TakenWith"), QString(255, QChar('w')));
 }
 
+// The program's end asks too: Discard and Save do what they say; Cancel keeps the program
+// running with the edit open, and an end that cannot be refused asks again and, refused,
+// keeps the entry the only way left: saved.
 TEST(EditSafety, TheProgramsEndAsksAndCannotDropTheEntry)
 {
-    const auto editing = [](LogWindowEnv& env, const char* name) {
-        env.State.DBPath = MakeYearFile(name, 5);
-        auto w = std::make_unique<frmTable1>(env.Context());
-        w->show();
-        QTest::mouseClick(w->cmdEdit, Qt::LeftButton);
-        w->Text7->moveCursor(QTextCursor::End);
-        QTest::keyClicks(w->Text7, " and a perch");
-        return w;
-    };
-    for (const MsgResult answer : {MsgResult::Discard, MsgResult::Save}) {
+    for (const MsgResult answer : {MsgResult::Discard, MsgResult::Save, MsgResult::Cancel}) {
         LogWindowEnv env(QString{});
-        const auto w = editing(env, "edit-safety-quit");
-        env.Answers = {answer};
+        const auto w = Editing(env, " and a perch");
+        const bool cancel = answer == MsgResult::Cancel;
+        env.Answers = {answer, answer};
+        bool stillEditing = false;
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        if (cancel)
+            QTimer::singleShot(200, qApp, [&] {
+                stillEditing = w->isVisible() && w->cmdUpdate->isEnabled();
+                QCoreApplication::exit(0);
+            });
         QCoreApplication::exec();
-        EXPECT_EQ(env.ShownTexts(), QStringList{"Save changes to this day?"});
+        EXPECT_EQ(stillEditing, cancel);
+        EXPECT_EQ(env.ShownTexts(), QStringList(cancel ? 2 : 1, "Save changes to this day?"));
         EXPECT_EQ(StoredField(env.State.DBPath, "Notes"),
-                  answer == MsgResult::Save ? "row-001 and a perch" : "row-001");
+                  answer == MsgResult::Discard ? "row-001" : "row-001 and a perch");
     }
-    // Cancel keeps the program running with the edit open; an end that cannot be refused
-    // asks again and, refused, keeps the entry the only way left: saved.
-    LogWindowEnv env(QString{});
-    const auto w = editing(env, "edit-safety-quit-cancel");
-    env.Answers = {MsgResult::Cancel, MsgResult::Cancel};
-    bool stillEditing = false;
-    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-    QTimer::singleShot(200, qApp, [&] {
-        stillEditing = w->isVisible() && w->cmdUpdate->isEnabled();
-        QCoreApplication::exit(0);
-    });
-    QCoreApplication::exec();
-    EXPECT_TRUE(stillEditing);
-    EXPECT_EQ(env.ShownTexts(),
-              QStringList({"Save changes to this day?", "Save changes to this day?"}));
-    EXPECT_EQ(StoredField(env.State.DBPath, "Notes"), "row-001 and a perch");
 }
