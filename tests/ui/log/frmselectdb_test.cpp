@@ -1,8 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // "Database Functions" offscreen on real folders: the file list, the messages, creating and
-// filling a year, deleting, compacting and repairing, and the browser it opens.
+// filling a year, deleting, compacting and repairing, and the browser it opens; backups of
+// the year files (a copy only when the file changed, ten kept per year, restoring that keeps
+// the current file) and the Backups window; importing catches from CSV (the reader's quoting,
+// every kind of bad row reported line by line before anything is written, skipping or
+// overwriting records that already hold an entry), checked by asking the files in plain SQL.
+#include "logdb/backups.h"
+#include "logdb/csvread.h"
 #include "logdb/logfiles.h"
+#include "logdb/logimport.h"
+#include "ui/log/frmbackups.h"
 #include "ui/log/frmselectdb.h"
+#include "ui/log/logdata.h"
 #include "ui/log/logwindowenv.h"
 
 #include <QProcess>
@@ -59,6 +68,48 @@ struct Shown {
             QTest::mouseDClick(Window.DBFiles->viewport(), Qt::LeftButton, {}, at);
     }
 };
+
+const QDateTime Start(QDate(2026, 5, 1), QTime(6, 0));
+
+void SetTaken(const QString& path, int dbid, int taken)
+{
+    PlainExec(path,
+              QString("UPDATE table1 SET TotalTaken = %1 WHERE DBID = %2").arg(taken).arg(dbid));
+}
+
+// TotalTaken of a record, asked of the file in plain SQL.
+int Taken(const QString& path, int dbid)
+{
+    return PlainColumn(path, QString("SELECT TotalTaken FROM table1 WHERE DBID = %1").arg(dbid))
+        .at(0)
+        .toInt();
+}
+
+// A 2024 file without the fixture's notes, whose 11 January already holds a catch.
+QString YearToImportInto(const QString& folderName)
+{
+    return MakeYearFileWithEntries(folderName, {{11, {{"TotalTaken", 1}}}});
+}
+
+// A CSV file of good rows and one of every kind of bad row.
+QByteArray EveryKindOfRow()
+{
+    return testenv::FileBytes(QStringLiteral(QUILLMERE_LOG_DATA "/every_kind_of_row.csv"));
+}
+
+// The catch columns of a day, asked of the file.
+QStringList Entry(const QString& path, const QString& date)
+{
+    const auto rows = PlainRows(path, "SELECT TotalTaken, TakenWith, PeakTime, Notes FROM "
+                                      "table1 WHERE JulianDate = '" +
+                                          date + "'");
+    QStringList values;
+    for (const QVariant& v : rows.at(0))
+        values << (v.isNull() ? "<null>" : v.toString());
+    return values;
+}
+
+const QStringList Empty = {"<null>", "<null>", "<null>", "<null>"};
 
 } // namespace
 
@@ -276,4 +327,167 @@ TEST(FrmSelectDB, AMissingYearWithAKeptCopyIsOfferedBackOnOpening)
     EXPECT_EQ(w.DBFiles->count(), 1);
     EXPECT_EQ(CountRows(path, "table1"), DaysInYear);
     EXPECT_TRUE(QFile::exists(env.Folder + "/2024.BAK"));
+}
+
+// Twelve changes, each backed up an hour after the last, keep the last ten copies, newest
+// first; an unchanged file is not copied again, another year's copies are not counted, and
+// two changes within one second get two copies. Restoring the oldest keeps the current file
+// as the newest copy.
+TEST(Backups, CopiesOnlyAChangedFileKeepsTheLastTenAndRestoreKeepsTheCurrentFile)
+{
+    const QString path = MakeYearFile("backups-rotate", 20);
+    const QString other = QFileInfo(path).absolutePath() + "/2023.mdb";
+    ASSERT_TRUE(QFile::copy(path, other));
+    ASSERT_TRUE(BackUpIfChanged(other, Start));
+    for (int i = 1; i <= 12; ++i) {
+        SetTaken(path, 1, i);
+        ASSERT_TRUE(BackUpIfChanged(path, Start.addSecs(3600 * i)));
+    }
+    ASSERT_TRUE(BackUpIfChanged(path, Start.addDays(1))); // unchanged since the last copy
+    QStringList kept = ListBackups(path);
+    ASSERT_EQ(kept.size(), 10);
+    for (int i = 0; i < 10; ++i) { // the copies of changes 12 down to 3
+        EXPECT_EQ(BackupTime(kept[i]), Start.addSecs(3600 * (12 - i)));
+        EXPECT_EQ(Taken(kept[i], 1), 12 - i);
+    }
+    EXPECT_EQ(kept[0], QFileInfo(path).absolutePath() + "/backups/2024_2026-05-01_18-00-00.mdb");
+    EXPECT_EQ(testenv::FileBytes(kept[0]), testenv::FileBytes(path));
+    EXPECT_EQ(ListBackups(other).size(), 1);
+
+    SetTaken(path, 1, 99); // the file now differs from every copy
+    ASSERT_TRUE(RestoreBackup(path, kept.back(), Start.addDays(1)));
+    EXPECT_EQ(Taken(path, 1), 3);
+    kept = ListBackups(path);
+    ASSERT_EQ(kept.size(), 10);
+    EXPECT_EQ(Taken(kept[0], 1), 99); // the file as it was before the restore
+    EXPECT_EQ(Taken(kept[1], 1), 12);
+    EXPECT_FALSE(RestoreBackup(path, path + ".gone", Start.addDays(2)));
+    EXPECT_EQ(Taken(path, 1), 3);
+
+    for (int taken : {40, 41}) {
+        SetTaken(path, 1, taken);
+        ASSERT_TRUE(BackUpIfChanged(path, Start.addDays(2)));
+    }
+    EXPECT_EQ(Taken(ListBackups(path)[0], 1), 41);
+    EXPECT_EQ(Taken(ListBackups(path)[1], 1), 40);
+}
+
+// Opening a changed year file from Database Functions backs it up; the Backups window wants a
+// selection, asks, and restores the chosen copy, keeping the file it replaces.
+TEST(Backups, OpeningAYearFileBacksItUpAndTheBackupsWindowRestores)
+{
+    LogWindowEnv env(QFileInfo(MakeYearFile("backups-window", 20)).absolutePath());
+    const QString path = env.Folder + "/2024.mdb";
+    for (int change = 1; change <= 2; ++change) {
+        SetTaken(path, 2, change);
+        FrmSelectDB select(env.Context());
+        select.ShowBrowser = [](const QString&) {};
+        select.DBFiles->setCurrentRow(0);
+        select.OpenDBFile_Click();
+    }
+    ASSERT_EQ(ListBackups(path).size(), 2);
+    EXPECT_EQ(testenv::FileBytes(ListBackups(path)[0]), testenv::FileBytes(path));
+
+    SetTaken(path, 2, 77);
+    FrmBackups w(env.Context(), path);
+    ASSERT_EQ(w.BackupList->count(), 2);
+    w.CmdRestore_Click(); // nothing selected
+    w.BackupList->setCurrentRow(1);
+    for (const MsgResult answer : {MsgResult::No, MsgResult::Yes}) {
+        env.Answers = {answer};
+        w.CmdRestore_Click();
+        EXPECT_EQ(Taken(path, 2), answer == MsgResult::No ? 77 : 1);
+    }
+    EXPECT_EQ(w.BackupList->count(), 3);
+    const QStringList texts = env.ShownTexts();
+    ASSERT_EQ(texts.size(), 4) << texts.join("|").toStdString();
+    EXPECT_EQ(texts[0], "No Backup Selected! ");
+    EXPECT_TRUE(texts[1].startsWith("Restore 2024.mdb as it was on ")) << texts[1].toStdString();
+    EXPECT_TRUE(texts[3].startsWith("2024.mdb now holds the copy of ")) << texts[3].toStdString();
+    w.show();
+    Screenshot(w, "frmbackups");
+}
+
+TEST(ReadCsv, QuotedCommasQuotesAndLineBreaksWithTheirStartingLines)
+{
+    const auto records = ReadCsv("\xEF\xBB\xBF"
+                                 "a,b,c\r\n\"x, y\",\"say \"\"hi\"\"\",\"two\nlines\"\n\nlast,,\n");
+    ASSERT_EQ(records.size(), 3u);
+    EXPECT_EQ(records[0].Fields, (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_EQ(records[1].Line, 2);
+    EXPECT_EQ(records[1].Fields, (std::vector<std::string>{"x, y", "say \"hi\"", "two\nlines"}));
+    EXPECT_EQ(records[2].Line, 5);
+    EXPECT_EQ(records[2].Fields, (std::vector<std::string>{"last", "", ""}));
+}
+
+// Every bad row is named by its line before anything is written; Skip leaves a held entry,
+// Overwrite replaces it; a file without a date column imports nothing.
+TEST(LogImport, ReportsEveryBadRowByLineThenSkipsOrOverwritesHeldEntries)
+{
+    const QString path = YearToImportInto("import-plan");
+    const QString copy = QFileInfo(path).absolutePath() + "/copy.mdb";
+    ASSERT_TRUE(QFile::copy(path, copy));
+    const QByteArray before = testenv::FileBytes(path);
+    ImportPlan plan;
+    ASSERT_TRUE(PlanImport(path, 2024, EveryKindOfRow(), plan));
+    QStringList issues;
+    for (const QStringList& row : DataRows("import_issues.txt", '\t'))
+        issues << row[0];
+    EXPECT_EQ(IssueLines(plan), issues);
+    ASSERT_EQ(plan.Rows.size(), 3u);
+    EXPECT_EQ(plan.Rows[1].Line, 8);
+    EXPECT_EQ(plan.OccupiedRows(), 1);
+    EXPECT_EQ(testenv::FileBytes(path), before);
+
+    ImportCount count;
+    ASSERT_TRUE(ApplyImport(path, plan, ImportChoice::Skip, count));
+    EXPECT_EQ(count.Written, 2);
+    EXPECT_EQ(Entry(path, "2024-01-05"), QStringList({"3", "worms", "7:00 AM", "clear, calm"}));
+    EXPECT_EQ(Entry(path, "2024-01-09"),
+              QStringList({"4", "spinner", "11:00 PM", "said \"big\"\nall day"}));
+    EXPECT_EQ(Entry(path, "2024-01-11"), QStringList({"1", "<null>", "<null>", "<null>"}));
+    for (const char* untouched : {"2024-01-06", "2024-01-07", "2024-01-08", "2024-01-10"})
+        EXPECT_EQ(Entry(path, untouched), Empty) << untouched;
+    ASSERT_TRUE(ApplyImport(copy, plan, ImportChoice::Overwrite, count));
+    EXPECT_EQ(count.Written, 3);
+    EXPECT_EQ(Entry(copy, "2024-01-11"), QStringList({"6", "jig", "5:00 PM", "<null>"}));
+
+    ImportPlan none;
+    const DbResult noDate = PlanImport(path, 2024, "Date,TotalTaken\n01/05/2024,3\n", none);
+    EXPECT_FALSE(noDate);
+    EXPECT_EQ(noDate.Message, "The first line names no JulianDate column.");
+}
+
+// Database Functions wants a selected file, shows the problems and the choice, and imports
+// after a backup of the file as it was.
+TEST(LogImport, DatabaseFunctionsShowsTheProblemsThenImportsAfterABackup)
+{
+    const QString path = YearToImportInto("import-window");
+    LogWindowEnv env(QFileInfo(path).absolutePath());
+    const QString csv = env.Folder + "/catches.csv";
+    testenv::WriteFile(csv, EveryKindOfRow());
+    FrmSelectDB w(env.Context());
+    w.ChooseImportFile = [&] { return csv; };
+    w.CmdImport_Click(); // nothing selected
+    w.DBFiles->setCurrentRow(0);
+    env.Answers = {MsgResult::Cancel};
+    w.CmdImport_Click();
+    EXPECT_TRUE(ListBackups(path).isEmpty());
+    env.Answers = {MsgResult::No};
+    w.CmdImport_Click();
+    const QStringList texts = env.ShownTexts();
+    ASSERT_EQ(texts.size(), 4) << texts.join("|").toStdString();
+    EXPECT_EQ(texts[0], "No File Selected! ");
+    EXPECT_TRUE(texts[1].startsWith("3 day(s) can be imported into 2024.mdb.\n\nLine 1: unknown "
+                                    "column \"Bait Color\" is ignored\nLine 4: "))
+        << texts[1].toStdString();
+    EXPECT_TRUE(texts[1].endsWith("1 of these days already hold an entry. Yes overwrites those "
+                                  "entries, No keeps them and imports the rest, Cancel imports "
+                                  "nothing."));
+    EXPECT_EQ(texts[3], "2 day(s) of 2024.mdb now hold the imported entries.");
+    EXPECT_EQ(Entry(path, "2024-01-05"), QStringList({"3", "worms", "7:00 AM", "clear, calm"}));
+    ASSERT_EQ(ListBackups(path).size(), 1); // the file as it was before the import
+    EXPECT_EQ(Entry(ListBackups(path)[0], "2024-01-05"), Empty);
+    w.show();
+    Screenshot(w, "frmselectdb-import");
 }
