@@ -1,25 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The record browser on real year files, offscreen: what each record shows, the browsing
-// and editing states, and catch entries that survive closing the file.
-#include "support/filledyear.h"
-#include "support/logfixture.h"
-#include "support/testenv.h"
+// and editing states, catch entries that survive closing the file, and edit safety: every way
+// out while a record is being edited asks "Save changes to this day?", and Save, Discard and
+// Cancel do what they say, as read back from the file with plain SQL.
 #include "ui/common/databar.h"
-#include "ui/log/frmselectdb.h"
 #include "ui/log/frmtable1.h"
+#include "ui/log/logdata.h"
 #include "ui/log/logwindowenv.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTest>
+#include <QTimer>
 #include <QToolButton>
-
-#include <gtest/gtest.h>
 
 using namespace logtest;
 
@@ -39,69 +32,78 @@ QString BrowsedYear(const QString& folderName)
 void GoTo(frmTable1& w, int dbid)
 {
     ASSERT_TRUE(w.Data1.FindFirst(QString("dbid = %1").arg(dbid)));
-    ASSERT_FALSE(w.Data1.NoMatch());
 }
 
-std::vector<QLabel*> VisibleFish(frmTable1& w)
+// The rating fish on show: "" or one of "1/4", "1/2", "3/4", "1".
+QString ShownFish(frmTable1& w)
 {
-    std::vector<QLabel*> shown;
-    for (QLabel* fish : {w.QuarterFish, w.HalfFish, w.ThreeQuarterfish, w.WholeFish})
-        if (!fish->isHidden())
-            shown.push_back(fish);
+    QString shown;
+    const std::pair<QLabel*, const char*> fish[] = {{w.QuarterFish, "1/4"},
+                                                    {w.HalfFish, "1/2"},
+                                                    {w.ThreeQuarterfish, "3/4"},
+                                                    {w.WholeFish, "1"}};
+    for (const auto& [label, name] : fish)
+        shown += label->isHidden() ? "" : name;
     return shown;
+}
+
+QString StoredField(const QString& path, const QString& field)
+{
+    return PlainColumn(path, "select " + field + " from table1 where dbid = 1").at(0).toString();
+}
+
+// A browser of a small year, shown, editing the first day's note with the text added.
+std::unique_ptr<frmTable1> Editing(LogWindowEnv& env, const QString& added,
+                                   QWidget* owner = nullptr)
+{
+    env.State.DBPath = MakeYearFile("edit-safety", 5);
+    auto w = std::make_unique<frmTable1>(env.Context(), owner);
+    w->show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(w.get()));
+    QTest::mouseClick(w->cmdEdit, Qt::LeftButton);
+    w->Text7->moveCursor(QTextCursor::End);
+    QTest::keyClicks(w->Text7, added);
+    return w;
 }
 
 } // namespace
 
-TEST(FrmTable1, ShowsTheFirstOf365RecordsWithItsDay)
+// Each record as the day's fields, texts and fish show it; the data bar moves through them
+// and stops at the last.
+TEST(FrmTable1, ShowsEachRecordsDayEventsPerigeeRatingAndMoon)
 {
     LogWindowEnv env(QString{}, BrowsedYear("browse-first"));
     frmTable1 w(env.Context());
     EXPECT_EQ(w.windowTitle(), "Quillmere DataBase");
     w.Form_Activate();
-    EXPECT_EQ(w.Data1Bar->Caption(), "Record: 1 of 365 Record(s)");
-    EXPECT_EQ(w.txtFields[0]->text(), "1");
-    EXPECT_EQ(w.txtFields[1]->text(), "01/01/2024");
-    EXPECT_EQ(w.Label3->text(), "Mon, January,01,2024");
-    EXPECT_EQ(w.Text3->text(), "1");
-    EXPECT_EQ(w.FakeTextBox[0]->text(), "12:53 AM"); // Major1
-    EXPECT_EQ(w.FakeTextBox[1]->text(), "12:53 PM"); // Major2
-    EXPECT_EQ(w.FakeTextBox[2]->text(), "06:01 AM"); // SunRise
-    EXPECT_EQ(w.FakeTextBox[3]->text(), "06:01 PM"); // SunSet
-    EXPECT_EQ(w.txtFields[7]->text(), "01:15 AM");   // MoonRise 1.25 h
-    EXPECT_EQ(w.txtFields[11]->text(), "*****");     // no first minor
-    EXPECT_EQ(w.txtFields[4]->text(), "05:40 AM/06:50 PM");
-    EXPECT_EQ(w.Label7->text(), "Moon is Waning");
+    const QStringList first = {
+        w.Data1Bar->Caption(),    w.txtFields[0]->text(),   w.txtFields[1]->text(),
+        w.Label3->text(),         w.Text3->text(),          w.FakeTextBox[0]->text(),
+        w.FakeTextBox[1]->text(), w.FakeTextBox[2]->text(), w.FakeTextBox[3]->text(),
+        w.txtFields[7]->text(),   w.txtFields[11]->text(),  w.txtFields[4]->text(),
+        w.Label7->text(),         w.Label9->text(),         ShownFish(w)};
+    // Major 1 and 2, sunrise, sunset, moonrise at 1.25 h, no first minor.
+    EXPECT_EQ(first,
+              QStringList({"Record: 1 of 365 Record(s)", "1", "01/01/2024", "Mon, January,01,2024",
+                           "1", "12:53 AM", "12:53 PM", "06:01 AM", "06:01 PM", "01:15 AM", "*****",
+                           "05:40 AM/06:50 PM", "Moon is Waning", "Sorted by Date", "1/4"}));
     EXPECT_TRUE(w.Label8->isHidden());
-    EXPECT_EQ(w.Label9->text(), "Sorted by Date");
-    EXPECT_EQ(VisibleFish(w), std::vector<QLabel*>{w.QuarterFish});
-    EXPECT_TRUE(env.Messages.Shown().empty()) << env.ShownTexts().join("|").toStdString();
-}
-
-TEST(FrmTable1, RepositionShowsMissingEventsPerigeeNotesRatingsAndTheMoon)
-{
-    LogWindowEnv env(QString{}, BrowsedYear("browse-reposition"));
-    frmTable1 w(env.Context());
-    w.Form_Activate();
 
     QTest::mouseClick(w.Data1Bar->Next, Qt::LeftButton);
     EXPECT_EQ(w.Data1Bar->Caption(), "Record: 2 of 365 Record(s)");
     EXPECT_EQ(w.txtFields[12]->text(), "12:00 AM"); // a minor at midnight is a time
-    EXPECT_FALSE(w.Label8->isHidden());
-    EXPECT_EQ(w.Label8->text(), "Apogee");
-    EXPECT_EQ(VisibleFish(w), std::vector<QLabel*>{w.HalfFish});
-
+    EXPECT_EQ(w.Label8->isHidden() ? "" : w.Label8->text(), "Apogee");
+    EXPECT_EQ(ShownFish(w), "1/2");
     GoTo(w, 27);
     EXPECT_EQ(w.Label8->text(), "Perigee");
     GoTo(w, 29);
     EXPECT_EQ(w.txtFields[7]->text(), "*****"); // the Moon does not rise that day
     EXPECT_TRUE(w.Label8->isHidden());
-    EXPECT_EQ(VisibleFish(w), std::vector<QLabel*>{w.WholeFish});
+    EXPECT_EQ(ShownFish(w), "1");
     GoTo(w, 30);
     EXPECT_EQ(w.Text5->text(), "12:30"); // daylight 12.5 h, always 24-hour
-    EXPECT_TRUE(VisibleFish(w).empty());
+    EXPECT_EQ(ShownFish(w), "");
     EXPECT_EQ(w.Text3->text(), "30");
-
     // Day 50: 50% and waxing, lit on the right in the colour of the settings.
     GoTo(w, 50);
     EXPECT_EQ(w.Label7->text(), "Moon is Waxing");
@@ -113,6 +115,7 @@ TEST(FrmTable1, RepositionShowsMissingEventsPerigeeNotesRatingsAndTheMoon)
     EXPECT_EQ(w.Data1Bar->Caption(), "Record: 365 of 365 Record(s)");
     QTest::mouseClick(w.Data1Bar->Next, Qt::LeftButton);
     EXPECT_EQ(w.Data1Bar->Caption(), "Record: 365 of 365 Record(s)");
+    EXPECT_TRUE(env.Messages.Shown().empty()) << env.ShownTexts().join("|").toStdString();
 }
 
 TEST(FrmTable1, EditingHoldsTheRecordAndTheCatchSurvivesReopening)
@@ -122,19 +125,11 @@ TEST(FrmTable1, EditingHoldsTheRecordAndTheCatchSurvivesReopening)
         frmTable1 w(env.Context());
         w.Form_Activate();
         GoTo(w, 3);
-        EXPECT_TRUE(w.cmdEdit->isEnabled());
-        EXPECT_FALSE(w.cmdUpdate->isEnabled());
-        EXPECT_FALSE(w.Text7->isEnabled());
-        EXPECT_EQ(w.cmdEdit->toolTip(), " Click To Edit Record ");
-        EXPECT_EQ(w.cmdUpdate->text(), "&Update");
-
+        EXPECT_TRUE(w.cmdEdit->isEnabled() && !w.cmdUpdate->isEnabled() && !w.Text7->isEnabled());
         QTest::mouseClick(w.cmdEdit, Qt::LeftButton);
-        EXPECT_FALSE(w.Data1Bar->isEnabled());
-        EXPECT_FALSE(w.cmdEdit->isEnabled());
-        EXPECT_FALSE(w.mnuExit->isEnabled());
-        EXPECT_TRUE(w.cmdUpdate->isEnabled());
-        for (QWidget* input : std::initializer_list<QWidget*>{w.txtFields[17], w.txtFields[18],
-                                                              w.Combo4, w.PeakTimeCombo, w.Text7})
+        EXPECT_FALSE(w.Data1Bar->isEnabled() || w.cmdEdit->isEnabled() || w.mnuExit->isEnabled());
+        for (QWidget* input : std::initializer_list<QWidget*>{
+                 w.cmdUpdate, w.txtFields[17], w.txtFields[18], w.Combo4, w.PeakTimeCombo, w.Text7})
             EXPECT_TRUE(input->isEnabled()) << input->objectName().toStdString();
         // The record cannot change until Update.
         QTest::mouseClick(w.Data1Bar->Next, Qt::LeftButton);
@@ -148,16 +143,14 @@ TEST(FrmTable1, EditingHoldsTheRecordAndTheCatchSurvivesReopening)
         EXPECT_EQ(w.txtFields[17]->text(), "12");
         EXPECT_TRUE(w.Combo4->isHidden());
         QTest::keyClicks(w.txtFields[18], "spinner");
-        const int six = w.PeakTimeCombo->findText("6:00 AM");
-        ASSERT_EQ(six, 6);
-        w.PeakTimeCombo->setCurrentIndex(six);
-        emit w.PeakTimeCombo->activated(six);
+        ASSERT_EQ(w.PeakTimeCombo->findText("6:00 AM"), 6);
+        w.PeakTimeCombo->setCurrentIndex(6);
+        emit w.PeakTimeCombo->activated(6);
         w.Text7->selectAll();
         QTest::keyClicks(w.Text7, "walleye by the dam");
         QTest::mouseClick(w.cmdUpdate, Qt::LeftButton);
         EXPECT_TRUE(w.cmdEdit->isEnabled());
         EXPECT_FALSE(w.txtFields[18]->isEnabled());
-        EXPECT_EQ(w.Data1Bar->Caption(), "Record: 3 of 365 Record(s)");
         w.mnuExit_Click();
     }
     frmTable1 again(env.Context());
@@ -172,32 +165,6 @@ TEST(FrmTable1, EditingHoldsTheRecordAndTheCatchSurvivesReopening)
     EXPECT_TRUE(env.Messages.Shown().empty()) << env.ShownTexts().join("|").toStdString();
 }
 
-TEST(FrmTable1, ACatchEnteredOnAQueryResultReachesTheLogTable)
-{
-    LogWindowEnv env(QString{}, BrowsedYear("browse-query"));
-    RunQueryStep(env.State.DBPath, "select * into Table2 from table1 where GraphicType = 4");
-    {
-        frmTable1 w(env.Context());
-        w.Form_Activate();
-        w.Data1.SetRecordSource("select * from Table3 order by juliandate");
-        ASSERT_TRUE(w.Data1.Refresh());
-        EXPECT_EQ(w.Data1Bar->Caption(), "Record: 1 of 73 Record(s)");
-        EXPECT_EQ(w.txtFields[0]->text(), "4"); // the first day rated 4
-        w.cmdEdit_Click();
-        QTest::keyClicks(w.txtFields[18], "jig");
-        w.cmdUpdate_Click();
-        w.mnuExit_Click();
-    }
-    // The next query rebuilds Table3 from table1; the entry is there.
-    RunQueryStep(env.State.DBPath, "select * into Table2 from table1 where DBID = 4");
-    Database db;
-    RowSet rows;
-    ASSERT_TRUE(db.Open(env.State.DBPath));
-    ASSERT_TRUE(db.Query("select TakenWith from Table3", rows));
-    ASSERT_EQ(rows.Rows.size(), 1u);
-    EXPECT_EQ(rows.Rows[0][0].toString(), "jig");
-}
-
 TEST(FrmTable1, AFileThatCannotBeReadIsReportedAsADataError)
 {
     LogWindowEnv env(QString{}, testenv::FreshDir("browse-missing") + "/2030.mdb");
@@ -209,95 +176,135 @@ TEST(FrmTable1, AFileThatCannotBeReadIsReportedAsADataError)
     EXPECT_EQ(w.Data1.RecordCount(), 0);
 }
 
-TEST(FrmTable1, BrowsesAFreshlyFilledYear)
-{
-    LogWindowEnv env(testenv::FreshDir("browse-filled"));
-    FrmSelectDB select(env.Context(2024));
-    ASSERT_TRUE(select.CreateDB(2024));
-    frmTable1 w(env.Context());
-    w.resize(900, 560);
-    w.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&w));
-    EXPECT_EQ(w.Data1Bar->Caption(), "Record: 1 of 366 Record(s)");
-    GoTo(w, 163); // 11 June 2024, inside the daylight-saving period
-    EXPECT_EQ(w.Label3->text(), "Tue, June,11,2024");
-    EXPECT_EQ(w.Text3->text(), "163");
-    // Sunrise in Pittsburgh in June is a little before six in daylight-saving time.
-    EXPECT_TRUE(w.FakeTextBox[2]->text().startsWith("05:"))
-        << w.FakeTextBox[2]->text().toStdString();
-    EXPECT_TRUE(w.Text5->text().startsWith("15:")) << w.Text5->text().toStdString();
-    EXPECT_EQ(w.txtFields[13]->text().toInt() > 0, true);
-    Screenshot(w, "frmTable1");
-    EXPECT_TRUE(env.Messages.Shown().empty()) << env.ShownTexts().join("|").toStdString();
-}
-
 // As an angler types: Edit, one click into the box, the keys to whatever has the focus then,
 // Update. What is typed is what the file holds (asked in plain SQL), or a message says why
-// not and nothing is stored.
+// not and nothing is stored; Total Taken at both ends of 0 to 100 and beyond.
 TEST(FrmTable1, TypedCatchEntriesAreStoredAsTypedOrRefusedWithTheFieldsMessage)
 {
-    struct Typed {
-        const char* Column;
-        std::function<QWidget*(frmTable1&)> Box;
-        const char* Keys;
-        QVariant Stored; // null: nothing stored
-        QString Message; // empty: none shown
+    const auto box = [](frmTable1& w, const QString& column) -> QWidget* {
+        return column == "TotalTaken"  ? w.txtFields[17]
+               : column == "PeakTime"  ? w.PeakTimeCombo->lineEdit()
+               : column == "TakenWith" ? static_cast<QWidget*>(w.txtFields[18])
+                                       : w.Text7;
     };
-    const auto taken = [](frmTable1& w) -> QWidget* { return w.txtFields[17]; };
-    const auto peak = [](frmTable1& w) -> QWidget* { return w.PeakTimeCombo->lineEdit(); };
-    const QString notANumber = "Total Taken: \"%1\" is not a whole number from 0 to 100.";
-    const std::vector<Typed> cases = {
-        {"TotalTaken", taken, "12", 12, {}},
-        {"TotalTaken", taken, "0", 0, {}},
-        {"TotalTaken", taken, "100", 100, {}},
-        {"TotalTaken", taken, "abc", {}, notANumber.arg("abc")},
-        {"TotalTaken", taken, "150", {}, notANumber.arg("150")},
-        {"TotalTaken", taken, "-3", {}, notANumber.arg("-3")},
-        {"PeakTime", peak, "6:30 am", "6:30 AM", {}},
-        {"PeakTime", peak, "19:00", "7:00 PM", {}},
-        {"PeakTime", peak, "1", {}, "Peak Time: \"1\" is not a time of day."},
-        {"PeakTime", peak, "25:00", {}, "Peak Time: \"25:00\" is not a time of day."},
-        {"TakenWith",
-         [](frmTable1& w) -> QWidget* { return w.txtFields[18]; },
-         "jig, 1/4 oz",
-         "jig, 1/4 oz",
-         {}},
-        {"Notes",
-         [](frmTable1& w) -> QWidget* { return w.Text7; },
-         " walleye 12 ",
-         " walleye 12 ",
-         {}},
-    };
-    for (const Typed& c : cases) {
-        const std::string where = std::string(c.Column) + " typed " + c.Keys;
+    for (const QStringList& c : DataRows("typed_entries.csv", '|')) {
+        const QString& column = c[0];
+        const std::string where = c.join('|').toStdString();
         LogWindowEnv env(QString{}, MakeYearFileWithEntries("typed-entry"));
         frmTable1 w(env.Context());
         w.show();
         QApplication::setActiveWindow(&w);
         ASSERT_TRUE(QTest::qWaitForWindowActive(&w)) << where;
         QTest::mouseClick(w.cmdEdit, Qt::LeftButton);
-        QWidget* box = c.Box(w);
-        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->width() - 4, box->height() / 2));
-        QTest::keyClicks(QApplication::focusWidget(), c.Keys);
+        QWidget* typedInto = box(w, column);
+        QTest::mouseClick(typedInto, Qt::LeftButton, {},
+                          QPoint(typedInto->width() - 4, typedInto->height() / 2));
+        QTest::keyClicks(QApplication::focusWidget(), c[1]);
         QTest::mouseClick(w.cmdUpdate, Qt::LeftButton);
 
         const auto row = PlainRows(env.State.DBPath, QString("select %1, TotalTaken, PeakTime "
                                                              "from table1 where DBID = 1")
-                                                         .arg(c.Column))
+                                                         .arg(column))
                              .at(0);
-        EXPECT_EQ(row[0].isNull(), c.Stored.isNull()) << where;
-        EXPECT_EQ(row[0].toString(), c.Stored.toString()) << where;
+        EXPECT_EQ(row[0].isNull() ? "<null>" : row[0].toString(), c[2]) << where;
         // Nothing lands in a box that was not typed into.
-        EXPECT_TRUE(std::string(c.Column) == "TotalTaken" || row[1].isNull()) << where;
-        EXPECT_TRUE(std::string(c.Column) == "PeakTime" || row[2].isNull()) << where;
-        if (c.Message.isEmpty()) {
-            EXPECT_TRUE(env.Messages.Shown().empty()) << where;
-            EXPECT_TRUE(w.cmdEdit->isEnabled()) << where;
-        } else {
-            ASSERT_EQ(env.Messages.Shown().size(), 1u) << where;
-            EXPECT_EQ(env.Messages.Shown()[0].Text, c.Message) << where;
-            EXPECT_TRUE(w.cmdUpdate->isEnabled()) << where; // still editing, to correct it
-        }
+        EXPECT_TRUE(column == "TotalTaken" || row[1].isNull()) << where;
+        EXPECT_TRUE(column == "PeakTime" || row[2].isNull()) << where;
+        EXPECT_EQ(env.ShownTexts(), c.size() > 3 ? QStringList{c[3]} : QStringList{}) << where;
+        // Refused, it stays in editing to be corrected.
+        EXPECT_EQ(w.cmdUpdate->isEnabled(), c.size() > 3) << where;
         w.Data1.CancelUpdate();
+    }
+}
+
+// Escape, the close button and the main window's closing each ask once; Cancel keeps the edit
+// open with what was typed (Update still saves it), Discard and Save close as they say.
+// Leaving while only browsing asks nothing.
+TEST(EditSafety, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
+{
+    {
+        LogWindowEnv env(QString{}, MakeYearFile("edit-safety-browse", 5));
+        frmTable1 w(env.Context());
+        w.show();
+        QTest::keyClick(&w, Qt::Key_Escape);
+        EXPECT_FALSE(w.isVisible());
+        EXPECT_TRUE(env.Messages.Shown().empty());
+    }
+    const std::pair<const char*, std::function<void(frmTable1&, QWidget&)>> ways[] = {
+        {"Escape", [](frmTable1& w, QWidget&) { QTest::keyClick(w.Text7, Qt::Key_Escape); }},
+        {"close button", [](frmTable1& w, QWidget&) { w.close(); }},
+        {"main window closing", [](frmTable1&, QWidget& owner) { owner.close(); }},
+    };
+    for (const auto& [way, take] : ways) {
+        for (const MsgResult answer : {MsgResult::Cancel, MsgResult::Discard, MsgResult::Save}) {
+            const std::string where = std::string(way) + " answered " + std::to_string(int(answer));
+            LogWindowEnv env(QString{});
+            QWidget owner;
+            owner.show();
+            const auto w = Editing(env, " pike", &owner);
+            env.Answers = {answer};
+            take(*w, owner);
+            ASSERT_EQ(env.Messages.Shown().size(), 1u) << where;
+            EXPECT_EQ(env.Messages.Shown()[0].Text, "Save changes to this day?") << where;
+            EXPECT_EQ(env.Messages.Shown()[0].Buttons, MsgButtons::SaveDiscardCancel) << where;
+            const QString stored = StoredField(env.State.DBPath, "Notes");
+            if (answer == MsgResult::Cancel) {
+                EXPECT_TRUE(w->isVisible() && owner.isVisible() && w->cmdUpdate->isEnabled())
+                    << where;
+                EXPECT_EQ(w->Text7->toPlainText(), "row-001 pike") << where;
+                EXPECT_EQ(stored, "row-001") << where;
+                QTest::mouseClick(w->cmdUpdate, Qt::LeftButton);
+                EXPECT_EQ(StoredField(env.State.DBPath, "Notes"), "row-001 pike") << where;
+                continue;
+            }
+            EXPECT_FALSE(std::string(way) == "main window closing" ? owner.isVisible()
+                                                                   : w->isVisible())
+                << where;
+            EXPECT_EQ(stored, answer == MsgResult::Save ? "row-001 pike" : "row-001") << where;
+            EXPECT_TRUE(w->cmdEdit->isEnabled()) << where; // back to browsing
+            EXPECT_EQ(w->Text7->toPlainText(), stored) << where;
+        }
+    }
+}
+
+TEST(EditSafety, TakenWithHoldsWhatItsColumnHoldsAndDaylightShowsFifteenDigits)
+{
+    LogWindowEnv env(QString{}, MakeYearFile("edit-safety-length", 5));
+    PlainExec(env.State.DBPath,
+              "UPDATE table1 SET DaylightHours = 10.15910733546643 WHERE DBID = 1");
+    frmTable1 w(env.Context());
+    w.show();
+    EXPECT_EQ(w.Text4->text(), "10.1591073354664");
+    QTest::mouseClick(w.cmdEdit, Qt::LeftButton);
+    QTest::keyClicks(w.txtFields[18], QString(900, QChar('w')));
+    EXPECT_EQ(w.txtFields[18]->text().size(), 255);
+    EXPECT_TRUE(w.txtFields[18]->toolTip().contains("255"));
+    Screenshot(w, "frmTable1-editing");
+    QTest::mouseClick(w.cmdUpdate, Qt::LeftButton);
+    EXPECT_EQ(StoredField(env.State.DBPath, "TakenWith"), QString(255, QChar('w')));
+}
+
+// The program's end asks too: Discard and Save do what they say; Cancel keeps the program
+// running with the edit open, and an end that cannot be refused asks again and, refused,
+// keeps the entry the only way left: saved.
+TEST(EditSafety, TheProgramsEndAsksAndCannotDropTheEntry)
+{
+    for (const MsgResult answer : {MsgResult::Discard, MsgResult::Save, MsgResult::Cancel}) {
+        LogWindowEnv env(QString{});
+        const auto w = Editing(env, " and a perch");
+        const bool cancel = answer == MsgResult::Cancel;
+        env.Answers = {answer, answer};
+        bool stillEditing = false;
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        if (cancel)
+            QTimer::singleShot(200, qApp, [&] {
+                stillEditing = w->isVisible() && w->cmdUpdate->isEnabled();
+                QCoreApplication::exit(0);
+            });
+        QCoreApplication::exec();
+        EXPECT_EQ(stillEditing, cancel);
+        EXPECT_EQ(env.ShownTexts(), QStringList(cancel ? 2 : 1, "Save changes to this day?"));
+        EXPECT_EQ(StoredField(env.State.DBPath, "Notes"),
+                  answer == MsgResult::Discard ? "row-001" : "row-001 and a perch");
     }
 }

@@ -1,14 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the log windows need from the program, for window tests: a scripted message
-// service, the log state, an engine at Pittsburgh, PA and a program folder of the test's own.
+// service, the log state, an engine at Pittsburgh, PA and a program folder of the test's own;
+// the year-file fixtures and the Qt Test headers every window test of the log uses.
 #pragma once
 
 #include "astro/astronomy.h"
 #include "logdb/logstate.h"
+#include "support/filledyear.h"
+#include "support/logfixture.h"
+#include "support/testenv.h"
 #include "ui/common/messageservice.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
 #include <QWidget>
+
+#include <gtest/gtest.h>
 
 #include <vector>
 

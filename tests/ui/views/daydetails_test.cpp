@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The day detail window's values and event lines against PyEphem and the US Naval
+// Observatory, kept in data/; the window's caption, timer and beep.
 #include "astro/astronomy.h"
 #include "astro/timebase.h"
 #include "calendar/calendar.h"
@@ -7,207 +9,136 @@
 #include "viewrules/daydetails.h"
 
 #include <QDir>
+#include <QFile>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
-
 namespace {
 
-// Minutes of the day of a "hh:mm AM" text.
-int ClockMinutes(const std::string& t)
+// The rows of a data file, its fields split at commas; blank and '#' lines left out.
+std::vector<QStringList> DataRows(const QString& name)
 {
-    int h = 0, m = 0;
-    char half[3] = {};
-    EXPECT_EQ(std::sscanf(t.c_str(), "%d:%d %2s", &h, &m, half), 3) << t;
-    return (h % 12 + (std::string(half) == "PM" ? 12 : 0)) * 60 + m;
+    QFile file(QStringLiteral(QUILLMERE_VIEWS_DATA "/") + name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+    std::vector<QStringList> rows;
+    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n'))
+        if (!line.trimmed().isEmpty() && !line.startsWith('#'))
+            rows.push_back(line.split(','));
+    return rows;
 }
 
-// The two halves of an "a/b" value.
-std::pair<std::string, std::string> Halves(const std::string& v)
+// Minutes of the day of "hh:mm", "hh:mm AM" or "hh:mm PM".
+int ClockMinutes(const QString& text)
 {
-    const auto slash = v.find('/');
-    EXPECT_NE(slash, std::string::npos) << v;
-    return {v.substr(0, slash), v.substr(slash + 1)};
-}
-
-void ExpectTimes(const std::string& value, int first, int second)
-{
-    const auto [a, b] = Halves(value);
-    EXPECT_NEAR(ClockMinutes(a), first, 2) << value;
-    EXPECT_NEAR(ClockMinutes(b), second, 2) << value;
-}
-
-void ExpectDegrees(const std::string& value, double first, double second)
-{
-    const auto [a, b] = Halves(value);
-    EXPECT_NEAR(std::stod(a), first, 0.5) << value;
-    EXPECT_NEAR(std::stod(b), second, 0.5) << value;
+    const QStringList parts = text.trimmed().split(QRegularExpression("[: ]"));
+    EXPECT_GE(parts.size(), 2) << text.toStdString();
+    const int hour = parts.value(0).toInt(), minute = parts.value(1).toInt();
+    if (parts.size() < 3)
+        return hour * 60 + minute;
+    return (hour % 12 + (parts[2] == "PM" ? 12 : 0)) * 60 + minute;
 }
 
 struct Place {
     Astronomy Engine;
     Calendar Cal;
-    Place(double lonWest, double latNorth, std::int16_t zone, int year)
+    Place(double lonWest, double latNorth, std::int16_t zone, QDate day, const QString& zoneName)
     {
         Engine.Site.SetPlace(lonWest, latNorth, zone);
         Engine.Site.HourInstant = 0.5 + Engine.Site.ZoneDays; // the hour bar at noon
-        Cal.CurYear = std::int16_t(year);
-        Cal.CurMonth = 6;
-        Cal.SetYearTables(Engine, 0);
+        if (!zoneName.isEmpty()) {
+            Engine.Site.Clock =
+                LoadZoneRules(zoneName.toStdString(), day.year() - 1, day.year() + 1);
+            Engine.Site.TimeFormats = LocalClockMode;
+        }
+        Cal.CurYear = std::int16_t(day.year());
+        Cal.CurMonth = std::int16_t(day.month());
+        Cal.SetYearTables(Engine, latNorth < 0 ? -1 : 0);
+    }
+    DetailLines Details(QDate day, bool ampm)
+    {
+        return DoDetails(Engine, Cal, CivilToJd(day.year(), day.month(), day.day()), ampm);
     }
 };
 
-// 20 June 2024 at Alexandria, standard time, against PyEphem 4.1.4 (no refraction; sunrise and
-// sunset at -0:50 for the centre, twilights at -6, -12, -18; the Moon at -0:34 for the upper
-// limb; the Moon's transit altitude as seen from the place; the illumination at noon): times within
-// 2 minutes, angles within half a degree.
+} // namespace
+
+// Every value of 20 June 2024 at Alexandria; the window shows them under its caption, and the
+// solstice is the day's only event.
 TEST(DoDetails, SummerDayAtAlexandriaAgreesWithEphem)
 {
-    Place p(92.42, 31.25, 6, 2024);
-    const double jd = CivilToJd(2024, 6, 20);
-    const DetailLines d = DoDetails(p.Engine, p.Cal, jd, true);
-    ExpectTimes(d.at(17), 5 * 60 + 6, 19 * 60 + 17);
-    ExpectTimes(d.at(5), 4 * 60 + 38, 19 * 60 + 45);
-    ExpectTimes(d.at(6), 4 * 60 + 4, 20 * 60 + 19);
-    ExpectTimes(d.at(7), 3 * 60 + 27, 20 * 60 + 56);
-    EXPECT_NEAR(ClockMinutes(d.at(8)), 12 * 60 + 11, 2);
-    EXPECT_NEAR(std::stod(d.at(13)), 82.188, 0.5);
-    ExpectDegrees(d.at(14), 61.699, 298.302);
-    ExpectTimes(d.at(15), 18 * 60 + 28, 3 * 60 + 31);
-    EXPECT_NEAR(ClockMinutes(d.at(18)), 23 * 60 + 25, 2);
-    EXPECT_NEAR(std::stod(d.at(20)), 30.229, 0.5);
-    ExpectDegrees(d.at(22), 122.609, 239.100);
-    EXPECT_EQ(d.at(24), "98%"); // 97.9 % lit at noon
-    EXPECT_EQ(d.at(9),
-              std::to_string(p.Cal.YearDays[std::size_t(DayOfYearOf(2024, 6, 20))].MoonAge));
-    // The June solstice, 20:51 UT (PyEphem), at 02:51 PM at zone 6; no other event.
-    const std::string solstice = d.at(FirstEventLabel);
-    EXPECT_EQ(solstice.substr(0, 16), "Summer Solstice ");
-    EXPECT_NEAR(ClockMinutes(solstice.substr(16)), 14 * 60 + 51, 3);
+    const QDate day(2024, 6, 20);
+    Place p(92.42, 31.25, 6, day, {});
+    const DetailLines d = p.Details(day, true);
+    for (const QStringList& row : DataRows("alexandria_2024-06-20.csv")) {
+        const QString shown = QString::fromStdString(d.at(row[0].toInt()));
+        const QStringList halves = row[1] == "text" ? QStringList{shown} : shown.split('/');
+        ASSERT_EQ(halves.size(), row.size() - 2) << shown.toStdString();
+        for (int i = 0; i < halves.size(); ++i) {
+            const QString& want = row[i + 2];
+            if (row[1] == "clock")
+                EXPECT_NEAR(ClockMinutes(halves[i]), ClockMinutes(want), 2) << shown.toStdString();
+            else if (row[1] == "degrees")
+                EXPECT_NEAR(halves[i].toDouble(), want.toDouble(), 0.5) << shown.toStdString();
+            else
+                EXPECT_EQ(halves[i], want);
+        }
+    }
+    EXPECT_TRUE(d.at(FirstEventLabel).starts_with("Summer Solstice "));
     for (int i = 1; i < EventLabelCount; ++i)
         EXPECT_EQ(d.at(FirstEventLabel + i), "");
+
+    FrmDetail w;
+    w.SetDay(2024, 6, 20, {true, '/'});
+    w.ShowLines(d);
+    w.show();
+    EXPECT_EQ(w.windowTitle(), "Details for  6/20/2024");
+    EXPECT_EQ(w.Label[17]->text().toStdString(), d.at(17));
+    w.grab().save(QDir(QUILLMERE_SCREENSHOTS).filePath("FrmDetail.png"));
 }
 
-// The day's events in words with their local times: the full moon of 22 June 2024 (01:08 UT,
-// PyEphem) and the June solstice (20 June 20:51 UT) at Greenwich; the Earth's perihelion
-// (3 January 00:39 UT) and aphelion (5 July 05:06 UT) from the US Naval Observatory's table,
-// in 24-hour clock text.
-TEST(DoDetails, EventLinesNameTheDaysEvents)
+TEST(DoDetails, EventLinesNameTheDaysEventsOnThePlacesClock)
 {
-    Place p(0.0, 51.48, 0, 2024);
-    const auto lineOf = [&](int month, int day, bool ampm, const std::string& start) {
-        p.Cal.CurMonth = std::int16_t(month);
-        p.Cal.SetYearTables(p.Engine, 0);
-        const DetailLines d = DoDetails(p.Engine, p.Cal, CivilToJd(2024, month, day), ampm);
+    for (const QStringList& row : DataRows("event_lines.csv")) {
+        const QDate day = QDate::fromString(row[4], Qt::ISODate);
+        const bool ampm = row[5] == "1";
+        Place p(row[1].toDouble(), row[2].toDouble(), std::int16_t(row[3].toInt()), day, row[0]);
+        const DetailLines d = p.Details(day, ampm);
+        const std::string where = row.join(' ').toStdString();
+        QString found;
         for (int i = 0; i < EventLabelCount; ++i)
-            if (d.at(FirstEventLabel + i).rfind(start, 0) == 0)
-                return d.at(FirstEventLabel + i).substr(start.size());
-        ADD_FAILURE() << "no line " << start << " on " << month << "/" << day;
-        return std::string("00:00 AM");
-    };
-    EXPECT_NEAR(ClockMinutes(lineOf(6, 22, true, "Full Moon ")), 1 * 60 + 8, 3);
-    EXPECT_NEAR(ClockMinutes(lineOf(6, 20, true, "Summer Solstice ")), 20 * 60 + 51, 3);
-    EXPECT_NEAR(ClockMinutes(lineOf(1, 3, true, "Earth at Perihelion ")), 39, 30);
-    const std::string aphelion = lineOf(7, 5, false, "Earth at Apehelion ");
-    EXPECT_EQ(aphelion.size(), 5u) << aphelion; // "hh:nn"
-    int h = 0, m = 0;
-    ASSERT_EQ(std::sscanf(aphelion.c_str(), "%d:%d", &h, &m), 2);
-    EXPECT_NEAR(h * 60 + m, 5 * 60 + 6, 30);
-}
-
-// Under Local Clock the seasons of 2025 (USNO: 20 March 09:01, 21 June 02:42, 22 September
-// 18:19, 21 December 15:03 UT) read on the place's own clock at that instant (zoneinfo): summer
-// and winter time, half-hour zones and the southern hemisphere.
-TEST(DoDetails, SeasonsUnderLocalClockReadThePlacesClock)
-{
-    const struct {
-        const char* Zone;
-        double LonWest, LatNorth;
-        std::int16_t WholeHours;
-        std::array<const char*, 4> Shown; // local date and clock, spring to winter
-    } places[] = {
-        {"America/New_York",
-         74.01,
-         40.71,
-         5,
-         {"2025-03-20 05:01 AM", "2025-06-20 10:42 PM", "2025-09-22 02:19 PM",
-          "2025-12-21 10:03 AM"}},
-        {"Asia/Kolkata",
-         -77.2,
-         28.6,
-         -5,
-         {"2025-03-20 02:31 PM", "2025-06-21 08:12 AM", "2025-09-22 11:49 PM",
-          "2025-12-21 08:33 PM"}},
-        {"Australia/Sydney",
-         -151.21,
-         -33.87,
-         -10,
-         {"2025-03-20 08:01 PM", "2025-06-21 12:42 PM", "2025-09-23 04:19 AM",
-          "2025-12-22 02:03 AM"}},
-        {"America/St_Johns",
-         52.71,
-         47.56,
-         4,
-         {"2025-03-20 06:31 AM", "2025-06-21 12:12 AM", "2025-09-22 03:49 PM",
-          "2025-12-21 11:33 AM"}},
-    };
-    for (const auto& place : places) {
-        Place p(place.LonWest, place.LatNorth, place.WholeHours, 2025);
-        p.Engine.Site.Clock = LoadZoneRules(place.Zone, 2024, 2026);
-        p.Engine.Site.TimeFormats = LocalClockMode;
-        p.Cal.SetYearTables(p.Engine, place.LatNorth < 0 ? -1 : 0);
-        for (int season = 1; season <= 4; ++season) {
-            int year = 0, month = 0, day = 0;
-            char clock[9] = {};
-            const char* shown = place.Shown[std::size_t(season - 1)];
-            ASSERT_EQ(std::sscanf(shown, "%d-%d-%d %8[^\n]", &year, &month, &day, clock), 4);
-            const DetailLines d = DoDetails(p.Engine, p.Cal, CivilToJd(year, month, day), true);
-            const std::string line = SeasonNames[std::size_t(season)];
-            std::string found;
-            for (int i = 0; i < EventLabelCount; ++i)
-                if (d.at(FirstEventLabel + i).starts_with(line))
-                    found = d.at(FirstEventLabel + i);
-            ASSERT_FALSE(found.empty()) << place.Zone << " " << shown;
-            EXPECT_NEAR(ClockMinutes(found.substr(line.size())), ClockMinutes(clock), 1)
-                << place.Zone << " " << shown << ": " << found;
-        }
+            if (QString line = QString::fromStdString(d.at(FirstEventLabel + i));
+                line.startsWith(row[6] + ' '))
+                found = line.mid(row[6].size()).trimmed();
+        ASSERT_FALSE(found.isEmpty()) << where;
+        EXPECT_EQ(found.size(), ampm ? 8 : 5) << where << ": " << found.toStdString();
+        EXPECT_NEAR(ClockMinutes(found), ClockMinutes(row[7]), row[8].toInt())
+            << where << ": " << found.toStdString();
     }
 }
 
-// The window's caption in the platform's date order.
-TEST(FrmDetail, Caption)
+// Day first with the platform's separator; a click anywhere beeps once and stops the timer;
+// closing stops it too; a label's tip says so.
+TEST(FrmDetail, CaptionAndAClickThatBeepsOnceAndHaltsTheTimer)
 {
-    EXPECT_EQ(DetailsCaption(2024, 3, 5, true, '/'), "Details for  3/5/2024");
     EXPECT_EQ(DetailsCaption(2024, 3, 5, false, '.'), "Details for 5.3.2024");
-
     FrmDetail w;
     w.SetDay(2024, 12, 31, {false, '-'});
-    w.show();
-    EXPECT_EQ(w.windowTitle(), "Details for 31-12-2024");
-}
-
-// A click anywhere beeps once and stops the timer; closing stops it too; a label's tip says so.
-TEST(FrmDetail, ClickBeepsOnceAndHaltsTheTimer)
-{
-    FrmDetail w;
     int beeps = 0;
     w.Beep = [&beeps] { ++beeps; };
     w.ShowLines({{17, "05:06 AM/07:17 PM"}, {FirstEventLabel, "Full Moon 01:08 AM"}});
     w.show();
-    w.Timer1->start();
-    QTest::mouseClick(w.Label[17], Qt::LeftButton);
-    EXPECT_EQ(beeps, 1);
-    EXPECT_FALSE(w.Timer1->isActive());
-    w.Timer1->start();
-    QTest::mouseClick(&w, Qt::LeftButton, {}, QPoint(3, 3));
+    EXPECT_EQ(w.windowTitle(), "Details for 31-12-2024");
+    for (const auto& [widget, at] :
+         {std::pair<QWidget*, QPoint>{w.Label[17], w.Label[17]->rect().center()}, {&w, {3, 3}}}) {
+        w.Timer1->start();
+        QTest::mouseClick(widget, Qt::LeftButton, {}, at);
+        EXPECT_FALSE(w.Timer1->isActive());
+    }
     EXPECT_EQ(beeps, 2);
-    EXPECT_FALSE(w.Timer1->isActive());
-    QTest::mouseMove(w.Label[17]);
     w.Label_MouseMove(17);
     EXPECT_EQ(w.Label[17]->toolTip(), "Click to Halt Timer");
     w.Timer1->start();
@@ -216,16 +147,3 @@ TEST(FrmDetail, ClickBeepsOnceAndHaltsTheTimer)
     EXPECT_FALSE(w.isVisible());
     EXPECT_EQ(beeps, 2);
 }
-
-// The details of a day, for a person to look at.
-TEST(FrmDetail, SavesScreenshot)
-{
-    Place p(92.42, 31.25, 6, 2024);
-    FrmDetail w;
-    w.SetDay(2024, 6, 20, {true, '/'});
-    w.ShowLines(DoDetails(p.Engine, p.Cal, CivilToJd(2024, 6, 20), true));
-    w.show();
-    EXPECT_TRUE(w.grab().save(QDir(QUILLMERE_SCREENSHOTS).filePath("FrmDetail.png")));
-}
-
-} // namespace
