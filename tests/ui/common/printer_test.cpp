@@ -50,7 +50,7 @@ TEST(Printer, PrintsEveryPageIntoTheNamedPdfAndNeverOverAnotherFile)
         {"out.pdf", {}, ""},
         {"earlier.pdf", "%PDF-1.4 an earlier report", ""},
         {"no such folder/out.pdf", {}, "no such folder/out.pdf"},
-        {"2024.mdb", QByteArray("SQLite format 3\0 the year's days", 34), "it is not a PDF"},
+        {"2024.mdb", QByteArrayLiteral("SQLite format 3\0 the year's days"), "it is not a PDF"},
         {"notes.txt", "a note", "it is not a PDF"},
     };
     for (const auto& c : cases) {
