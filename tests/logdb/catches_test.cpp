@@ -260,32 +260,10 @@ TEST(CatchConditions, SpeciesNotesAndReleasedPickTheDaysPlainSqlPicks)
     }
     catches.push_back({.Date = "2024-01-03", .Species = "Ñandú", .Note = "Ål i vassen"});
     ASSERT_TRUE(AddCatches(path, catches, Now));
-    // Over table1, asked in plain SQLite of the file and of one without the catches' tables.
-    const std::vector<std::tuple<CatchConditions, QString, QString>> cases = {
-        {{"PIKE", "", false},
-         "JulianDate IN (SELECT JulianDate FROM Catches WHERE lower(Species) = 'pike')",
-         "0"},
-        {{"", "", true}, "JulianDate IN (SELECT JulianDate FROM Catches WHERE Released = 1)", "0"},
-        {{"Walleye", "", true},
-         "JulianDate IN (SELECT JulianDate FROM Catches WHERE Released = 1 AND Species = "
-         "'walleye')",
-         "0"},
-        {{"", "drop-OFF", false},
-         "JulianDate IN (SELECT JulianDate FROM Catches WHERE instr(lower(Note), 'drop-off'))",
-         "0"},
-        {{"", "ROW-01", false}, "instr(Notes, 'row-01')", "instr(Notes, 'row-01')"},
-        {{"", "0% s", false},
-         "JulianDate IN (SELECT JulianDate FROM Catches WHERE instr(Note, '0% s'))",
-         "0"},
-        {{"", "w_0", false}, "0", "0"}, // "_" stands for itself
-        // Case is ignored beyond ASCII, as SQLite's NOCASE does not.
-        {{"ñANDÚ", "", false}, "JulianDate = '2024-01-03'", "0"},
-        {{"", "ål I", false}, "JulianDate = '2024-01-03'", "0"},
-    };
-    for (const auto& [conditions, inFile, inOld] : cases) {
-        for (const auto& [file, where] : {std::pair{path, inFile}, std::pair{old, inOld}}) {
+    for (const QStringList& c : testenv::DataRows(QUILLMERE_TESTDATA "/catch_conditions.txt")) {
+        for (const auto& [file, where] : {std::pair{path, c[3]}, std::pair{old, c[4]}}) {
             QueryForm form;
-            form.Catches = conditions;
+            form.Catches = {c[0].toStdString(), c[1].toStdString(), c[2] == "1"};
             const Selection s = SelectDataWhere(file, form, 1);
             EXPECT_TRUE(s.Refused.isEmpty()) << s.Refused.join('|').toStdString();
             EXPECT_EQ(
