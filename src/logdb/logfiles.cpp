@@ -248,7 +248,7 @@ bool CopyDescriptor(int in, int out)
     }
 }
 
-bool SyncFolderOf(const QString& path)
+bool SyncFolderEntries(const QString& path)
 {
     const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
     const int fd = ::open(folder.constData(), O_RDONLY | O_DIRECTORY);
@@ -292,6 +292,8 @@ bool FileOps::Replace(const QString& from, const QString& to)
                  0) &&
            Noted(SyncFolderOf(to));
 }
+
+bool FileOps::SyncFolderOf(const QString& path) { return SyncFolderEntries(path); }
 
 bool FileOps::Copy(const QString& from, const QString& to)
 {

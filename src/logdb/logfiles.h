@@ -31,6 +31,8 @@ public:
     virtual bool Copy(const QString& from, const QString& to);
     // Puts the file's contents and its entry in the folder on the disk.
     virtual bool Sync(const QString& path);
+    // Puts the entries of the path's folder on the disk: a rename is durable only after it.
+    virtual bool SyncFolderOf(const QString& path);
 
     // Why the last step that failed did ("No space left on device", "Permission denied"), in
     // the system's words; empty when that is not known.

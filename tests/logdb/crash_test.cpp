@@ -222,15 +222,6 @@ TEST(CrashSafety, AYearLeftBehindAsCopiesIsOfferedBackNotDeleted)
     EXPECT_EQ(QDir(folder).entryList(QDir::Files),
               QStringList({"2024.BAK", "2024.mdb", "Default.mdb"}));
     EXPECT_TRUE(RestorableYears(folder).empty());
-
-    // With only the backup left, the backup is offered and kept after restoring.
-    ASSERT_TRUE(QFile::remove(path));
-    const auto backup = RestorableYears(folder);
-    ASSERT_EQ(backup.size(), 1u);
-    EXPECT_EQ(QFileInfo(backup[0].Copy).fileName(), "2024.BAK");
-    ASSERT_TRUE(RestoreYearFile(folder, backup[0]));
-    ExpectEveryOriginalNote(path, "restored from the backup");
-    EXPECT_TRUE(QFile::exists(QDir(folder).filePath("2024.BAK")));
 }
 
 namespace {

@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <map>
 
 using namespace logtest;
 
@@ -39,24 +39,10 @@ struct FilledYear {
 const QString Columns = "JulianDate, SunRise, SunSet, MoonRise, MoonSet, Minor1, Minor2, "
                         "DaylightHours, GraphicType, MoonAge, Perigee, Month, DayOfWeek_, "
                         "CivilTwilight, TotalTaken, Notes";
-enum Column {
-    Date,
-    Rise,
-    Set,
-    MoonRise,
-    MoonSet,
-    Minor1,
-    Minor2,
-    Daylight,
-    Graphic,
-    Age,
-    Perigee,
-    Month,
-    Weekday,
-    Civil,
-    Taken,
-    Notes
-};
+// clang-format off
+enum Column { Date, Rise, Set, MoonRise, MoonSet, Minor1, Minor2, Daylight, Graphic, Age, Perigee,
+              Month, Weekday, Civil, Taken, Notes };
+// clang-format on
 
 std::vector<std::vector<QVariant>> ReadYear(const QString& path)
 {
@@ -96,54 +82,62 @@ double SunriseWith(Astronomy engine, const Calendar& cal, int d, double dstOffse
 
 } // namespace
 
-TEST(FillYear, WritesOneRecordPerDayFromJanuaryFirstToDecemberLast)
-{
-    Astronomy engine = Pittsburgh();
-    const Calendar leap = YearCalendar(engine, 2024, 0);
-    std::vector<int> reported;
-    const FilledYear y2024 = Fill("fill-2024", engine, leap, [&](int day, int days) {
-        EXPECT_EQ(days, 366);
-        reported.push_back(day);
-    });
-    ASSERT_TRUE(y2024.Result) << y2024.Result.Message.toStdString();
-    ASSERT_EQ(y2024.Rows.size(), 366u);
-    EXPECT_EQ(y2024.Rows.front()[Date], "2024-01-01");
-    EXPECT_EQ(y2024.Rows[59][Date], "2024-02-29");
-    EXPECT_EQ(y2024.Rows.back()[Date], "2024-12-31");
-    EXPECT_EQ(reported.size(), 366u);
-    EXPECT_EQ(reported.front(), 1);
-    EXPECT_EQ(reported.back(), 366);
-    // 10 March 2024 was a Sunday.
-    EXPECT_EQ(y2024.Rows[69][Month].toInt(), 3);
-    EXPECT_EQ(y2024.Rows[69][Weekday].toInt(), 1);
-    // The angler's columns stay empty.
-    EXPECT_TRUE(y2024.Rows[69][Taken].isNull());
-    EXPECT_TRUE(y2024.Rows[69][Notes].isNull());
-
-    const Calendar common = YearCalendar(engine, 2023, 0);
-    const FilledYear y2023 = Fill("fill-2023", engine, common);
-    ASSERT_EQ(y2023.Rows.size(), 365u);
-    EXPECT_EQ(y2023.Rows.back()[Date], "2023-12-31");
-}
-
-TEST(FillYear, DaylightSavingDaysAreAnHourLaterAndTheObserverIsRestored)
+// One fill of 2024: a record per day on its own date with the day's marks, an hour later in
+// the daylight-saving days, -1 for missing events, the angler's columns empty.
+TEST(FillYear, WritesEachDayOnItsDateWithTheSavingHourAndMissingEvents)
 {
     Astronomy engine = Pittsburgh();
     const Calendar cal = YearCalendar(engine, 2024, 0);
-    const int S = cal.DstStartDay, E = cal.DstEndDay;
-    ASSERT_LT(S, E);
-    const FilledYear year = Fill("fill-dst", engine, cal);
+    std::vector<int> reported;
+    const FilledYear year = Fill("fill-2024", engine, cal, [&](int day, int days) {
+        EXPECT_EQ(days, 366);
+        reported.push_back(day);
+    });
     ASSERT_TRUE(year.Result) << year.Result.Message.toStdString();
-    EXPECT_DOUBLE_EQ(engine.Site.DstOffsetDays, -60 / 1440.0);
-    EXPECT_DOUBLE_EQ(engine.Site.ZoneDays, 5 / 24.0);
+    ASSERT_EQ(year.Rows.size(), 366u);
+    EXPECT_EQ(year.Rows[59][Date], "2024-02-29");
+    EXPECT_EQ(year.Rows.back()[Date], "2024-12-31");
+    EXPECT_EQ(reported.size(), 366u);
+    EXPECT_EQ(reported.back(), 366);
+    EXPECT_EQ(year.Rows[69][Weekday].toInt(), 1); // 10 March 2024 was a Sunday
+    EXPECT_EQ(year.Rows[69][Month].toInt(), 3);
+    EXPECT_TRUE(year.Rows[69][Taken].isNull());
+    EXPECT_TRUE(year.Rows[69][Notes].isNull());
+    EXPECT_DOUBLE_EQ(engine.Site.DstOffsetDays, -60 / 1440.0); // the observer is restored
 
+    const int S = cal.DstStartDay, E = cal.DstEndDay;
     const auto stored = [&](int d) { return Hours(year.Rows[std::size_t(d - 1)][Rise]); };
     const auto standard = [&](int d) { return SunriseWith(Pittsburgh(), cal, d, 0.0); };
-    const double minute = 1 / 60.0;
     for (int d : {1, S - 1, E, E + 1, cal.YearSlots - 1})
-        EXPECT_NEAR(stored(d), standard(d), minute) << "day " << d;
+        EXPECT_NEAR(stored(d), standard(d), 1 / 60.0) << "day " << d;
     for (int d : {S, S + 1, (S + E) / 2, E - 1})
-        EXPECT_NEAR(stored(d), standard(d) + 1.0, 2 * minute) << "day " << d;
+        EXPECT_NEAR(stored(d), standard(d) + 1.0, 2 / 60.0) << "day " << d;
+
+    int noMoonrise = 0, noMoonset = 0, noMinor = 0;
+    std::map<int, int> perigee; // 1 perigee, 2 apogee, -1 a day beside one
+    for (int d = 1; d <= 366; ++d) {
+        const auto& row = year.Rows[std::size_t(d - 1)];
+        const DayMarks& marks = cal.YearDays[std::size_t(d)];
+        ASSERT_EQ(row[Graphic].toInt(), marks.Rating) << d;
+        ASSERT_EQ(row[Age].toInt(), marks.MoonAge) << d;
+        ASSERT_EQ(row[Perigee].toInt(), marks.Perigee) << d;
+        ++perigee[marks.Perigee];
+        // Daylight is sunset minus sunrise before the clock texts drop the seconds.
+        EXPECT_NEAR(row[Daylight].toDouble(), Hours(row[Set]) - Hours(row[Rise]), 1.01 / 60.0);
+        EXPECT_TRUE(StoredTime(row[Civil].toString().section('/', 0, 0).toStdString())
+                        .value_or("")
+                        .ends_with(":00"));
+        noMoonrise += row[MoonRise].toDouble() == -1.0 ? 1 : 0;
+        noMoonset += row[MoonSet].toDouble() == -1.0 ? 1 : 0;
+        noMinor += row[Minor1].toDouble() < 0 || row[Minor2].toDouble() < 0 ? 1 : 0;
+    }
+    // A year has about a dozen days without moonrise and as many without moonset.
+    EXPECT_GE(noMoonrise, 10);
+    EXPECT_GE(noMoonset, 10);
+    EXPECT_GE(noMinor, 1);
+    EXPECT_GE(perigee[1], 12);
+    EXPECT_GE(perigee[2], 12);
+    EXPECT_GE(perigee[-1], 24);
 }
 
 TEST(FillYear, NoDayGetsTheOffsetWhenTheSavingPeriodSpansTheNewYear)
@@ -154,60 +148,12 @@ TEST(FillYear, NoDayGetsTheOffsetWhenTheSavingPeriodSpansTheNewYear)
     cal.DstEndDay = 100;
     const FilledYear year = Fill("fill-dst-wrap", engine, cal);
     ASSERT_TRUE(year.Result);
+    ASSERT_EQ(year.Rows.size(), 365u);
+    EXPECT_EQ(year.Rows.back()[Date], "2023-12-31");
     for (int d : {1, 99, 100, 200, 299, 300, 365})
         EXPECT_NEAR(Hours(year.Rows[std::size_t(d - 1)][Rise]), SunriseWith(engine, cal, d, 0.0),
                     1 / 60.0)
             << "day " << d;
-}
-
-TEST(FillYear, StoresTheDaysValuesUnformattedAndMinusOneForMissingEvents)
-{
-    Astronomy engine = Pittsburgh();
-    const Calendar cal = YearCalendar(engine, 2024, 0);
-    const FilledYear year = Fill("fill-values", engine, cal);
-    ASSERT_TRUE(year.Result);
-    int noMoonrise = 0, noMoonset = 0, noMinor = 0, perigees = 0, apogees = 0, beside = 0;
-    for (int d = 1; d <= 366; ++d) {
-        const auto& row = year.Rows[std::size_t(d - 1)];
-        // Each day of the year tables lands on its own date, not the day before or after.
-        const DayMarks& marks = cal.YearDays[std::size_t(d)];
-        ASSERT_EQ(row[Graphic].toInt(), marks.Rating) << d;
-        ASSERT_EQ(row[Age].toInt(), marks.MoonAge) << d;
-        ASSERT_EQ(row[Perigee].toInt(), marks.Perigee) << d;
-        perigees += marks.Perigee == 1 ? 1 : 0;
-        apogees += marks.Perigee == 2 ? 1 : 0;
-        beside += marks.Perigee == -1 ? 1 : 0;
-
-        // Daylight is sunset minus sunrise before the clock texts drop the seconds.
-        const double hoursOfLight = row[Daylight].toDouble();
-        EXPECT_NEAR(hoursOfLight, Hours(row[Set]) - Hours(row[Rise]), 1.01 / 60.0) << d;
-        EXPECT_TRUE(
-            QString::fromStdString(
-                StoredTime(row[Civil].toString().section('/', 0, 0).toStdString()).value_or(""))
-                .endsWith(":00"));
-
-        Astronomy check = Pittsburgh();
-        check.Site.DstOffsetDays = d >= cal.DstStartDay && d < cal.DstEndDay ? -60 / 1440.0 : 0;
-        check.ComputeSunDay(cal.YearStartJD + d - 1);
-        EXPECT_DOUBLE_EQ(hoursOfLight, check.Forecast.DayLength) << d;
-        check.ComputeDay(cal.YearStartJD + d - 1);
-        const MoonEventRecord& m = check.Forecast.MoonEvents;
-        const bool noRise = m.RiseFlag == EventFlag::OtherDay;
-        const bool noSet = m.SetFlag == EventFlag::OtherDay;
-        EXPECT_DOUBLE_EQ(row[MoonRise].toDouble(), noRise ? -1.0 : m.RiseTime) << d;
-        EXPECT_DOUBLE_EQ(row[MoonSet].toDouble(), noSet ? -1.0 : m.SetTime) << d;
-        EXPECT_DOUBLE_EQ(row[Minor2].toDouble(), std::max(check.Forecast.Minor2, -1.0)) << d;
-        noMoonrise += noRise ? 1 : 0;
-        noMoonset += noSet ? 1 : 0;
-        noMinor += row[Minor1].toDouble() < 0 || row[Minor2].toDouble() < 0 ? 1 : 0;
-    }
-    // A year has about a dozen days without moonrise and as many without moonset.
-    EXPECT_GE(noMoonrise, 10);
-    EXPECT_GE(noMoonset, 10);
-    EXPECT_GE(noMinor, 1);
-    EXPECT_GE(perigees, 12);
-    EXPECT_GE(apogees, 12);
-    EXPECT_GE(beside, 24);
 }
 
 TEST(FillYear, ARecordThatCannotBeSavedLeavesNoRecordAndRestoresTheObserver)

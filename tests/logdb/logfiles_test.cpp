@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The year files on disk: listing, creating, compacting and protecting them.
+// The year files on disk: listing, creating, compacting, protecting them, and the order of
+// the file steps that makes each replacement survive a power cut.
 #include "db/datacontrol.h"
 #include "logdb/logfiles.h"
 #include "support/logfixture.h"
@@ -8,7 +9,9 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <functional>
+#include <map>
 
 #include <gtest/gtest.h>
 
@@ -16,12 +19,22 @@ using namespace logtest;
 
 namespace {
 
-QStringList FilesIn(const QString& folder)
+QString FolderOf(const QString& path) { return QFileInfo(path).absolutePath(); }
+
+void Exec(const QString& path, const QString& sql)
 {
-    return QDir(folder).entryList(QDir::Files, QDir::Name);
+    Database db;
+    ASSERT_TRUE(db.Open(path));
+    ASSERT_TRUE(db.Execute(sql));
 }
 
-QString FolderOf(const QString& path) { return QFileInfo(path).absolutePath(); }
+// A value no day can have, so that repair rebuilds the file.
+void Spoil(const QString& path)
+{
+    Exec(path, "update table1 set IllumPercent = 500 where DBID = 3");
+}
+
+bool Repaired(const RepairReport& report) { return report.Result && report.Damaged; }
 
 // Real file operations, except that the n-th atomic replacement fails.
 class FailingReplace : public FileOps {
@@ -37,76 +50,112 @@ private:
     int renames_ = 0;
 };
 
+// Real file operations, each recorded with its paths; a folder sync records the folder.
+struct Step {
+    QString Kind, From, To;
+};
+class RecordingOps : public FileOps {
+public:
+    std::vector<Step> Steps;
+    bool Copy(const QString& from, const QString& to) override
+    {
+        Steps.push_back({"copy", from, to});
+        return FileOps::Copy(from, to);
+    }
+    bool Sync(const QString& path) override
+    {
+        Steps.push_back({"sync", path, {}});
+        return FileOps::Sync(path);
+    }
+    bool Rename(const QString& from, const QString& to) override
+    {
+        Steps.push_back({"rename", from, to});
+        return FileOps::Rename(from, to);
+    }
+    bool Replace(const QString& from, const QString& to) override
+    {
+        Steps.push_back({"rename", from, to});
+        return FileOps::Replace(from, to);
+    }
+    bool SyncFolderOf(const QString& path) override
+    {
+        Steps.push_back({"folder", FolderOf(path), {}});
+        return FileOps::SyncFolderOf(path);
+    }
+};
+
+// What in the recorded steps a power cut could undo; empty when nothing.
+std::string PowerCutRisks(const std::vector<Step>& steps)
+{
+    std::string risks;
+    const auto at = [&](std::size_t i) { return i < steps.size() ? steps[i] : Step{}; };
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        const Step& s = steps[i];
+        const std::string name = QFileInfo(s.From).fileName().toStdString();
+        if (s.Kind == "sync" && !(at(i + 1).Kind == "folder" && at(i + 1).From == FolderOf(s.From)))
+            risks += name + " synced without its folder; ";
+        if (s.Kind != "rename")
+            continue;
+        // Every copy made so far, and the file renamed, are on the disk before the rename.
+        std::map<QString, bool> synced{{s.From, false}};
+        for (std::size_t j = 0; j < i; ++j) {
+            if (steps[j].Kind == "copy")
+                synced[steps[j].To] = false;
+            if (steps[j].Kind == "sync")
+                synced[steps[j].From] = true;
+        }
+        for (const auto& [file, done] : synced)
+            if (!done)
+                risks += QFileInfo(file).fileName().toStdString() + " not synced before " + name +
+                         " is renamed; ";
+        std::size_t next = i + 1;
+        while (at(next).Kind == "rename" && at(next).From == s.From && at(next).To == s.To)
+            ++next;
+        if (at(next).Kind != "folder" || at(next).From != FolderOf(s.To))
+            risks += "no folder sync after " + name + " is renamed; ";
+    }
+    return risks;
+}
+
 } // namespace
 
-TEST(YearFiles, ListShowsOnlyFourCharacterMdbNames)
+// Every file is on the disk before it is renamed into place, every backup copy before the
+// file it keeps is replaced, and the folder after each rename: a kill cannot tell, a power cut
+// can.
+TEST(YearFiles, EveryFileAndFolderIsSyncedAroundEachRename)
 {
-    const QString folder = testenv::FreshDir("listing");
-    for (const char* name : {"Default.mdb", "Encdb.MDB", "2004.mdb", "2005.mdb", "2006.MDB",
-                             "20071.mdb", "204.mdb", "2008.mdb.bak", "2009.BAK", "notes.txt"})
-        testenv::WriteFile(QDir(folder).filePath(name));
-    QDir().mkpath(QDir(folder).filePath("2010.mdb")); // a folder, not a file
-    EXPECT_EQ(ListYearFiles(folder), QStringList({"2004.mdb", "2005.mdb", "2006.MDB"}));
-}
-
-TEST(YearFiles, CreateCopiesTheTemplateAndLeavesAnExistingYearAlone)
-{
-    const QString folder = testenv::FreshDir("create");
-    const CreateYearResult first = CreateYearFile(folder, 2004);
-    ASSERT_EQ(first.Outcome, CreateYearResult::Status::Created) << first.Message.toStdString();
-    EXPECT_EQ(first.Path, QDir(folder).filePath("2004.mdb"));
-    EXPECT_EQ(FilesIn(folder), QStringList({"2004.mdb", "Default.mdb"}));
-    EXPECT_EQ(CountRows(QDir(folder).filePath("Default.mdb"), "table1"), 0);
-
-    const QString path = MakeYearFile("create-existing", 20);
-    const QByteArray before = testenv::FileBytes(path);
-    const CreateYearResult again = CreateYearFile(FolderOf(path), Year);
-    EXPECT_EQ(again.Outcome, CreateYearResult::Status::AlreadyExists);
-    EXPECT_EQ(again.Path, path);
-    EXPECT_EQ(testenv::FileBytes(path), before);
-    EXPECT_EQ(CountRows(path, "table1"), 20);
-}
-
-TEST(YearFiles, TemplateLaysOutTheLogColumnsInTheirPlaces)
-{
-    const QString folder = testenv::FreshDir("template");
-    const QString path = QDir(folder).filePath("Default.mdb");
-    ASSERT_TRUE(CreateTemplateFile(path));
-    EXPECT_FALSE(CreateTemplateFile(path)); // never overwritten
-    Database db;
-    ASSERT_TRUE(db.Open(path));
-    const auto columns = db.Columns("TABLE1");
-    ASSERT_EQ(columns.size(), 25u);
-    const std::vector<std::pair<int, QString>> placed = {
-        {0, "DBID"},   {1, "JulianDate"}, {2, "IllumPercent"}, {3, "GraphicType"}, {4, "MoonAge"},
-        {5, "Waxing"}, {6, "Major1"},     {7, "Major2"},       {11, "SunRise"},    {12, "SunSet"}};
-    for (const auto& [index, name] : placed)
-        EXPECT_EQ(columns[std::size_t(index)].Name, name);
-    EXPECT_TRUE(columns[0].PrimaryKey);
-    EXPECT_EQ(columns[1].Kind, ColumnKind::Date);
-    EXPECT_EQ(columns[11].Kind, ColumnKind::Time);
-    EXPECT_EQ(columns[19].Name, "DayOfWeek_");
-    EXPECT_EQ(columns[19].Kind, ColumnKind::Integer);
-}
-
-TEST(Compaction, TwiceLeavesTheCompactedFileAndOneBackup)
-{
-    const QString path = MakeYearFile("compact");
-    {
-        Database db;
-        ASSERT_TRUE(db.Open(path));
-        ASSERT_TRUE(db.Execute("delete from table1 where month > 6"));
+    const std::vector<std::pair<const char*, std::function<bool(const QString&, FileOps&)>>> ops = {
+        {"create",
+         [](const QString& path, FileOps& o) {
+             DeleteYearFile(path); // and the template, made again from the schema
+             QFile::remove(QDir(FolderOf(path)).filePath("Default.mdb"));
+             return CreateYearFile(FolderOf(path), Year, {}, o).Outcome ==
+                    CreateYearResult::Status::Created;
+         }},
+        {"compact", [](const QString& path, FileOps& o) { return bool(CompactDB(path, {}, o)); }},
+        {"repair",
+         [](const QString& path, FileOps& o) {
+             Spoil(path);
+             return Repaired(RepairYearFile(path, {}, o));
+         }},
+        {"restore",
+         [](const QString& path, FileOps& o) {
+             CompactDB(path);
+             QFile::remove(path);
+             const auto kept = RestorableYears(FolderOf(path));
+             return kept.size() == 1 && RestoreYearFile(FolderOf(path), kept[0], o);
+         }},
+    };
+    for (const auto& [name, run] : ops) {
+        const QString path = MakeYearFile("durable", 30);
+        RecordingOps recording;
+        ASSERT_TRUE(run(path, recording)) << name;
+        EXPECT_EQ(PowerCutRisks(recording.Steps), "") << name;
+        EXPECT_TRUE(std::any_of(recording.Steps.begin(), recording.Steps.end(), [&](const Step& s) {
+            return s.Kind == "rename" && s.To == path;
+        })) << name;
+        EXPECT_EQ(CountRows(path, "table1"), std::string(name) == "create" ? 0 : 30) << name;
     }
-    const qint64 grown = QFileInfo(path).size();
-    ASSERT_TRUE(CompactDB(path));
-    EXPECT_LT(QFileInfo(path).size(), grown);
-    EXPECT_EQ(FilesIn(FolderOf(path)), QStringList({"2024.BAK", "2024.mdb", "Default.mdb"}));
-
-    const QByteArray beforeSecond = testenv::FileBytes(path);
-    ASSERT_TRUE(CompactDB(path));
-    EXPECT_EQ(FilesIn(FolderOf(path)), QStringList({"2024.BAK", "2024.mdb", "Default.mdb"}));
-    EXPECT_EQ(testenv::FileBytes(QDir(FolderOf(path)).filePath("2024.BAK")), beforeSecond);
-    EXPECT_EQ(CountRows(path, "table1"), 182);
 }
 
 // A year file kept elsewhere behind a link stays a link to the compacted or repaired file, and
@@ -115,64 +164,46 @@ TEST(Compaction, KeepsALinkALinkAndTheFilesPermissions)
 {
     using P = QFileDevice;
     const struct {
-        const char* Name;
         bool Linked;
         QFileDevice::Permissions Mode;
     } cases[] = {
-        {"linked", true, P::ReadOwner | P::WriteOwner | P::ReadGroup | P::ReadOther},
-        {"read-only", false, P::ReadOwner | P::ReadGroup | P::ReadOther},
-        {"private", false, P::ReadOwner | P::WriteOwner},
-        {"linked and read-only", true, P::ReadOwner | P::ReadGroup},
+        {true, P::ReadOwner | P::WriteOwner | P::ReadGroup | P::ReadOther},
+        {false, P::ReadOwner | P::ReadGroup | P::ReadOther},
+        {false, P::ReadOwner | P::WriteOwner},
+        {true, P::ReadOwner | P::ReadGroup},
     };
-    // Repair rebuilds a file holding a value no day can have; compact any sound file.
-    const struct {
-        const char* Name;
-        const char* Kept;
-        std::function<bool(const QString&)> Run;
-    } operations[] = {
-        {"compact", "2024.BAK", [](const QString& path) { return bool(CompactDB(path)); }},
-        {"repair", "2024.BAD",
-         [](const QString& path) {
-             const RepairReport report = RepairYearFile(path, {});
-             return report.Result && report.Damaged;
-         }},
+    const std::vector<std::pair<const char*, std::function<bool(const QString&)>>> operations = {
+        {"2024.BAK", [](const QString& path) { return bool(CompactDB(path)); }},
+        {"2024.BAD", [](const QString& path) { return Repaired(RepairYearFile(path, {})); }},
     };
-    for (const auto& op : operations)
+    for (const auto& [kept, run] : operations)
         for (const auto& c : cases) {
-            const std::string name = std::string(op.Name) + ", " + c.Name;
-            const QString made = MakeYearFile("keeps-shape", 30);
-            const QString folder = FolderOf(made);
-            QString path = made;
-            QString file = made;
-            {
-                Database db;
-                ASSERT_TRUE(db.Open(made));
-                ASSERT_TRUE(db.Execute("update table1 set IllumPercent = 500 where DBID = 3"));
-            }
+            const std::string name = std::string(kept) + " " + std::to_string(c.Mode.toInt());
+            const QString path = MakeYearFile("keeps-shape", 30);
+            const QString folder = FolderOf(path);
+            Spoil(path);
+            QString file = path;
             if (c.Linked) {
                 QDir().mkpath(folder + "/elsewhere");
                 file = folder + "/elsewhere/fishing-2024.sqlite";
-                ASSERT_TRUE(QFile::rename(made, file));
+                ASSERT_TRUE(QFile::rename(path, file));
                 ASSERT_TRUE(QFile::link(file, path));
             }
             ASSERT_TRUE(QFile::setPermissions(file, c.Mode));
-            ASSERT_TRUE(op.Run(path)) << name;
-            const QFileInfo info(path);
-            EXPECT_EQ(info.isSymLink(), c.Linked) << name;
-            EXPECT_EQ(info.canonicalFilePath(), QFileInfo(file).canonicalFilePath()) << name;
+            ASSERT_TRUE(run(path)) << name;
+            EXPECT_EQ(QFileInfo(path).isSymLink(), c.Linked) << name;
+            EXPECT_EQ(QFileInfo(path).canonicalFilePath(), QFileInfo(file).canonicalFilePath());
             // The owner's, group's and others' permissions; the User ones are this process's.
-            const auto mode =
-                QFileInfo(file).permissions() & ~(P::ReadUser | P::WriteUser | P::ExeUser);
-            EXPECT_EQ(mode, c.Mode) << name;
-            EXPECT_EQ(CountRows(path, "table1"), 30) << name;
-            EXPECT_TRUE(QFile::exists(folder + "/" + op.Kept)) << name;
-            EXPECT_EQ(QDir(QFileInfo(file).absolutePath()).entryList({"New*", "Rep*"}, QDir::Files),
-                      QStringList())
+            EXPECT_EQ(QFileInfo(file).permissions() & ~(P::ReadUser | P::WriteUser | P::ExeUser),
+                      c.Mode)
                 << name;
+            EXPECT_EQ(CountRows(path, "table1"), 30) << name;
+            EXPECT_TRUE(QFile::exists(folder + "/" + kept)) << name;
+            EXPECT_EQ(QDir(FolderOf(file)).entryList({"New*", "Rep*"}, QDir::Files), QStringList());
         }
 }
 
-TEST(Compaction, AFailureLeavesTheYearFileReadable)
+TEST(Compaction, AFailureOrAFileThatIsNotAWholeLogLeavesTheFilesAsTheyAre)
 {
     const QString path = MakeYearFile("compact-fail");
     const QString folder = FolderOf(path);
@@ -182,28 +213,37 @@ TEST(Compaction, AFailureLeavesTheYearFileReadable)
         EXPECT_EQ(CountRows(path, "table1"), DaysInYear) << "rename " << failing;
         EXPECT_FALSE(QFileInfo::exists(QDir(folder).filePath("New2024.mdb")));
     }
-    // A compacted copy that cannot be written: a folder stands in its place.
-    ASSERT_TRUE(QDir(folder).mkdir("New2024.mdb"));
-    EXPECT_FALSE(CompactDB(path));
-    EXPECT_EQ(CountRows(path, "table1"), DaysInYear);
     EXPECT_FALSE(CompactDB(QDir(folder).filePath("1999.mdb")));
+
+    ASSERT_TRUE(CompactDB(path)); // 2024.BAK: the good file
+    const QByteArray whole = testenv::FileBytes(path);
+    const QByteArray kept = testenv::FileBytes(QDir(folder).filePath("2024.BAK"));
+    const int page = (uchar(whole[16]) << 8) | uchar(whole[17]);
+    for (const auto& [why, content] : std::vector<std::pair<const char*, QByteArray>>{
+             {"is empty", QByteArray()},
+             {"is cut short", whole.left(whole.size() - page)},
+             {"is cut short", whole.left(whole.size() - 100)},
+             {"is not a Quillmere log", QByteArray("%PDF-1.4 a report")}}) {
+        testenv::WriteFile(path, content);
+        const DbResult compacted = CompactDB(path);
+        EXPECT_TRUE(compacted.Message.contains(why)) << compacted.Message.toStdString();
+        EXPECT_TRUE(compacted.Message.contains("2024.BAK is kept as it is"));
+        EXPECT_EQ(testenv::FileBytes(QDir(folder).filePath("2024.BAK")), kept) << why;
+        EXPECT_EQ(testenv::FileBytes(path), content) << why;
+    }
 }
 
-TEST(Password, AProtectedFileOpensOnlyWithItsPassword)
+TEST(Password, AProtectedFileOpensOnlyWithItsPasswordAndStaysProtectedWhenCompacted)
 {
     const QString path = MakeYearFile("password", 10);
-    {
-        Database db;
-        ASSERT_TRUE(db.Open(path));
-        ASSERT_TRUE(db.SetPassword("Trout7"));
-    }
     Database db;
+    ASSERT_TRUE(db.Open(path));
+    ASSERT_TRUE(db.SetPassword("Trout7"));
+    db.Close();
     const DbResult refused = db.Open(path);
-    EXPECT_FALSE(refused);
     EXPECT_EQ(refused.Message, "Not a valid password.");
     EXPECT_FALSE(db.IsOpen());
     EXPECT_FALSE(db.Open(path, ";pwd=trout7"));
-    EXPECT_TRUE(db.Open(path, ";pwd=Trout7"));
 
     DataControl data;
     data.SetDatabaseName(path);
@@ -213,45 +253,11 @@ TEST(Password, AProtectedFileOpensOnlyWithItsPassword)
     ASSERT_TRUE(data.Refresh());
     EXPECT_EQ(data.RecordCount(), 10);
     data.Close();
-    db.Close();
 
-    // The compacted file keeps the protection.
     EXPECT_FALSE(CompactDB(path));
     ASSERT_TRUE(CompactDB(path, ";pwd=Trout7"));
     EXPECT_FALSE(db.Open(path));
-    EXPECT_EQ(CountRows(path, "table1", ";pwd=Trout7"), 10);
-
     ASSERT_TRUE(db.Open(path, ";pwd=Trout7"));
     ASSERT_TRUE(db.SetPassword({}));
     EXPECT_TRUE(db.Open(path));
-}
-
-TEST(Compaction, AFileThatIsNotAWholeLogIsRefusedAndTheBackupKept)
-{
-    const QString made = MakeYearFile("compact-bad-source");
-    const QByteArray whole = testenv::FileBytes(made);
-    const int page = (uchar(whole[16]) << 8) | uchar(whole[17]);
-    const std::vector<std::pair<const char*, QByteArray>> bad = {
-        {"is empty", QByteArray()},
-        {"is cut short", whole.left(whole.size() - page)},
-        {"is cut short", whole.left(whole.size() - 100)},
-        {"is not a Quillmere log", QByteArray("%PDF-1.4 a report")},
-    };
-    for (const auto& [why, content] : bad) {
-        const QString path = MakeYearFile("compact-bad");
-        ASSERT_TRUE(CompactDB(path)); // 2024.BAK: the good file
-        const QString bak = QDir(FolderOf(path)).filePath("2024.BAK");
-        const QByteArray kept = testenv::FileBytes(bak);
-        {
-            QFile f(path);
-            ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            f.write(content);
-        }
-        const DbResult compacted = CompactDB(path);
-        EXPECT_FALSE(compacted) << why;
-        EXPECT_TRUE(compacted.Message.contains(why)) << compacted.Message.toStdString();
-        EXPECT_TRUE(compacted.Message.contains("2024.BAK is kept as it is"));
-        EXPECT_EQ(testenv::FileBytes(bak), kept) << why;
-        EXPECT_EQ(testenv::FileBytes(path), content) << why;
-    }
 }

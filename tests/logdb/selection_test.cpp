@@ -6,6 +6,8 @@
 #include "support/filledyear.h"
 #include "support/logfixture.h"
 
+#include <QTime>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -56,61 +58,79 @@ QString* Selecting::Path = nullptr;
 TEST_F(Selecting, NothingCheckedGivesTheWholeYearSortedByDate)
 {
     QString caption;
-    const std::vector<int> all = Select(QueryForm(), 1, &caption);
-    EXPECT_EQ(all.size(), 366u);
-    EXPECT_EQ(all, Plain("1"));
+    EXPECT_EQ(Select(QueryForm(), 1, &caption), Plain("1"));
     EXPECT_EQ(caption, "Sorted by Date");
 }
 
-TEST_F(Selecting, BestAndVeryGoodTogetherGiveNone)
+// Each condition, and each range with both of its ends at values the file holds, against the
+// same question asked in plain SQL.
+TEST_F(Selecting, EachConditionAndBothEndsOfEachRangeAgreeWithPlainSql)
 {
-    const std::vector<int> best = Select(Form({6}));
-    EXPECT_FALSE(best.empty());
-    EXPECT_EQ(best, Plain("GraphicType = 4"));
-    EXPECT_EQ(Select(Form({7})), Plain("GraphicType = 3"));
-    EXPECT_TRUE(Select(Form({6, 7})).empty());
-}
-
-TEST_F(Selecting, WeekendCodesAndZeroInTheDayOfWeekBox)
-{
-    const std::vector<int> satSun = Plain("DayOfWeek_ IN (1, 7)");
-    EXPECT_EQ(satSun.size(), 104u);
-    for (const std::string second : {"1", "5", "9"})
-        EXPECT_EQ(Select(Form({2}, {{3, "8"}, {4, second}})), satSun) << second;
-    EXPECT_EQ(Select(Form({2}, {{3, "9"}, {4, "2"}})), Plain("DayOfWeek_ IN (1, 6, 7)"));
-    EXPECT_EQ(Select(Form({2}, {{3, "0"}, {4, "3"}})).size(), 366u);
-    EXPECT_EQ(Select(Form({2}, {{3, "2"}, {4, "4"}})), Plain("DayOfWeek_ BETWEEN 2 AND 4"));
-}
-
-TEST_F(Selecting, Major1BetweenNoonAndMidnight)
-{
-    EXPECT_EQ(Select(Form({1}, {{Text1Box, "12:00 PM"}, {Text2Box, "12:00 PM"}})).size(), 366u);
-    const std::vector<int> morning =
-        Select(Form({1}, {{Text1Box, "12:00 AM"}, {Text2Box, "12:00 PM"}}));
-    EXPECT_EQ(morning, Plain("Major1 BETWEEN '00:00:00' AND '12:00:00'"));
-    EXPECT_GT(morning.size(), 100u);
-    EXPECT_LT(morning.size(), 266u);
-}
-
-TEST_F(Selecting, CombinedConditionsAgreeWithPlainSql)
-{
-    // Best days of spring on a weekend with the moon waxing.
-    EXPECT_EQ(Select(Form({0, 6, 2, 10}, {{1, "3"}, {2, "5"}, {3, "8"}, {4, "1"}})),
-              Plain("Month BETWEEN 3 AND 5 AND GraphicType = 4 AND DayOfWeek_ IN (1, 7) AND "
-                    "Waxing = 1"));
-    // Days with a major in the evening on which something was taken.
-    const std::vector<int> evening =
-        Select(Form({8, 9}, {{10, "5:00 PM"}, {11, "9:00 PM"}, {9, "2"}}));
-    EXPECT_FALSE(evening.empty());
-    EXPECT_EQ(evening, Plain("(Major1 BETWEEN '17:00:00' AND '21:00:00' OR Major2 BETWEEN "
-                             "'17:00:00' AND '21:00:00') AND TotalTaken >= 2"));
-    // Five conditions at once.
-    EXPECT_EQ(
-        Select(Form({0, 3, 4, 5, 13},
-                    {{1, "4"}, {2, "9"}, {5, "3"}, {6, "20"}, {7, "10"}, {8, "90"}, {0, "13"}})),
-        Plain("Month BETWEEN 4 AND 9 AND MoonAge BETWEEN 3 AND 20 AND IllumPercent BETWEEN "
-              "10 AND 90 AND DaylightHours >= 13 AND GraphicType > 0"));
-    EXPECT_EQ(Select(Form({12, 11})), Plain("Perigee = 1 AND Waxing = 0"));
+    // Stored majors on whole minutes, as a clock box is typed ("7:05 PM"), and stored.
+    const auto majors = [](const char* column, int offset) {
+        const QString stored =
+            PlainColumn(*Path, QString("SELECT %1 FROM table1 WHERE %1 LIKE '%:00' ORDER BY %1 "
+                                       "LIMIT 1 OFFSET %2")
+                                   .arg(column)
+                                   .arg(offset))
+                .at(0)
+                .toString();
+        return std::pair{QTime::fromString(stored, "HH:mm:ss").toString("h:mm AP").toStdString(),
+                         "'" + stored + "'"};
+    };
+    const auto [early, earlyStored] = majors("Major1", 60);
+    const auto [late, lateStored] = majors("Major1", 200);
+    const auto [evening, eveningStored] = majors("Major2", 250);
+    const auto [night, nightStored] = majors("Major2", 300);
+    const auto illum = [](int dbid) {
+        return PlainColumn(*Path,
+                           QString("SELECT IllumPercent FROM table1 WHERE DBID = %1").arg(dbid))
+            .at(0)
+            .toString();
+    };
+    const QString dim = illum(40), bright = illum(45);
+    const QString dimToBright = std::min(dim.toInt(), bright.toInt()) == dim.toInt()
+                                    ? dim + " AND " + bright
+                                    : bright + " AND " + dim;
+    const std::vector<std::tuple<QueryForm, QString, QString>> cases = {
+        // the form; the days in plain SQL; days at the range's ends that must be among them
+        // (and for other conditions any at all)
+        {Form({0}, {{1, "3"}, {2, "5"}}), "Month BETWEEN 3 AND 5", "Month IN (3, 5)"},
+        {Form({1}, {{Text1Box, early}, {Text2Box, late}}),
+         "Major1 BETWEEN " + earlyStored + " AND " + lateStored,
+         "Major1 IN (" + earlyStored + ", " + lateStored + ")"},
+        {Form({1}, {{Text1Box, "12:00 AM"}, {Text2Box, "12:00 PM"}}),
+         "Major1 BETWEEN '00:00:00' AND '12:00:00'", "1"},
+        {Form({1}, {{Text1Box, "12:00 PM"}, {Text2Box, "12:00 PM"}}), "1", "1"},
+        {Form({2}, {{3, "2"}, {4, "4"}}), "DayOfWeek_ BETWEEN 2 AND 4", "DayOfWeek_ IN (2, 4)"},
+        {Form({2}, {{3, "8"}, {4, "5"}}), "DayOfWeek_ IN (1, 7)", "1"},
+        {Form({2}, {{3, "9"}, {4, "2"}}), "DayOfWeek_ IN (1, 6, 7)", "1"},
+        {Form({2}, {{3, "0"}, {4, "3"}}), "1", "1"},
+        {Form({3}, {{5, "3"}, {6, "20"}}), "MoonAge BETWEEN 3 AND 20", "MoonAge IN (3, 20)"},
+        {Form({3}, {{5, "0"}, {6, "29"}}), "MoonAge BETWEEN 0 AND 29", "MoonAge IN (0, 29)"},
+        {Form({4}, {{7, dimToBright.section(' ', 0, 0).toStdString()},
+                    {8, dimToBright.section(' ', 2, 2).toStdString()}}),
+         "IllumPercent BETWEEN " + dimToBright, "IllumPercent IN (" + dim + ", " + bright + ")"},
+        {Form({5}, {{0, "13"}}), "DaylightHours >= 13", "1"},
+        {Form({6}), "GraphicType = 4", "1"},
+        {Form({7}), "GraphicType = 3", "1"},
+        {Form({6, 7}), "0", ""}, // best and very good: none
+        {Form({8}, {{10, evening}, {11, night}}),
+         "Major1 BETWEEN " + eveningStored + " AND " + nightStored + " OR Major2 BETWEEN " +
+             eveningStored + " AND " + nightStored,
+         "Major2 IN (" + eveningStored + ", " + nightStored + ")"},
+        {Form({9}, {{9, "3"}}), "TotalTaken >= 3", "TotalTaken = 3"},
+        {Form({10, 12}), "Waxing = 1 AND Perigee = 1", "1"},
+        {Form({11, 13}), "Waxing = 0 AND GraphicType > 0", "1"},
+        {Form({0, 6, 2, 10}, {{1, "3"}, {2, "5"}, {3, "8"}, {4, "1"}}),
+         "Month BETWEEN 3 AND 5 AND GraphicType = 4 AND DayOfWeek_ IN (1, 7) AND Waxing = 1", "1"},
+    };
+    for (const auto& [form, where, ends] : cases) {
+        const std::vector<int> expected = Plain(where);
+        EXPECT_EQ(Select(form), expected) << where.toStdString();
+        EXPECT_TRUE(ends.isEmpty() || !Plain("(" + where + ") AND " + ends).empty())
+            << where.toStdString();
+    }
 }
 
 TEST_F(Selecting, EachOrderAgreesWithASortOfTheSameRows)

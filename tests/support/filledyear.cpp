@@ -31,17 +31,7 @@ QString MakeFilledYearFile(const QString& folderName)
     return path;
 }
 
-void PlainExec(const QString& path, const QString& sqliteSql)
-{
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "plainexec");
-        db.setDatabaseName(path);
-        EXPECT_TRUE(db.open());
-        QSqlQuery q(db);
-        EXPECT_TRUE(q.exec(sqliteSql)) << q.lastError().text().toStdString();
-    }
-    QSqlDatabase::removeDatabase("plainexec");
-}
+void PlainExec(const QString& path, const QString& sqliteSql) { PlainRows(path, sqliteSql); }
 
 std::vector<std::vector<QVariant>> PlainRows(const QString& path, const QString& sqliteSql)
 {

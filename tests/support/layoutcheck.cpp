@@ -44,13 +44,13 @@ struct Faults {
     {
         if (needed > room)
             Lines << Describe(w, text) +
-                         QStringLiteral(": needs %1 px, has %2 px").arg(needed).arg(room);
+                         QString::asprintf(": needs %d px, has %d px", needed, room);
     }
     void Height(const QWidget& w, const QString& text, int needed, int room)
     {
         if (needed > room)
             Lines << Describe(w, text) +
-                         QStringLiteral(": needs %1 px high, has %2 px").arg(needed).arg(room);
+                         QString::asprintf(": needs %d px high, has %d px", needed, room);
     }
 };
 
@@ -254,13 +254,9 @@ void CheckPlace(const QWidget& child, Faults& faults)
         return;
     if (!parent->rect().contains(child.geometry()))
         faults.Lines << Describe(child, {}) +
-                            QStringLiteral(": lies at %1,%2 %3x%4 outside its parent's %5x%6")
-                                .arg(child.x())
-                                .arg(child.y())
-                                .arg(child.width())
-                                .arg(child.height())
-                                .arg(parent->width())
-                                .arg(parent->height());
+                            QString::asprintf(": lies at %d,%d %dx%d outside its parent's %dx%d",
+                                              child.x(), child.y(), child.width(), child.height(),
+                                              parent->width(), parent->height());
 }
 
 void CheckWidget(QWidget& w, Faults& faults)
@@ -296,11 +292,9 @@ QStringList ClippedItems(QWidget& window)
     const QRect screen = window.screen()->availableGeometry();
     if (window.width() > screen.width() || window.height() > screen.height())
         faults.Lines << Describe(window, window.windowTitle()) +
-                            QStringLiteral(": %1x%2 is larger than the screen's %3x%4")
-                                .arg(window.width())
-                                .arg(window.height())
-                                .arg(screen.width())
-                                .arg(screen.height());
+                            QString::asprintf(": %dx%d is larger than the screen's %dx%d",
+                                              window.width(), window.height(), screen.width(),
+                                              screen.height());
     for (QWidget* child : window.findChildren<QWidget*>()) {
         if (!child->isWindow() && child->isVisibleTo(&window))
             CheckWidget(*child, faults);

@@ -65,4 +65,18 @@ void WriteFile(const QString& path, const QByteArray& bytes)
     EXPECT_EQ(file.write(bytes), bytes.size()) << path.toStdString();
 }
 
+std::vector<QStringList> DataRows(const QString& path)
+{
+    std::vector<QStringList> rows;
+    for (const QString& line : QString::fromUtf8(FileBytes(path)).split('\n')) {
+        if (line.trimmed().isEmpty() || line.startsWith('#'))
+            continue;
+        rows.push_back(line.split('|'));
+        for (QString& field : rows.back())
+            field = field.trimmed();
+    }
+    EXPECT_FALSE(rows.empty()) << path.toStdString();
+    return rows;
+}
+
 } // namespace testenv

@@ -5,6 +5,9 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
+
+#include <vector>
 
 namespace testenv {
 // Creates the folders and points the environment at them; call before QApplication exists.
@@ -17,4 +20,7 @@ QString FreshDir(const QString& name);
 QByteArray FileBytes(const QString& path);
 // Writes the bytes as the whole content of the file; a test failure when it cannot be written.
 void WriteFile(const QString& path, const QByteArray& bytes = {});
+// The rows of a reference data file: its lines split at "|", each field trimmed; blank lines
+// and lines starting with "#" left out. A test failure when it holds no row.
+std::vector<QStringList> DataRows(const QString& path);
 } // namespace testenv
