@@ -5,13 +5,15 @@ prints which of them catch it. The faulty file always gets its original bytes ba
 
     python3 tools/faults.py [--build DIR] [--only ID,ID] [--column NAME] [--list]
 
-A test is skipped for a fault only when every build program its command names (or that those
-programs start through a path compiled into them) is untouched by the fault's build; tests
-naming no build program always run. Tests failing with no fault are left out of the judgement.
---column NAME writes the results as the column NAME of tools/fault-table.md.
+A test is skipped for a fault only when its command names build programs and neither they nor
+the build files whose paths are compiled into them (a program they start, a database they read)
+changed in the fault's build; tests naming no build program always run. Tests failing with no
+fault are left out of the judgement. --column NAME writes the results as the column NAME of
+tools/fault-table.md, keeping its other columns.
 """
 import argparse
 import configparser
+import json
 import os
 import re
 import shutil
@@ -19,7 +21,6 @@ import signal
 import subprocess
 import sys
 import time
-import json
 import xml.etree.ElementTree as ET
 from pathlib import Path
 
@@ -141,8 +142,8 @@ def write_column(column, faults, results):
         row = rows.get(fid, {}) | {'fault': fid, 'folder': fault['folder'], 'what': fault['what']}
         row |= {column: cell(results[fid])} if fid in results else {}
         table.append([row.get(h, '') for h in header])
-    caught = [f"{h} {sum(r[i].startswith('caught') for r in table[2:])} of {len(faults)}"
-              for i, h in enumerate(header) if i >= 3]
+    caught = [f"{h} {sum(r[i].startswith('caught') for r in table[2:])} of "
+              f"{sum(bool(r[i]) for r in table[2:])} run" for i, h in enumerate(header) if i >= 3]
     text = '\n'.join('| ' + ' | '.join(c.replace('|', '\\|') for c in r) + ' |' for r in table)
     TABLE.write_text(f"{text}\n\nFaults caught: {', '.join(caught)}.\n")
 
