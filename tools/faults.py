@@ -119,13 +119,13 @@ def try_fault(fault, folder, clean, seen, broken):
         path.write_bytes(original)
 
 
-def cell(result):
+def cell(result, shown=SHOWN_NAMES):
     if isinstance(result, str):
         return result
     if not result:
         return 'MISSED'
-    more = ', ...' if len(result) > SHOWN_NAMES else ''
-    return f"caught ({len(result)}): {', '.join(result[:SHOWN_NAMES])}{more}"
+    more = ', ...' if shown and len(result) > shown else ''
+    return f"caught ({len(result)}): {', '.join(result[:shown])}{more}"
 
 
 def split_row(line):
@@ -187,7 +187,7 @@ def main():
         if not built:
             sys.exit(f'faults.py: the restored tree does not build:\n{log[-2000:]}')
         clean = build_times(folder, watched)
-        print(f'  {cell(results[fid])} ({time.monotonic() - began:.0f} s)', flush=True)
+        print(f'  {cell(results[fid], shown=None)} ({time.monotonic() - began:.0f} s)', flush=True)
         if args.column:  # after each fault, so that a stopped run keeps what it found
             write_column(args.column, faults, results)
     print(f"\n{'fault':36} {'folder':13} {'what':50} result")
