@@ -66,38 +66,27 @@ def folder_of(relpath):
 
 
 def qt_module(header, cache={}):
-    if header in cache:
-        return cache[header]
-    found = None
-    for root in QT_INCLUDE_ROOTS:
-        if not os.path.isdir(root):
-            continue
-        for module in sorted(os.listdir(root)):
-            if os.path.isfile(os.path.join(root, module, header)):
-                found = module
-                break
-        if found:
-            break
-    cache[header] = found
-    return found
+    """The Qt module whose include folder holds the header, or None."""
+    if header not in cache:
+        folders = [os.path.join(root, m) for root in QT_INCLUDE_ROOTS if os.path.isdir(root)
+                   for m in sorted(os.listdir(root))]
+        cache[header] = next((os.path.basename(f) for f in folders
+                              if os.path.isfile(os.path.join(f, header))), None)
+    return cache[header]
 
 
 def check_source(src):
     faults = []
     for dirpath, _, files in os.walk(src):
-        for name in sorted(files):
-            if not name.endswith((".cpp", ".h")):
-                continue
-            path = os.path.join(dirpath, name)
-            rel = os.path.relpath(path, src)
+        for name in sorted(n for n in files if n.endswith((".cpp", ".h"))):
+            rel = os.path.relpath(os.path.join(dirpath, name), src)
             folder = folder_of(rel)
             if folder is None:
                 faults.append(f"{rel}: its folder is in no layer")
                 continue
             rank, allowed_qt = layer_of(folder)
-            with open(path, encoding="utf-8") as f:
-                text = f.read()
-            faults += check_includes(rel, folder, rank, allowed_qt, text)
+            with open(os.path.join(src, rel), encoding="utf-8") as f:
+                faults += check_includes(rel, folder, rank, allowed_qt, f.read())
     return faults
 
 
