@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The catch editor driven by key events on the real window, the record browser's catch list,
-// the catches' export and import, and the statistics of the days fished and of the catches,
-// with the statistics window opened from the browser, checked against the year file read in
-// plain SQL.
-#include "logdb/catchdays.h"
+// the catches' export and import, and the statistics window, checked against the year file
+// read in plain SQL.
 #include "logdb/catchphotos.h"
 #include "ui/log/catcheditor.h"
 #include "ui/log/catchlist.h"
@@ -14,7 +12,6 @@
 #include "ui/log/logdata.h"
 #include "ui/log/logwindowenv.h"
 
-#include <QAbstractItemView>
 #include <QAction>
 #include <QBarCategoryAxis>
 #include <QBarSet>
@@ -27,8 +24,6 @@
 #include <QPainter>
 #include <QSpinBox>
 #include <QStackedBarSeries>
-#include <QTabWidget>
-#include <QTableWidget>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -90,40 +85,6 @@ struct Editing {
         return editor;
     }
 };
-
-// A year file of the fixture with the catches of six days and no other entries. Day 10 has
-// its majors at 08:50 AM and 08:50 PM, no first minor (-1) and its second at 02:00 AM; day 27
-// has its first major at 11:51 PM.
-QString YearWithCatches(const QString& folderName)
-{
-    return MakeYearFileWithEntries(
-        folderName, {{10, {{"TotalTaken", 3}, {"PeakTime", "11:00 PM"}, {"Minor2", 2.0}}},
-                     {27, {{"TotalTaken", 6}, {"PeakTime", "12:00 AM"}}},
-                     {100, {{"Notes", "lost a big one"}}},
-                     {200, {{"TotalTaken", 0}}},
-                     {201, {{"TakenWith", "worms"}}}, // nothing that makes a day fished
-                     {204, {{"TotalTaken", 9}, {"PeakTime", "9:00 AM"}}}});
-}
-
-// Days fished and their total per rating (GraphicType 4 first), asked of the files directly,
-// beside the same of the statistics.
-void ExpectRatingsMatchSql(const CatchStatistics& stats, const QStringList& paths)
-{
-    std::map<int, std::pair<int, long>> sql, read;
-    for (const QString& path : paths)
-        for (const auto& row : PlainRows(path, "SELECT GraphicType, count(*), total(TotalTaken) "
-                                               "FROM table1 WHERE TotalTaken IS NOT NULL OR "
-                                               "trim(PeakTime) <> '' OR trim(Notes) <> '' "
-                                               "GROUP BY GraphicType")) {
-            sql[row[0].toInt()].first += row[1].toInt();
-            sql[row[0].toInt()].second += row[2].toLongLong();
-        }
-    for (int rating = 0; rating <= 4; ++rating)
-        if (const CatchGroup& g = stats.Groupings[ByRating].Groups[size_t(4 - rating)];
-            g.DaysFished > 0)
-            read[rating] = {g.DaysFished, g.TotalTaken};
-    EXPECT_EQ(read, sql);
-}
 
 } // namespace
 
@@ -245,8 +206,6 @@ TEST(CatchList, ShowsTheDaysCatchesAsTheFileHoldsThem)
             .toString();
     EXPECT_TRUE(QFileInfo::exists(QDir(folder).filePath(stored))) << stored.toStdString();
     EXPECT_TRUE(list.Notice->isHidden());
-    browser.show();
-    Screenshot(browser, QStringLiteral("catch-browser"));
 
     list.Catches->setCurrentItem(list.Catches->topLevelItem(1));
     list.cmdEditCatch_Click(); // Perch becomes Zander, one fish
@@ -296,20 +255,76 @@ TEST(CatchList, ADayOfTwentyCatchesAndPhotosShowsWithin50Ms)
     EXPECT_EQ(list.Catches->topLevelItemCount(), 20);
 }
 
-// The statistics' catch pages chart what the file holds, asked in plain SQL, and name the
-// water temperature bands in the chosen units.
-TEST(CatchPages, ChartTheFilesFishInTheChosenUnits)
+// Export from Database Functions and import into a fresh year: the catches arrive as the file
+// held them, and exporting the new year gives the same bytes.
+TEST(CatchExport, DatabaseFunctionsExportAndImportTheCatchesWhole)
 {
-    const QString path = MakeYearFile(QStringLiteral("catch-pages"), 3);
+    const QString columns = QStringLiteral(
+        "SELECT JulianDate, CatchTime, Species, FishCount, LengthMm, WeightG, Released, Bait, "
+        "Spot, Latitude, Longitude, WaterTemp, Note FROM Catches ORDER BY JulianDate, CatchTime");
+    const QString from = MakeYearFileWithEntries("catch-export");
+    std::vector<Catch> catches = CatchRows("chart_catches.csv");
+    catches[1].Note = "line one\nline \"two\", three";
+    catches[2].Latitude = 46.5;
+    catches[2].Longitude = -84.25;
+    ASSERT_TRUE(AddCatches(from, catches, QDateTime::currentDateTime()));
+    const QString into = MakeYearFileWithEntries("catch-import");
+    const QString first = QFileInfo(from).absolutePath() + "/out.json";
+    const QString again = QFileInfo(into).absolutePath() + "/again.json";
+    LogWindowEnv source(QFileInfo(from).absolutePath());
+    FrmSelectDB exporter(source.Context());
+    exporter.DBFiles->setCurrentRow(0);
+    exporter.ChooseExportFile = [&first] { return first; };
+    exporter.CmdExport_Click();
+    LogWindowEnv target(QFileInfo(into).absolutePath());
+    FrmSelectDB importer(target.Context());
+    importer.DBFiles->setCurrentRow(0);
+    importer.ChooseImportFile = [&first] { return first; };
+    importer.CmdImport_Click();
+    importer.ChooseExportFile = [&again] { return again; };
+    importer.CmdExport_Click();
+    EXPECT_EQ(PlainRows(into, columns), PlainRows(from, columns));
+    EXPECT_EQ(PlainRows(into, columns).size(), 4u);
+    EXPECT_EQ(testenv::FileBytes(first), testenv::FileBytes(again));
+    EXPECT_TRUE(target.ShownTexts().last().startsWith("366 day(s) and 4 catch(es)"))
+        << target.ShownTexts().join("|").toStdString();
+}
+
+// The browser's Statistics menu opens the window. It counts the days fished (a catch, a peak
+// time or a note) as plain SQL does, charts the catches the file holds with the water
+// temperature bands in the chosen units, copies its table, and counts every year of the folder
+// when asked.
+TEST(FrmStatistics, OpensFromTheBrowserAndShowsWhatTheFileHolds)
+{
+    const QString path = MakeYearFileWithEntries(
+        "stats-window", {{10, {{"TotalTaken", 3}, {"PeakTime", "11:00 PM"}}},
+                         {100, {{"Notes", "lost a big one"}}},
+                         {200, {{"TotalTaken", 0}}},
+                         {201, {{"TakenWith", "worms"}}}}); // not a day fished
     std::vector<Catch> catches = CatchRows("chart_catches.csv");
     ASSERT_TRUE(AddCatches(path, catches, QDateTime::currentDateTime()));
     LogWindowEnv env(QFileInfo(path).absolutePath(), path);
+    frmTable1 browser(env.Context());
+    browser.Data1.SetDatabaseName(path);
+    QString shownTitle;
+    QTimer::singleShot(0, [&] {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (auto* s = qobject_cast<FrmStatistics*>(w); s && s->isVisible()) {
+                shownTitle = s->windowTitle();
+                s->close();
+            }
+    });
+    for (QAction* a : browser.findChild<QMenuBar*>()->actions())
+        if (a->text() == "&Statistics")
+            a->trigger();
+    EXPECT_EQ(shownTitle, "Catch Statistics");
+
     LogContext context = env.Context();
     context.Units = UnitSystem::Imperial;
-    FrmStatistics window(context, path);
+    FrmStatistics w(context, path);
     using Bars = std::map<QString, std::pair<long, long>>; // name: fish, released
-    const auto chartOf = [&window](int page) {
-        QChart* chart = window.CatchCharts->Charts[std::size_t(page)]->chart();
+    const auto chartOf = [&w](int page) {
+        QChart* chart = w.CatchCharts->Charts[std::size_t(page)]->chart();
         auto* series = qobject_cast<QStackedBarSeries*>(chart->series().front());
         auto* axis = qobject_cast<QBarCategoryAxis*>(chart->axes(Qt::Horizontal).front());
         Bars bars;
@@ -327,118 +342,17 @@ TEST(CatchPages, ChartTheFilesFishInTheChosenUnits)
     EXPECT_EQ(chartOf(4), (Bars{{"(no temperature)", {1, 1}},
                                 {"41 to 50 \u00B0F", {1, 0}},
                                 {"50 to 59 \u00B0F", {8, 2}}}));
-    window.show();
-    window.Tabs->setCurrentWidget(window.CatchCharts->Pages);
-    Screenshot(window, QStringLiteral("catch-statistics"));
-}
-
-// Export from Database Functions and import into a fresh year: the catches arrive as the file
-// held them, and exporting the new year gives the same bytes, in CSV and in JSON.
-TEST(CatchExport, DatabaseFunctionsExportAndImportTheCatchesWhole)
-{
-    const QString columns = QStringLiteral(
-        "SELECT JulianDate, CatchTime, Species, FishCount, LengthMm, WeightG, Released, Bait, "
-        "Spot, Latitude, Longitude, WaterTemp, Note FROM Catches ORDER BY JulianDate, CatchTime");
-    for (const QString extension : {"csv", "json"}) {
-        const QString from = MakeYearFileWithEntries("catch-export-" + extension);
-        std::vector<Catch> catches;
-        for (const char* species : {"Pike", "Perch, yellow", "Zander \"big\""})
-            catches.push_back({.Date = catches.size() < 2 ? "2024-03-10" : "2024-12-31",
-                               .Time = QString("0%1:15:00").arg(catches.size() + 5),
-                               .Species = species,
-                               .Count = int(catches.size()) + 1,
-                               .LengthMm = 400 + int(catches.size()),
-                               .Released = catches.size() == 1,
-                               .Latitude = 46.5,
-                               .Longitude = -84.25,
-                               .WaterTemp = 11.5,
-                               .Note = "line one\nline two"});
-        ASSERT_TRUE(AddCatches(from, catches, QDateTime::currentDateTime()));
-        const QString into = MakeYearFileWithEntries("catch-import-" + extension);
-        const QString first = QFileInfo(from).absolutePath() + "/out." + extension;
-        const QString again = QFileInfo(into).absolutePath() + "/again." + extension;
-
-        LogWindowEnv source(QFileInfo(from).absolutePath());
-        FrmSelectDB exporter(source.Context());
-        exporter.DBFiles->setCurrentRow(0);
-        exporter.ChooseExportFile = [&first] { return first; };
-        exporter.CmdExport_Click();
-        LogWindowEnv target(QFileInfo(into).absolutePath());
-        FrmSelectDB importer(target.Context());
-        importer.DBFiles->setCurrentRow(0);
-        importer.ChooseImportFile = [&first] { return first; };
-        importer.CmdImport_Click();
-        importer.ChooseExportFile = [&again] { return again; };
-        importer.CmdExport_Click();
-
-        EXPECT_EQ(PlainRows(into, columns), PlainRows(from, columns)) << extension.toStdString();
-        EXPECT_EQ(PlainRows(into, columns).size(), 3u);
-        EXPECT_EQ(testenv::FileBytes(first), testenv::FileBytes(again)) << extension.toStdString();
-        EXPECT_TRUE(target.ShownTexts().last().startsWith("366 day(s) and 3 catch(es)"))
-            << target.ShownTexts().join("|").toStdString();
-    }
-}
-
-TEST(CatchDays, StatisticsOfYearFilesAgreeWithTheFilesAndSkipMissingMinors)
-{
-    const QString path = YearWithCatches("stats-read");
-    const QString other = QFileInfo(path).absolutePath() + "/2023.mdb";
-    ASSERT_TRUE(QFile::copy(path, other));
-    CatchStatistics one;
-    ASSERT_TRUE(CatchStatisticsOf({path}, one));
-    EXPECT_EQ(one.All.DaysFished, 5);
-    EXPECT_EQ(one.All.TotalTaken, 18);
-    ExpectRatingsMatchSql(one, {path});
-    // Day 10: 130 minutes from its second major; a missing minor read as 11:00 PM would make
-    // it 0. Day 27: 9 minutes over midnight. Day 204 (major 12:12 AM/PM): 3 h 12 min.
-    const auto& distance = one.Groupings[ByPeakDistance].Groups;
-    EXPECT_EQ(std::pair(distance[0].DaysFished, distance[0].TotalTaken), std::pair(1, 6L));
-    EXPECT_EQ(std::pair(distance[3].DaysFished, distance[3].TotalTaken), std::pair(2, 12L));
-
-    CatchStatistics both;
-    ASSERT_TRUE(CatchStatisticsOf({path, other}, both));
-    EXPECT_EQ(both.All.DaysFished, 10);
-    ExpectRatingsMatchSql(both, {path, other});
-    const DbResult failed =
-        CatchStatisticsOf({path, QFileInfo(path).absolutePath() + "/1999.mdb"}, both);
-    EXPECT_FALSE(failed);
-    EXPECT_TRUE(failed.Message.startsWith("1999.mdb: ")) << failed.Message.toStdString();
-}
-
-// The browser's Statistics menu opens the window; it shows the year's summary and table,
-// copies the table, and counts every year of the folder when asked.
-TEST(FrmStatistics, OpensFromTheBrowserWithSummaryAndACopyableTable)
-{
-    const QString path = YearWithCatches("stats-window");
-    LogWindowEnv env(QFileInfo(path).absolutePath(), path);
-    frmTable1 browser(env.Context());
-    browser.Data1.SetDatabaseName(path);
-    QString shownTitle;
-    QTimer::singleShot(0, [&] {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (auto* s = qobject_cast<FrmStatistics*>(w); s && s->isVisible()) {
-                shownTitle = s->windowTitle();
-                s->close();
-            }
-    });
-    for (QAction* a : browser.findChild<QMenuBar*>()->actions())
-        if (a->text() == "&Statistics")
-            a->trigger();
-    EXPECT_EQ(shownTitle, "Catch Statistics");
-
-    FrmStatistics w(env.Context(), path);
-    EXPECT_EQ(w.Figures().All.DaysFished, 5);
+    const int fished = SqlValue(path, "SELECT count(*) FROM table1 WHERE TotalTaken IS NOT NULL OR "
+                                      "trim(PeakTime) <> '' OR trim(Notes) <> ''")
+                           .toInt();
+    EXPECT_EQ(w.Figures().All.DaysFished, fished);
     EXPECT_EQ(w.Summary->text().toStdString(), CatchSummary(w.Figures()));
-    EXPECT_EQ(w.Tabs->tabText(ByWeekday), "Weekday");
-    EXPECT_EQ(w.Table->item(1, 0)->text(), "Best");
     w.CmdCopy_Click();
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(), CatchTableText(w.Figures()));
-    // A second copy of the year in the folder doubles every count.
-    ASSERT_TRUE(QFile::copy(path, env.Folder + "/2023.mdb"));
+    ASSERT_TRUE(QFile::copy(path, env.Folder + "/2023.mdb")); // a second year doubles the count
     w.ScopeCombo->setCurrentIndex(1);
     w.ScopeCombo_Click();
-    EXPECT_EQ(w.Figures().All.DaysFished, 10);
+    EXPECT_EQ(w.Figures().All.DaysFished, 2 * fished);
     EXPECT_TRUE(env.Messages.Shown().empty()) << env.ShownTexts().join("|").toStdString();
-    w.show();
     Screenshot(w, "frmstatistics");
 }
