@@ -36,18 +36,7 @@ struct Browser {
 
     Browser() { Window.Form_Activate(); }
     frmTable1* operator->() { return &Window; }
-    std::vector<int> ShownIds()
-    {
-        std::vector<int> ids;
-        DataControl& data = Window.Data1;
-        if (data.RecordCount() > 0)
-            data.MoveFirst();
-        for (int i = 0; i < data.RecordCount(); ++i, data.MoveNext())
-            ids.push_back(data.Field("DBID").toInt());
-        if (data.RecordCount() > 0)
-            data.MoveFirst();
-        return ids;
-    }
+    std::vector<int> ShownIds() { return RecordIds(SharedYear(), Window.Data1.RecordSource()); }
     QLineEdit* Box(int box)
     {
         return box == Text1Box   ? Window.Text1
@@ -188,72 +177,9 @@ TEST(QueryBuilderWindow, MonthsAndDaysMenus)
     }
 }
 
-TEST(QueryBuilderWindow, CatchEnteredOnASelectionReachesTheLog)
-{
-    Browser w;
-    w->Check1[6]->setChecked(true);
-    w->cmdSelect_Click();
-    ASSERT_GT(w->Data1.RecordCount(), 2);
-    w->Data1.MoveNext();
-    const int id = w->Data1.Field("DBID").toInt();
-    const QString select = QString("SELECT %2 FROM table1 WHERE DBID = %1").arg(id);
-    const auto before = PlainRows(SharedYear(), select.arg("TotalTaken, TakenWith"));
-    w->cmdEdit_Click();
-    w->txtFields[17]->setText("42");
-    w->txtFields[17]->setModified(true);
-    w->cmdUpdate_Click();
-    EXPECT_EQ(PlainColumn(SharedYear(), select.arg("TotalTaken")).at(0).toInt(), 42);
-    // The next selection rebuilds Table3 from the log and still finds the entry.
-    w->Check1[6]->setChecked(false);
-    w->Check1[9]->setChecked(true);
-    w->Text6[9]->setText("42");
-    w->cmdSelect_Click();
-    EXPECT_EQ(w.ShownIds(), std::vector<int>{id});
-    // An entry left in the editing state: Cancel keeps the records and the edit, Save saves
-    // it before a menu replaces the records.
-    w->cmdEdit_Click();
-    w->txtFields[18]->setText("spinner");
-    w->txtFields[18]->setModified(true);
-    w.Env.Answers = {MsgResult::Cancel, MsgResult::Save};
-    w->mnuYears[1]->trigger();
-    EXPECT_EQ(w.ShownIds(), std::vector<int>{id});
-    EXPECT_FALSE(w->cmdEdit->isEnabled());
-    w->mnuYears[1]->trigger();
-    EXPECT_EQ(w.Env.ShownTexts(), QStringList(2, "Save changes to this day?"));
-    EXPECT_EQ(PlainColumn(SharedYear(), select.arg("TakenWith")).at(0).toString(), "spinner");
-    EXPECT_TRUE(w->cmdEdit->isEnabled());
-    // As it was, for the other tests.
-    Database db;
-    ASSERT_TRUE(db.Open(SharedYear()));
-    ASSERT_TRUE(db.UpdateRecord({"table1"}, "DBID", id,
-                                {{"TotalTaken", before[0][0]}, {"TakenWith", before[0][1]}}));
-}
-
-TEST(GridView, ColumnsAndAJumpBackToThePickedDay)
-{
-    Browser w;
-    w->mnuYears[12]->trigger(); // Fridays
-    frmTable2 grid(w.Env.Context(), w->Data1.RecordSource());
-    grid.Form_Activate();
-    const auto* model = grid.DBGrid1->model();
-    ASSERT_EQ(model->rowCount(), 52);
-    EXPECT_EQ(model->columnCount(), 30); // table1's 25, then the 5 catch columns
-    EXPECT_TRUE(grid.DBGrid1->isColumnHidden(0) && !grid.DBGrid1->isColumnHidden(2));
-    EXPECT_EQ(model->index(0, 1).data().toString(), "01/05/2024");
-    Screenshot(grid, "frmTable2");
-
-    grid.DBGrid1->selectRow(9);
-    EXPECT_EQ(grid.Data1Bar->Caption(), "Record: 10");
-    grid.DBGrid1_DblClick(9);
-    w->Form_Activate();
-    EXPECT_EQ(w->Data1.Field("DBID").toInt(), Plain("DayOfWeek_ = 6")[9]);
-    EXPECT_EQ(w->Label3->text().left(3), "Fri");
-    EXPECT_FALSE(w.Env.State.FindRecord);
-}
-
-// The catch columns of each day, in the chosen units, against the sums worked by hand; empty
-// for a year file without catches.
-TEST(TableView, CatchColumnsSummariseEachDaysCatches)
+// The grid shows table1's columns, then each day's catch columns in the chosen units as worked
+// by hand (none for a year without catches); a double click takes the browser to the day.
+TEST(TableView, CatchColumnsSummariseEachDaysCatchesAndADoubleClickGoesBack)
 {
     const QString path = MakeYearFile("grid-catches");
     std::vector<Catch> catches = CatchRows("grid_catches.csv");
@@ -269,23 +195,25 @@ TEST(TableView, CatchColumnsSummariseEachDaysCatches)
         {path, UnitSystem::Metric, "Longest (cm)|Heaviest (kg)"},
         {path, UnitSystem::Imperial, "Longest (in)|Heaviest (lb)"},
         {MakeYearFile("grid-catches-old"), UnitSystem::Metric, "Longest (cm)|Heaviest (kg)"}};
+    const QString all = QStringLiteral("SELECT * FROM table1 ORDER BY JulianDate");
     for (const auto& k : cases) {
         LogWindowEnv env(QFileInfo(k.File).absolutePath(), k.File);
         LogContext context = env.Context();
         context.Units = k.Units;
-        frmTable2 grid(context, QStringLiteral("SELECT * FROM table1 ORDER BY JulianDate"));
+        frmTable2 grid(context, all);
         grid.Form_Activate();
         const auto* model = grid.DBGrid1->model();
-        const int first = model->columnCount() - 5;
+        ASSERT_EQ(model->columnCount(), 30); // table1's 25, then the 5 catch columns
+        EXPECT_TRUE(grid.DBGrid1->isColumnHidden(0) && !grid.DBGrid1->isColumnHidden(2));
         QStringList headings;
-        for (int c = first; c < model->columnCount(); ++c)
+        for (int c = 25; c < 30; ++c)
             headings << model->headerData(c, Qt::Horizontal).toString();
         EXPECT_EQ(headings.join('|'), QString("Species|Fish|Released|") + k.Headings);
         ASSERT_EQ(model->rowCount(), DaysInYear);
         const bool imperial = k.Units == UnitSystem::Imperial;
         for (int r = 0; r < model->rowCount(); ++r) {
             QStringList shown;
-            for (int c = first; c < model->columnCount(); ++c)
+            for (int c = 25; c < 30; ++c)
                 shown << model->index(r, c).data().toString();
             const QString day = model->index(r, 1).data().toString();
             QStringList want = k.File == path && days.contains(day) ? days[day] : QStringList(7);
@@ -294,6 +222,17 @@ TEST(TableView, CatchColumnsSummariseEachDaysCatches)
         }
         EXPECT_TRUE(env.ShownTexts().isEmpty());
     }
+    LogWindowEnv env(QFileInfo(path).absolutePath(), path);
+    frmTable1 browser(env.Context());
+    frmTable2 grid(env.Context(), all);
+    grid.Form_Activate();
+    grid.DBGrid1->selectRow(69);
+    EXPECT_EQ(grid.Data1Bar->Caption(), "Record: 70");
+    grid.DBGrid1_DblClick(69);
+    browser.Form_Activate();
+    EXPECT_EQ(browser.txtFields[1]->text(), "03/10/2024");
+    EXPECT_FALSE(env.State.FindRecord);
+    Screenshot(grid, "frmTable2");
 }
 
 TEST(ReportWindow, LinesFollowTheBrowsersOrder)
@@ -321,7 +260,6 @@ TEST(ReportWindow, LinesFollowTheBrowsersOrder)
     EXPECT_EQ(lines.size(), 31);
     EXPECT_EQ(shown, want);
     EXPECT_EQ(report.ProgressBar1->value(), 31);
-    Screenshot(report, "frmReport");
 }
 
 // 58 lines fit a page; printing appends a dash line to the text each time. No records print
@@ -332,6 +270,7 @@ TEST(ReportWindow, PrintsFiftyNineLinesOnTwoPagesAndNoneOnOne)
     const QString pdf = testenv::FreshDir("report-pdf") + "/report.pdf";
     qputenv("QUILLMERE_PRINT_PDF", pdf.toUtf8());
     frmReport report(w.Env.Context(), "select * from table1 where dbid <= 59 order by dbid", true);
+    Screenshot(report, "frmReport");
     report.mnuPrint_Click();
     const QStringList pages = testenv::PdfText(pdf).split('\f');
     ASSERT_GE(pages.size(), 2);
