@@ -82,21 +82,41 @@ QString Entry(const QString& path, const QString& date)
 
 } // namespace
 
-// Only year files are listed; every file button wants a selection first; a click selects and
-// a double click opens the browser.
-TEST(FrmSelectDB, ListsYearFilesAndAClickSelectsAndADoubleClickOpens)
+// Only year files are listed and every file button wants a selection first. Compacting twice
+// keeps one copy and Repair finds the file sound; a file that is no database is neither
+// compacted nor repaired, and is kept. A click selects and a double click opens the browser.
+TEST(FrmSelectDB, ListsCompactsRepairsAndOpensTheSelectedYear)
 {
     LogWindowEnv env(ProgramFolderWithFiles("select-open"));
+    testenv::WriteFile(env.Folder + "/2006.mdb", QByteArray(8192, 'x'));
+    ASSERT_TRUE(QFile::remove(env.Folder + "/2005.mdb")); // a filled year in its place
+    ASSERT_TRUE(QFile::copy(MakeYearFile("select-open-filled"), env.Folder + "/2005.mdb"));
     Shown w(env);
-    EXPECT_EQ(w.Listed(), QStringList({"2004.mdb", "2005.mdb"}));
+    EXPECT_EQ(w.Listed(), QStringList({"2004.mdb", "2005.mdb", "2006.mdb"}));
     for (QPushButton* b :
          {w.Window.OpenDBFile, w.Window.DeleteDBFile, w.Window.CmdCompact, w.Window.CmdRepair})
         w.Click(b);
-    for (const ShownMessage& m : env.Messages.Shown())
-        EXPECT_TRUE(m.Text == "No File Selected! " && m.Buttons == MsgButtons::OKCancel);
-    EXPECT_TRUE(env.Messages.Shown().size() == 4 && env.State.DBPath.isEmpty());
-    w.Select("2005.mdb");
-    EXPECT_EQ(env.State.DBPath, env.Folder + "/2005.mdb");
+    EXPECT_EQ(env.Messages.Shown()[0].Buttons, MsgButtons::OKCancel);
+    EXPECT_TRUE(env.State.DBPath.isEmpty());
+    for (const QString year : {"2005.mdb", "2006.mdb"}) {
+        w.Select(year);
+        for (QPushButton* button : {w.Window.CmdCompact, w.Window.CmdCompact, w.Window.CmdRepair})
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    EXPECT_EQ(env.State.DBPath, env.Folder + "/2006.mdb");
+    QStringList said;
+    for (const QStringList& row : DataRows("file_button_messages.txt", '\t'))
+        said << row[0];
+    const QStringList texts = env.ShownTexts();
+    ASSERT_EQ(texts.size(), 10);
+    EXPECT_EQ(texts.mid(0, 9).join('|').toStdString(), said.join('|').toStdString());
+    EXPECT_TRUE(texts[9].startsWith("Error Repairing Database!\n") &&
+                texts[9].endsWith("The file is kept as it was."))
+        << texts[9].toStdString();
+    EXPECT_EQ(
+        QDir(env.Folder).entryList({"*.mdb", "*.BAK"}, QDir::Files, QDir::Name),
+        QStringList({"2004.mdb", "2005.BAK", "2005.mdb", "2006.mdb", "Default.mdb", "Encdb.MDB"}));
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_TRUE(w.Browsed.isEmpty() && w.Window.isVisible());
     w.Select("2004.mdb", true);
     EXPECT_EQ(w.Browsed, QStringList{env.Folder + "/2004.mdb"});
@@ -203,32 +223,6 @@ TEST(FrmSelectDB, DeleteAsksAndKeepsTheDeletedYearAmongTheBackups)
     const auto kept = DeletedYear(env.Folder, 2004);
     ASSERT_TRUE(kept && RestoreYearFile(env.Folder, *kept));
     EXPECT_EQ(testenv::FileBytes(path), deleted);
-}
-
-// Compacting twice keeps one copy and Repair finds the file sound; a file that is no database
-// is neither compacted nor repaired, and is kept.
-TEST(FrmSelectDB, CompactAndRepairSayWhatTheyDid)
-{
-    LogWindowEnv env(QFileInfo(MakeYearFile("select-compact")).absolutePath());
-    testenv::WriteFile(env.Folder + "/2006.mdb", QByteArray(8192, 'x'));
-    Shown w(env);
-    for (const QString year : {"2024.mdb", "2006.mdb"}) {
-        w.Select(year);
-        for (QPushButton* button : {w.Window.CmdCompact, w.Window.CmdCompact, w.Window.CmdRepair})
-            QTest::mouseClick(button, Qt::LeftButton);
-    }
-    QStringList said;
-    for (const QStringList& row : DataRows("compact_messages.txt", '\t'))
-        said << row[0];
-    const QStringList texts = env.ShownTexts();
-    ASSERT_EQ(texts.size(), 6);
-    EXPECT_EQ(texts.mid(0, 5), said);
-    EXPECT_TRUE(texts[5].startsWith("Error Repairing Database!\n") &&
-                texts[5].endsWith("The file is kept as it was."))
-        << texts[5].toStdString();
-    EXPECT_EQ(QDir(env.Folder).entryList(QDir::Files, QDir::Name),
-              QStringList({"2006.mdb", "2024.BAK", "2024.mdb", "Default.mdb"}));
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 // Opening a changed year file from Database Functions backs it up, ten copies kept, newest

@@ -116,27 +116,6 @@ TEST(QueryBuilderWindow, ValueBoxesAtBothEndsOfTheirRanges)
     EXPECT_EQ(CountRows(SharedYear(), "table1"), 366);
 }
 
-// A selection of no days shows nothing of the last day and offers no edit; All Records brings
-// back the year and Table3.
-TEST(QueryBuilderWindow, EmptySelectionShowsAnEmptyBrowser)
-{
-    Browser w;
-    w->Check1[6]->setChecked(true);
-    w->Check1[7]->setChecked(true);
-    w->cmdSelect_Click();
-    EXPECT_EQ(w->Data1Bar->Caption(), "Record: 0 of 0 Record(s)");
-    EXPECT_EQ(w->txtFields[0]->text() + w->Label3->text() + w->Label7->text() +
-                  w->FakeTextBox[0]->text() + w->txtFields[7]->text() + w->Text5->text(),
-              "");
-    EXPECT_FALSE(w->WholeFish->isVisibleTo(&w.Window) || w->QuarterFish->isVisibleTo(&w.Window) ||
-                 w->cmdEdit->isEnabled());
-    EXPECT_TRUE(w.Env.Messages.Shown().empty());
-    w->Command1_Click();
-    EXPECT_EQ(w->Data1.RecordCount(), 366);
-    EXPECT_EQ(CountRows(SharedYear(), "table3"), 366);
-    EXPECT_TRUE(w->cmdEdit->isEnabled() && !w->Label3->text().isEmpty());
-}
-
 TEST(QueryBuilderWindow, MonthsAndDaysMenus)
 {
     Browser w;
