@@ -84,14 +84,16 @@ QString Entry(const QString& path, const QString& date)
 
 // Only year files are listed and every file button wants a selection first. Compacting twice
 // keeps one copy and Repair finds the file sound; a file that is no database is neither
-// compacted nor repaired, and is kept. A click selects and a double click opens the browser.
-TEST(FrmSelectDB, ListsCompactsRepairsAndOpensTheSelectedYear)
+// compacted nor repaired, and is kept. Delete asks, keeps the file on No, and on Yes takes its
+// unfinished journal too (so that it cannot touch a later 2004.mdb); the deleted year stays in
+// backups/, where Backups opens. A click selects and a double click opens the browser.
+TEST(FrmSelectDB, ListsCompactsRepairsDeletesAndOpensTheSelectedYear)
 {
     LogWindowEnv env(ProgramFolderWithFiles("select-open"));
     testenv::WriteFile(env.Folder + "/2006.mdb", QByteArray(8192, 'x'));
     ASSERT_TRUE(QFile::remove(env.Folder + "/2005.mdb")); // a filled year in its place
     ASSERT_TRUE(QFile::copy(MakeYearFile("select-open-filled"), env.Folder + "/2005.mdb"));
-    Shown w(env);
+    Shown w(env, 2004); // Backups opens on the shown year when no file is selected
     EXPECT_EQ(w.Listed(), QStringList({"2004.mdb", "2005.mdb", "2006.mdb"}));
     for (QPushButton* b :
          {w.Window.OpenDBFile, w.Window.DeleteDBFile, w.Window.CmdCompact, w.Window.CmdRepair})
@@ -117,9 +119,30 @@ TEST(FrmSelectDB, ListsCompactsRepairsAndOpensTheSelectedYear)
         QDir(env.Folder).entryList({"*.mdb", "*.BAK"}, QDir::Files, QDir::Name),
         QStringList({"2004.mdb", "2005.BAK", "2005.mdb", "2006.mdb", "Default.mdb", "Encdb.MDB"}));
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+
+    const QString path = env.Folder + "/2004.mdb";
+    const QByteArray deleted = testenv::FileBytes(path);
+    testenv::WriteFile(path + "-journal");
+    for (const MsgResult answer : {MsgResult::No, MsgResult::Yes}) {
+        w.Select("2004.mdb");
+        w.Click(w.Window.DeleteDBFile, answer);
+        EXPECT_EQ(QFile::exists(path), answer == MsgResult::No);
+    }
+    EXPECT_EQ(env.ShownTexts().mid(10), QStringList(2, "Confirm to Delete Selected File "));
+    EXPECT_EQ(env.Messages.Shown().back().Buttons, MsgButtons::YesNoDefaultNo);
+    EXPECT_FALSE(QFile::exists(path + "-journal"));
+    EXPECT_EQ(w.Listed(), QStringList({"2005.mdb", "2006.mdb"}));
+    QStringList backupsOf;
+    w.Window.ShowBackups = [&backupsOf](const QString& year) { backupsOf << year; };
+    QTest::mouseClick(w.Window.CmdBackups, Qt::LeftButton);
+    EXPECT_EQ(backupsOf, QStringList{path});
+    const auto kept = DeletedYear(env.Folder, 2004);
+    ASSERT_TRUE(kept && RestoreYearFile(env.Folder, *kept));
+    EXPECT_EQ(testenv::FileBytes(path), deleted);
+
     EXPECT_TRUE(w.Browsed.isEmpty() && w.Window.isVisible());
-    w.Select("2004.mdb", true);
-    EXPECT_EQ(w.Browsed, QStringList{env.Folder + "/2004.mdb"});
+    w.Select("2005.mdb", true);
+    EXPECT_EQ(w.Browsed, QStringList{env.Folder + "/2005.mdb"});
     EXPECT_FALSE(w.Window.isVisible());
 }
 
@@ -197,32 +220,6 @@ TEST(FrmSelectDB, TheFillIsTheSameWhateverTheHourBarSaysAndEqualsTheCommandLines
         ASSERT_TRUE(select.CreateDB(2024));
         EXPECT_TRUE(records(windows.State.DBPath) == expected) << "hour bar at " << hourBar;
     }
-}
-
-// Delete asks, keeps the file on No, and on Yes takes its unfinished journal too (so that it
-// cannot touch a later 2004.mdb); the deleted year stays in backups/, where Backups opens.
-TEST(FrmSelectDB, DeleteAsksAndKeepsTheDeletedYearAmongTheBackups)
-{
-    LogWindowEnv env(ProgramFolderWithFiles("select-delete"));
-    const QString path = env.Folder + "/2004.mdb";
-    Shown w(env, 2004);
-    w.Select("2004.mdb");
-    w.Click(w.Window.DeleteDBFile, MsgResult::No);
-    EXPECT_EQ(env.ShownTexts(), QStringList{"Confirm to Delete Selected File "});
-    EXPECT_EQ(env.Messages.Shown()[0].Buttons, MsgButtons::YesNoDefaultNo);
-    const QByteArray deleted = testenv::FileBytes(path);
-    testenv::WriteFile(path + "-journal");
-    w.Select("2004.mdb");
-    w.Click(w.Window.DeleteDBFile, MsgResult::Yes);
-    EXPECT_FALSE(QFile::exists(path) || QFile::exists(path + "-journal"));
-    EXPECT_EQ(w.Listed(), QStringList{"2005.mdb"});
-    QStringList backupsOf;
-    w.Window.ShowBackups = [&backupsOf](const QString& year) { backupsOf << year; };
-    QTest::mouseClick(w.Window.CmdBackups, Qt::LeftButton);
-    EXPECT_EQ(backupsOf, QStringList{path});
-    const auto kept = DeletedYear(env.Folder, 2004);
-    ASSERT_TRUE(kept && RestoreYearFile(env.Folder, *kept));
-    EXPECT_EQ(testenv::FileBytes(path), deleted);
 }
 
 // Opening a changed year file from Database Functions backs it up, ten copies kept, newest
