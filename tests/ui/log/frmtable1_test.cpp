@@ -78,9 +78,8 @@ TEST(FrmTable1, ShowsEachRecordsDayEventsPerigeeRatingAndMoon)
             GoTo(w, row[0].toInt());
         EXPECT_EQ(Shown(w, row[1]), row.value(2)) << row.join('|').toStdString();
     }
-    EXPECT_EQ(w.Data1Bar->Caption(), "Record: 50 of 365 Record(s)");
-    const QImage moon = w.PicM->pixmap().toImage(); // lit on the right, in the settings' colour
-    EXPECT_EQ(moon.pixel(66, 30), qRgb(255, 255, 128));
+    const QImage moon = w.PicM->pixmap().toImage();     // day 50 lit on the right, in the settings'
+    EXPECT_EQ(moon.pixel(66, 30), qRgb(255, 255, 128)); // colour
     EXPECT_EQ(moon.pixel(14, 30), qRgb(0, 0, 0));
     QTest::mouseClick(w.Data1Bar->Last, Qt::LeftButton);
     QTest::mouseClick(w.Data1Bar->Next, Qt::LeftButton);
@@ -100,13 +99,11 @@ TEST(FrmTable1, EditingHoldsTheRecordAndTheCatchSurvivesReopening)
         EXPECT_FALSE(w.cmdUpdate->isEnabled() || w.Text7->isEnabled());
         QTest::mouseClick(w.cmdEdit, Qt::LeftButton);
         EXPECT_FALSE(w.Data1Bar->isEnabled() || w.cmdEdit->isEnabled() || w.mnuExit->isEnabled());
-        EXPECT_TRUE(w.cmdUpdate->isEnabled() && w.PeakTimeCombo->isEnabled());
         QTest::mouseClick(w.Data1Bar->Next, Qt::LeftButton);
         EXPECT_EQ(w.Data1Bar->Caption(), "Record: 3 of 365 Record(s)");
         w.txtFields_Click(17);
         w.Combo4->setCurrentIndex(12);
         w.Combo4_Click();
-        EXPECT_TRUE(w.Combo4->isHidden());
         QTest::keyClicks(w.txtFields[18], "spinner" + QString(260, 'w'));
         EXPECT_TRUE(w.txtFields[18]->toolTip().contains("255"));
         w.PeakTimeCombo->setCurrentIndex(6);
@@ -128,17 +125,10 @@ TEST(FrmTable1, EditingHoldsTheRecordAndTheCatchSurvivesReopening)
 }
 
 // Edit, one click into the box, the keys to whatever has the focus then, Update: the file holds
-// what was typed, or a message says why not and nothing is stored.
+// what was typed, or a message says why not, nothing is stored and the edit stays open.
 TEST(FrmTable1, TypedCatchEntriesAreStoredAsTypedOrRefusedWithTheFieldsMessage)
 {
-    const auto box = [](frmTable1& w, const QString& column) -> QWidget* {
-        return column == "TotalTaken"  ? w.txtFields[17]
-               : column == "PeakTime"  ? w.PeakTimeCombo->lineEdit()
-               : column == "TakenWith" ? static_cast<QWidget*>(w.txtFields[18])
-                                       : w.Text7;
-    };
     for (const QStringList& c : DataRows("typed_entries.csv", '|')) {
-        const QString& column = c[0];
         const std::string where = c.join('|').toStdString();
         LogWindowEnv env(QString{}, MakeYearFileWithEntries("typed-entry"));
         frmTable1 w(env.Context());
@@ -146,23 +136,20 @@ TEST(FrmTable1, TypedCatchEntriesAreStoredAsTypedOrRefusedWithTheFieldsMessage)
         QApplication::setActiveWindow(&w);
         ASSERT_TRUE(QTest::qWaitForWindowActive(&w)) << where;
         QTest::mouseClick(w.cmdEdit, Qt::LeftButton);
-        QWidget* typedInto = box(w, column);
-        QTest::mouseClick(typedInto, Qt::LeftButton, {},
-                          QPoint(typedInto->width() - 4, typedInto->height() / 2));
+        auto* box = w.findChild<QWidget*>(c[0]);
+        if (auto* combo = qobject_cast<QComboBox*>(box))
+            box = combo->lineEdit();
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->width() - 4, box->height() / 2));
         QTest::keyClicks(QApplication::focusWidget(), c[1]);
         QTest::mouseClick(w.cmdUpdate, Qt::LeftButton);
-
-        const auto rows =
-            PlainRows(env.State.DBPath,
-                      "select " + column + ", TotalTaken, PeakTime from table1 where DBID = 1");
-        const auto& row = rows.at(0);
-        EXPECT_EQ(row[0].isNull() ? "<null>" : row[0].toString(), c[2]) << where;
-        // Nothing lands in a box that was not typed into.
-        EXPECT_TRUE(column == "TotalTaken" || row[1].isNull()) << where;
-        EXPECT_TRUE(column == "PeakTime" || row[2].isNull()) << where;
-        EXPECT_EQ(env.ShownTexts(), c.size() > 3 ? QStringList{c[3]} : QStringList{}) << where;
-        // Refused, it stays in editing to be corrected.
-        EXPECT_EQ(w.cmdUpdate->isEnabled(), c.size() > 3) << where;
+        const auto rows = PlainRows(env.State.DBPath, "select TotalTaken, PeakTime, TakenWith, "
+                                                      "Notes from table1 where DBID = 1");
+        QStringList stored;
+        for (const QVariant& v : rows.at(0))
+            stored << v.toString();
+        EXPECT_EQ(stored, c.mid(2, 4)) << where; // nothing lands in a box not typed into
+        EXPECT_EQ(env.ShownTexts().join(""), c[6]) << where;
+        EXPECT_EQ(w.cmdUpdate->isEnabled(), !c[6].isEmpty()) << where;
         w.Data1.CancelUpdate();
     }
 }
@@ -176,8 +163,7 @@ TEST(EditSafety, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
         frmTable1 w(env.Context());
         w.show();
         QTest::keyClick(&w, Qt::Key_Escape);
-        EXPECT_FALSE(w.isVisible());
-        EXPECT_TRUE(env.Messages.Shown().empty());
+        EXPECT_FALSE(w.isVisible() || !env.Messages.Shown().empty());
     }
     const std::pair<std::string, std::function<void(frmTable1&, QWidget&)>> ways[] = {
         {"Escape", [](frmTable1& w, QWidget&) { QTest::keyClick(w.Text7, Qt::Key_Escape); }},
@@ -197,27 +183,25 @@ TEST(EditSafety, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
             ASSERT_EQ(env.Messages.Shown().size(), 1u) << where;
             EXPECT_EQ(env.Messages.Shown()[0].Text, "Save changes to this day?") << where;
             EXPECT_EQ(env.Messages.Shown()[0].Buttons, MsgButtons::SaveDiscardCancel) << where;
-            const QString stored = StoredNotes(env.State.DBPath);
-            EXPECT_EQ(w->isVisible() && owner.isVisible(),
-                      answer == MsgResult::Cancel || way == "Select")
+            const bool cancel = answer == MsgResult::Cancel;
+            EXPECT_EQ(w->isVisible() && owner.isVisible(), cancel || way == "Select") << where;
+            EXPECT_EQ(w->cmdUpdate->isEnabled(), cancel) << where; // else back to browsing
+            EXPECT_EQ(w->Text7->toPlainText(),
+                      cancel ? "row-001 pike" : StoredNotes(env.State.DBPath))
                 << where;
-            if (answer == MsgResult::Cancel) {
-                EXPECT_TRUE(w->cmdUpdate->isEnabled()) << where;
-                EXPECT_EQ(w->Text7->toPlainText(), "row-001 pike") << where;
-                EXPECT_EQ(stored, "row-001") << where;
-                QTest::mouseClick(w->cmdUpdate, Qt::LeftButton);
-                EXPECT_EQ(StoredNotes(env.State.DBPath), "row-001 pike") << where;
-                continue;
-            }
-            EXPECT_EQ(stored, answer == MsgResult::Save ? "row-001 pike" : "row-001") << where;
-            EXPECT_TRUE(w->cmdEdit->isEnabled()) << where; // back to browsing
-            EXPECT_EQ(w->Text7->toPlainText(), stored) << where;
+            EXPECT_EQ(StoredNotes(env.State.DBPath),
+                      answer == MsgResult::Save ? "row-001 pike" : "row-001")
+                << where;
+            QTest::mouseClick(w->cmdUpdate, Qt::LeftButton);
+            EXPECT_EQ(StoredNotes(env.State.DBPath),
+                      answer == MsgResult::Discard ? "row-001" : "row-001 pike")
+                << where;
         }
     }
 }
 
-// Cancel keeps the program running; an end that cannot be refused asks again and, refused,
-// keeps the entry the only way left: saved.
+// The program's end asks too. Cancel keeps the program running; an end that cannot be refused
+// asks again and, refused, keeps the entry the only way left: saved.
 TEST(EditSafety, TheProgramsEndAsksAndCannotDropTheEntry)
 {
     for (const MsgResult answer : {MsgResult::Discard, MsgResult::Save, MsgResult::Cancel}) {
