@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The catch editor driven by key events on the real window, the record browser's catch list
-// and the statistics window, checked against the year file read in plain SQL.
+// The catch editor driven by key events on the real window and the statistics window, checked
+// against the year file read in plain SQL.
 #include "ui/log/catcheditor.h"
-#include "ui/log/catchlist.h"
 #include "ui/log/catchtabs.h"
 #include "ui/log/frmstatistics.h"
-#include "ui/log/frmtable1.h"
+#include "ui/log/photothumbs.h"
 #include "ui/log/logdata.h"
 #include "ui/log/logwindowenv.h"
 
@@ -16,7 +15,6 @@
 #include <QCompleter>
 #include <QSpinBox>
 #include <QStackedBarSeries>
-#include <QTreeWidget>
 
 using namespace logtest;
 
@@ -129,57 +127,9 @@ TEST(CatchEditor, SpeciesCompleteFromTheFolderAndLeavingWithAChangeAsksFirst)
     EXPECT_EQ(e.Env.ShownTexts(), QStringList(3, QStringLiteral("Save changes to this catch?")));
 }
 
-// Add, edit and remove through the browser: the list shows what the file holds, and the day's
-// Total Taken follows its catches.
-TEST(CatchList, ShowsTheDaysCatchesAsTheFileHoldsThem)
-{
-    const QString path = MakeYearFile(QStringLiteral("catch-browser"), 3);
-    const QString folder = QFileInfo(path).absolutePath();
-    LogWindowEnv env(folder, path);
-    frmTable1 browser(env.Context());
-    browser.Form_Activate();
-    CatchList& list = *browser.CatchesList;
-    const std::vector<std::pair<QString, int>> typed = {
-        {"Pike", 2}, {"Perch", 5}, {"Bass", 1}, {"Zander", 1}};
-    std::size_t run = 0;
-    list.RunEditor = [&](CatchEditor& editor) {
-        editor.SpeciesBox->clear();
-        Type(editor.SpeciesBox, typed[run].first);
-        editor.CountBox->setValue(typed[run].second);
-        ++run;
-        Screenshot(editor, QStringLiteral("catch-editor"));
-        editor.cmdOK_Click();
-        return editor.result();
-    };
-    // The species in the file, checked against the list, then the day's total.
-    const auto species = [&] {
-        QStringList stored, shown;
-        for (const QVariant& v :
-             PlainColumn(path, "SELECT Species FROM Catches WHERE JulianDate = '2024-01-01'"))
-            stored << v.toString();
-        for (int i = 0; i < list.Catches->topLevelItemCount(); ++i)
-            shown << list.Catches->topLevelItem(i)->text(1);
-        EXPECT_EQ(shown, stored);
-        return stored << browser.txtFields[17]->text();
-    };
-    for (int i = 0; i < 3; ++i)
-        list.cmdAddCatch_Click();
-    EXPECT_EQ(species(), (QStringList{"Pike", "Perch", "Bass", "8"}));
-    list.Catches->setCurrentItem(list.Catches->topLevelItem(1));
-    list.cmdEditCatch_Click(); // Perch becomes Zander, one fish
-    EXPECT_EQ(species(), (QStringList{"Pike", "Zander", "Bass", "4"}));
-    env.Answers = {MsgResult::Yes};
-    list.Catches->setCurrentItem(list.Catches->topLevelItem(0));
-    list.cmdRemoveCatch_Click();
-    EXPECT_EQ(species(), (QStringList{"Zander", "Bass", "2"}));
-    EXPECT_EQ(SqlValue(path, "SELECT TotalTaken FROM table1 WHERE DBID = 1").toInt(), 2);
-    browser.cmdEdit_Click(); // the total follows the catches: not typed over
-    EXPECT_TRUE(browser.txtFields[17]->isReadOnly() && !browser.CatchesList->isEnabled());
-}
-
-// The statistics window counts the days fished (a catch, a peak
-// time or a note) as plain SQL does, charts the catches the file holds with the water
-// temperature bands in the chosen units, and counts every year of the folder when asked.
+// The statistics window charts the catches the file holds, with the water temperature bands in
+// the chosen units, and counts the days fished (a catch, a peak time or a note) of the year or
+// of every year of the folder as plain SQL does.
 TEST(FrmStatistics, ShowsWhatTheFilesHold)
 {
     const QString path = MakeYearFileWithEntries(
