@@ -4,9 +4,9 @@
 #include "ui/log/catcheditor.h"
 #include "ui/log/catchtabs.h"
 #include "ui/log/frmstatistics.h"
-#include "ui/log/photothumbs.h"
 #include "ui/log/logdata.h"
 #include "ui/log/logwindowenv.h"
+#include "ui/log/photothumbs.h"
 
 #include <QBarCategoryAxis>
 #include <QBarSet>
