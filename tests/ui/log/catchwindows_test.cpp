@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The catch editor driven by key events on the real window and the statistics window, checked
-// against the year file read in plain SQL.
+// The catch editor driven by key events on the real window, checked against the year file read
+// in plain SQL.
 #include "ui/log/catcheditor.h"
-#include "ui/log/catchtabs.h"
-#include "ui/log/frmstatistics.h"
 #include "ui/log/logdata.h"
 #include "ui/log/logwindowenv.h"
 #include "ui/log/photothumbs.h"
 
-#include <QBarCategoryAxis>
-#include <QBarSet>
-#include <QChartView>
-#include <QComboBox>
 #include <QCompleter>
 #include <QSpinBox>
-#include <QStackedBarSeries>
 
 using namespace logtest;
 
@@ -125,52 +118,4 @@ TEST(CatchEditor, SpeciesCompleteFromTheFolderAndLeavingWithAChangeAsksFirst)
         EXPECT_EQ(StoredCatches(e.Path), 3 + added);
     }
     EXPECT_EQ(e.Env.ShownTexts(), QStringList(3, QStringLiteral("Save changes to this catch?")));
-}
-
-// The statistics window charts the catches the file holds, with the water temperature bands in
-// the chosen units, and counts the days fished (a catch, a peak time or a note) of the year or
-// of every year of the folder as plain SQL does.
-TEST(FrmStatistics, ShowsWhatTheFilesHold)
-{
-    const QString path = MakeYearFileWithEntries(
-        "stats-window", {{10, {{"TotalTaken", 3}, {"PeakTime", "11:00 PM"}}},
-                         {100, {{"Notes", "lost a big one"}}},
-                         {200, {{"TotalTaken", 0}}},
-                         {201, {{"TakenWith", "worms"}}}}); // not a day fished
-    std::vector<Catch> catches = CatchRows("chart_catches.csv");
-    ASSERT_TRUE(AddCatches(path, catches, QDateTime::currentDateTime()));
-    LogWindowEnv env(QFileInfo(path).absolutePath(), path);
-    LogContext context = env.Context();
-    context.Units = UnitSystem::Imperial;
-    FrmStatistics w(context, path);
-    using Bars = std::map<QString, std::pair<long, long>>; // name: fish, released
-    const auto chartOf = [&w](int page) {
-        QChart* chart = w.CatchCharts->Charts[std::size_t(page)]->chart();
-        auto* series = qobject_cast<QStackedBarSeries*>(chart->series().front());
-        auto* axis = qobject_cast<QBarCategoryAxis*>(chart->axes(Qt::Horizontal).front());
-        Bars bars;
-        for (int i = 0; i < axis->count(); ++i)
-            bars[axis->at(i)] = {long(series->barSets()[0]->at(i) + series->barSets()[1]->at(i)),
-                                 long(series->barSets()[1]->at(i))};
-        return bars;
-    };
-    Bars sql;
-    for (const auto& row : PlainRows(path, "SELECT Species, sum(FishCount), sum(FishCount * "
-                                           "Released) FROM Catches GROUP BY Species"))
-        sql[row[0].toString()] = {row[1].toLongLong(), row[2].toLongLong()};
-    EXPECT_EQ(chartOf(0), sql);
-    // 5 to 10 °C and 10 to 15 °C, and the catch without a temperature.
-    EXPECT_EQ(chartOf(4), (Bars{{"(no temperature)", {1, 1}},
-                                {"41 to 50 \u00B0F", {1, 0}},
-                                {"50 to 59 \u00B0F", {8, 2}}}));
-    const int fished = SqlValue(path, "SELECT count(*) FROM table1 WHERE TotalTaken IS NOT NULL "
-                                      "OR trim(PeakTime) <> '' OR trim(Notes) <> ''")
-                           .toInt();
-    EXPECT_EQ(w.Figures().All.DaysFished, fished);
-    ASSERT_TRUE(QFile::copy(path, env.Folder + "/2023.mdb")); // a second year doubles the count
-    w.ScopeCombo->setCurrentIndex(1);
-    w.ScopeCombo_Click();
-    EXPECT_EQ(w.Figures().All.DaysFished, 2 * fished);
-    EXPECT_TRUE(env.Messages.Shown().empty()) << env.ShownTexts().join("|").toStdString();
-    Screenshot(w, "frmstatistics");
 }
