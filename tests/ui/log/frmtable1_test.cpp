@@ -9,7 +9,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QPlainTextEdit>
-#include <QTimer>
 #include <QToolButton>
 
 using namespace logtest;
@@ -197,29 +196,5 @@ TEST(EditSafety, EveryWayOutWhileEditingAsksAndTheAnswerIsDone)
                       answer == MsgResult::Discard ? "row-001" : "row-001 pike")
                 << where;
         }
-    }
-}
-
-// The program's end asks too. Cancel keeps the program running; an end that cannot be refused
-// asks again and, refused, keeps the entry the only way left: saved.
-TEST(EditSafety, TheProgramsEndAsksAndCannotDropTheEntry)
-{
-    for (const MsgResult answer : {MsgResult::Discard, MsgResult::Save, MsgResult::Cancel}) {
-        LogWindowEnv env(QString{});
-        const auto w = Editing(env, " and a perch");
-        const bool cancel = answer == MsgResult::Cancel;
-        env.Answers = {answer, answer};
-        bool stillEditing = false;
-        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-        if (cancel)
-            QTimer::singleShot(200, qApp, [&] {
-                stillEditing = w->isVisible() && w->cmdUpdate->isEnabled();
-                QCoreApplication::exit(0);
-            });
-        QCoreApplication::exec();
-        EXPECT_EQ(stillEditing, cancel);
-        EXPECT_EQ(env.ShownTexts(), QStringList(cancel ? 2 : 1, "Save changes to this day?"));
-        EXPECT_EQ(StoredNotes(env.State.DBPath),
-                  answer == MsgResult::Discard ? "row-001" : "row-001 and a perch");
     }
 }
