@@ -7,7 +7,6 @@
 #include "ui/log/photothumbs.h"
 
 #include <QCompleter>
-#include <QSpinBox>
 
 using namespace logtest;
 

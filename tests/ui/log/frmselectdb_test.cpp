@@ -68,16 +68,15 @@ int Taken(const QString& path)
     return PlainColumn(path, "SELECT TotalTaken FROM table1 WHERE DBID = 2").at(0).toInt();
 }
 
-// The catch columns of a day, asked of the file.
+// The catch columns of a day, asked of the file, "<null>" for an empty one.
 QString Entry(const QString& path, const QString& date)
 {
-    const auto rows = PlainRows(path, "SELECT TotalTaken, TakenWith, PeakTime, Notes FROM "
-                                      "table1 WHERE JulianDate = '" +
-                                          date + "'");
-    QStringList values;
-    for (const QVariant& v : rows.at(0))
-        values << (v.isNull() ? "<null>" : v.toString());
-    return values.join('|');
+    return PlainColumn(path, "SELECT ifnull(TotalTaken, '<null>') || '|' || ifnull(TakenWith, "
+                             "'<null>') || '|' || ifnull(PeakTime, '<null>') || '|' || "
+                             "ifnull(Notes, '<null>') FROM table1 WHERE JulianDate = '" +
+                                 date + "'")
+        .at(0)
+        .toString();
 }
 
 } // namespace

@@ -67,7 +67,6 @@ TEST(FrmTable1, ShowsEachRecordsDayEventsPerigeeRatingAndMoon)
 {
     LogWindowEnv env(QString{}, BrowsedYear("browse-first"));
     frmTable1 w(env.Context());
-    EXPECT_EQ(w.windowTitle(), "Quillmere DataBase");
     w.Form_Activate();
     EXPECT_EQ(w.Data1Bar->Caption(), "Record: 1 of 365 Record(s)");
     for (const QStringList& row : DataRows("browsed_days.csv", '|')) {
