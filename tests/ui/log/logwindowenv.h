@@ -13,18 +13,13 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
-#include <QWidget>
 
 #include <gtest/gtest.h>
-
-#include <vector>
 
 namespace logtest {
 
@@ -42,10 +37,8 @@ struct LogWindowEnv {
         Engine.Site.SetPlace(80.0, 40.44, 5);
         Engine.Site.DstOffsetDays = -60 / 1440.0;
         Messages.Script([this](const ShownMessage&) {
-            if (Answers.empty())
-                return MsgResult::OK;
-            const MsgResult answer = Answers.front();
-            Answers.erase(Answers.begin());
+            const MsgResult answer = Answers.empty() ? MsgResult::OK : Answers.front();
+            Answers.erase(Answers.begin(), Answers.begin() + (Answers.empty() ? 0 : 1));
             return answer;
         });
     }
