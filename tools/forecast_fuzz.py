@@ -1,12 +1,11 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Fuzzes quillmere-forecast's arguments: every case is wrong by construction (an unknown
-command or option, an option without its value, a value out of range, malformed UTF-8, random
-bytes, very long values), so every run must exit with status 2, write one line on stderr and
-nothing on stdout, take less than a second and leave the settings store unwritten.
-
-usage: forecast_fuzz.py PROGRAM [--cases N] [--seed S]
-"""
+# Fuzzes quillmere-forecast's arguments: every case is wrong by construction (an unknown
+# command or option, an option without its value, a value out of range, malformed UTF-8, random
+# bytes, very long values), so every run must exit with status 2, write one line on stderr and
+# nothing on stdout, take less than a second and leave the settings store unwritten.
+#
+# usage: forecast_fuzz.py PROGRAM [--cases N] [--seed S]
 import argparse
 import os
 import random
@@ -42,7 +41,7 @@ def junk(rng):
 
 
 def case(rng):
-    """One wrong argument list: an unknown command or option, a value missing or wrong."""
+    # One wrong argument list: an unknown command or option, a value missing or wrong.
     args, kind = list(BASE), rng.randrange(4)
     if kind == 0:
         return [b'x' + junk(rng)] + args[1:]
@@ -58,7 +57,7 @@ def case(rng):
 
 
 def main():
-    ap = argparse.ArgumentParser(description=__doc__)
+    ap = argparse.ArgumentParser()
     ap.add_argument('program')
     ap.add_argument('--cases', type=int, default=250)
     ap.add_argument('--seed', type=int, default=19)

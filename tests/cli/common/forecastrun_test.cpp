@@ -8,8 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
-#include <map>
 
 namespace {
 
@@ -140,48 +138,6 @@ TEST(ForecastRun, YearEventsInUniversalAndLocalTime)
     EXPECT_EQ(y2014.front().Type, "new_moon");
     EXPECT_NEAR(y2014.front().JD, CivilToJd(2014, 1, 1) + (11.0 + 14.0 / 60.0) / 24.0,
                 1.0 / 1440.0);
-}
-
-// Every phase and apsis of the events list is marked on its own local date (its instant at the
-// zone's offset, to the minute as printed) in the day rows, and nowhere else; new and full
-// moons rate Best; the list is in time order. Zones from -12 to +12, with and without daylight
-// saving, years across 1900-2500, the year's first and last days included.
-TEST(ForecastRun, DayMarksFallOnTheEventsListsDays)
-{
-    const int zones[] = {-12, -10, -5, 0, 3, 6, 8, 11};
-    const int years[] = {1900, 1957, 2029, 2100, 2317, 2500};
-    const std::map<std::string, std::pair<int, int>> codes = {
-        {"new_moon", {1, 0}},     {"first_quarter", {2, 0}}, {"full_moon", {3, 0}},
-        {"last_quarter", {4, 0}}, {"perigee", {0, 1}},       {"apogee", {0, 2}}}; // phase, apsis
-    int edgeEvents = 0;
-    for (std::size_t z = 0; z < std::size(zones); ++z) {
-        const double dst = z % 2 ? -1.0 / 24.0 : 0.0;
-        ForecastRun run(Place(15.0 * zones[z], z % 3 ? 40.0 : -35.0, zones[z], dst));
-        const int year = years[z % std::size(years)];
-        std::map<double, std::pair<int, int>> marks; // local date -> phase, apsis
-        double previous = 0.0;
-        for (const EventRow& e : run.Events(year)) {
-            EXPECT_GE(e.JD, previous) << e.Type;
-            previous = e.JD;
-            const double minute = std::round((e.JD - zones[z] / 24.0 - dst) * 1440.0) / 1440.0;
-            const double date = std::floor(minute + 0.5) - 0.5;
-            ASSERT_EQ(date, CivilToJd(e.Year, e.Month, e.Day)) << e.Type << " " << e.JD;
-            if (const auto code = codes.find(e.Type); code != codes.end())
-                (code->second.first ? marks[date].first : marks[date].second) =
-                    std::max(code->second.first, code->second.second);
-            edgeEvents += (e.Month == 1 && e.Day == 1) || (e.Month == 12 && e.Day == 31);
-        }
-        for (double date = CivilToJd(year, 1, 1); date < CivilToJd(year + 1, 1, 1); date += 1.0) {
-            const CivilDate c = JdToCivil(date);
-            const DayRow r = run.Day(c.Year, c.Month, c.Day);
-            ASSERT_EQ(std::pair(int(r.Phase), std::max<int>(r.Perigee, 0)), marks[date])
-                << year << "-" << c.Month << "-" << c.Day;
-            if (r.Phase == 1 || r.Phase == 3) {
-                EXPECT_EQ(r.Rating, 4) << c.Month << "-" << c.Day;
-            }
-        }
-    }
-    EXPECT_GE(edgeEvents, 5);
 }
 
 // One instant, one text: Seattle (zone 8), 25 November 2026, the perigee reads the same in the

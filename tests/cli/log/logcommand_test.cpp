@@ -114,18 +114,11 @@ QString CreatedYear(const QString& folderName, const QStringList& place = {"--lo
 }
 
 // Every day's catch columns, in date order, asked of the file.
-QStringList CatchEntries(const QString& path)
+std::vector<QVariant> CatchEntries(const QString& path)
 {
-    QStringList rows;
-    for (const auto& row : logtest::PlainRows(path, "SELECT JulianDate, TotalTaken, TakenWith, "
-                                                    "PeakTime, Notes FROM table1 ORDER BY "
-                                                    "JulianDate")) {
-        QStringList fields;
-        for (const QVariant& v : row)
-            fields << (v.isNull() ? "<null>" : v.toString());
-        rows << fields.join('|');
-    }
-    return rows;
+    return logtest::PlainColumn(path, "SELECT JulianDate || '|' || quote(TotalTaken) || '|' || "
+                                      "quote(TakenWith) || '|' || quote(PeakTime) || '|' || "
+                                      "quote(Notes) FROM table1 ORDER BY JulianDate");
 }
 
 } // namespace
