@@ -81,20 +81,6 @@ TEST(StartUp, ResetBringsBackTheDefaultsAndABadValueIsNamed)
     EXPECT_TRUE(bad.Messages.Shown()[0].Text.contains("--reset"));
 }
 
-// QUILLMERE_PALETTE=dark asks for light text on a dark window.
-TEST(StartUp, DarkPaletteOnRequest)
-{
-    const QPalette before = QApplication::palette();
-    qputenv("QUILLMERE_PALETTE", "dark");
-    ApplyRequestedPalette();
-    qunsetenv("QUILLMERE_PALETTE");
-    const QPalette dark = QApplication::palette();
-    QApplication::setPalette(before);
-    EXPECT_LT(dark.color(QPalette::Window).lightness(), 80);
-    EXPECT_GT(dark.color(QPalette::WindowText).lightness(), 180);
-    EXPECT_GT(dark.color(QPalette::Text).lightness(), 180);
-}
-
 TEST(StartUp, SecondCopyIsRefusedWithoutTouchingTheSettings)
 {
     NeverStarted();

@@ -61,30 +61,6 @@ TEST(ForecastRun, PolarDaysSayWhyEventsDoNotHappenAndCountEveryStretchOfDaylight
         EXPECT_NEAR(*north.Day(2024, 5, day).DayLength, hours, 2.0 / 60.0) << day;
 }
 
-// With daylight saving the twilights are those of the clock's own day: Oslo (zone -1) on
-// summer time keeps the clock of zone -2 on standard time, so every event must be the same,
-// also the dusks that cross midnight there in summer (to a few milliseconds where the Sun
-// grazes a twilight's altitude and the day is searched on its sampled altitude).
-TEST(ForecastRun, DaylightSavingTwilightsBelongToTheClocksDay)
-{
-    ForecastRun summer(Place(-10.75, 59.91, -1, -1.0 / 24.0)), east(Place(-10.75, 59.91, -2));
-    int afterMidnight = 0;
-    for (int d = 0; d < 120; ++d) {
-        const CivilDate day = JdToCivil(CivilToJd(2024, 4, 20) + d);
-        const DayRow a = summer.Day(day.Year, day.Month, day.Day);
-        const DayRow b = east.Day(day.Year, day.Month, day.Day);
-        for (const auto member : {&DayRow::Sunrise, &DayRow::CivilDusk, &DayRow::NauticalDawn,
-                                  &DayRow::NauticalDusk, &DayRow::AstronomicalDusk}) {
-            EXPECT_EQ((a.*member).Status, (b.*member).Status) << day.Month << "/" << day.Day;
-            EXPECT_NEAR((a.*member).Hours.value_or(-1), (b.*member).Hours.value_or(-1), 1e-6)
-                << day.Month << "/" << day.Day;
-            afterMidnight += (a.*member).Hours.value_or(24) < 1.0;
-        }
-        EXPECT_NEAR(a.UtcOffsetHours, -2.0, 1e-9);
-    }
-    EXPECT_GT(afterMidnight, 10);
-}
-
 // One major per real transit: the upper transits come every 24 h 50 min and the lower ones
 // half a lunar day later, so over a year no two majors lie closer than ten hours, and each
 // kind happens on about 366 x 24 / 24.84 days.

@@ -62,23 +62,16 @@ TEST(ForecastFormats, CsvQuotesAndEmptyCells)
     EXPECT_NE(row.find(",\" Moon at Perigee , \"\"x\"\"\","), std::string::npos);
 }
 
-// iCalendar: CRLF lines of at most 75 octets, the rating as an all-day event, majors and the
-// one minor as timed events in universal time.
+// iCalendar (its lines are the strict iCalendar check's): the rating as an all-day event,
+// majors and the one minor as timed events in universal time.
 TEST(ForecastFormats, IcsEventsInUniversalTime)
 {
-    const std::string ics = AllDays(IcsDays({"A very long location name that makes the "
-                                             "calendar name line longer than the limit",
-                                             "1W-2N-z6"},
-                                            "20261123T000000Z"),
-                                    {Sample()});
-    std::size_t start = 0, events = 0;
-    while (start < ics.size()) {
-        const std::size_t end = ics.find("\r\n", start);
-        ASSERT_NE(end, std::string::npos);
-        EXPECT_LE(end - start, 75u);
-        events += ics.compare(start, end - start, "BEGIN:VEVENT") == 0;
-        start = end + 2;
-    }
+    const std::string ics =
+        AllDays(IcsDays({"Alexandria", "1W-2N-z6"}, "20261123T000000Z"), {Sample()});
+    std::size_t events = 0;
+    for (std::size_t at = ics.find("BEGIN:VEVENT"); at != ics.npos;
+         at = ics.find("BEGIN:VEVENT", at + 1))
+        ++events;
     EXPECT_EQ(events, 4u); // rating, two majors, one minor
     // Major 1 at 11:30 local, zone 6: 16:30 UT, one hour either side; major 2 at 23:54 local
     // ends after midnight UT of the next day; minor 1 at 05:15 local: 35 minutes either side

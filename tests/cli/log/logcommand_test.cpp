@@ -30,23 +30,16 @@ struct LogRun {
     QString Err;
 };
 
-// How a run differs from a plain one: more of the environment, and a command that starts the
-// program (one that limits a resource, or runs it as another user).
-struct Launch {
-    std::vector<std::pair<QString, QString>> Env;
-    QStringList Through;
-};
-
+// `through`: a command that starts the program (one that limits a resource, sets the
+// environment or runs it as another user).
 LogRun RunProgram(const QString& program, const QString& home, const QStringList& args,
-                  const Launch& launch = {})
+                  const QStringList& through = {})
 {
     QProcess run;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("QUILLMERE_HOME", home);
-    for (const auto& [name, value] : launch.Env)
-        env.insert(name, value);
     run.setProcessEnvironment(env);
-    const QStringList command = launch.Through + QStringList{program} + args;
+    const QStringList command = through + QStringList{program} + args;
     run.start(command.front(), command.mid(1));
     EXPECT_TRUE(run.waitForFinished(120000));
     return {run.exitStatus() == QProcess::NormalExit ? run.exitCode() : -1,
@@ -54,9 +47,9 @@ LogRun RunProgram(const QString& program, const QString& home, const QStringList
             QString::fromUtf8(run.readAllStandardError())};
 }
 
-LogRun RunLog(const QString& home, const QStringList& args, const Launch& launch = {})
+LogRun RunLog(const QString& home, const QStringList& args, const QStringList& through = {})
 {
-    return RunProgram(QStringLiteral(QUILLMERE_LOG), home, args, launch);
+    return RunProgram(QStringLiteral(QUILLMERE_LOG), home, args, through);
 }
 
 // Runs a Python check with the given text on its standard input; its complaint, if any.
@@ -197,7 +190,7 @@ TEST(LogCommand, ABadStoredSettingIsNamedAndItsDefaultUsed)
         testenv::WriteFile(config + "/Quillmere/Quillmere.ini", text.toUtf8());
         const QString home = testenv::FreshDir("log-setting");
         const LogRun run =
-            RunLog(home, {"create", "--year", "2024"}, {{{"XDG_CONFIG_HOME", config}}, {}});
+            RunLog(home, {"create", "--year", "2024"}, {"env", "XDG_CONFIG_HOME=" + config});
         EXPECT_EQ(run.Status, 0) << key.toStdString();
         EXPECT_EQ(run.Err.count('\n'), 1) << run.Err.toStdString();
         EXPECT_TRUE(run.Err.startsWith(
@@ -340,7 +333,7 @@ namespace {
 
 // Starts the program as a user whom permissions bind: the test's own user, or when that is
 // the superuser, "nobody" through setpriv, with the folder handed over to it.
-Launch AsOrdinaryUser(const QString& folder)
+QStringList AsOrdinaryUser(const QString& folder)
 {
     if (::geteuid() != 0)
         return {};
@@ -358,7 +351,7 @@ Launch AsOrdinaryUser(const QString& folder)
     QFile::setPermissions(testenv::Root(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                                QFileDevice::ExeOwner | QFileDevice::ExeGroup |
                                                QFileDevice::ExeOther);
-    return {{}, {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"}};
+    return {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"};
 }
 
 constexpr auto FolderReadOnly =
@@ -372,14 +365,14 @@ constexpr auto FileReadOnly = QFileDevice::ReadOwner | QFileDevice::ReadGroup;
 TEST(LogCommand, FailuresNameTheirCause)
 {
     // A limit on the size of files the program writes stands for a full disk.
-    const Launch smallFiles{{}, {"sh", "-c", "ulimit -f 8; trap '' XFSZ; exec \"$0\" \"$@\""}};
+    const QStringList smallFiles{"sh", "-c", "ulimit -f 8; trap '' XFSZ; exec \"$0\" \"$@\""};
     for (const QStringList& row : testenv::DataRows(QUILLMERE_LOG_FAILURES)) {
         const std::string where = row[3].toStdString();
         const QString home = CreatedYear("log-cause");
         const QString csv = QDir(home).filePath("catches.csv");
         testenv::WriteFile(csv, "JulianDate,TotalTaken\n01/02/2024,3\n");
         const QByteArray year = testenv::FileBytes(YearPath(home));
-        const Launch launch = row[0] == "limited" ? smallFiles : AsOrdinaryUser(home);
+        const QStringList launch = row[0] == "limited" ? smallFiles : AsOrdinaryUser(home);
         ASSERT_TRUE(row[2] == "-" || QFile::setPermissions(YearPath(home), FileReadOnly));
         ASSERT_TRUE(row[1] == "-" || QFile::setPermissions(home, FolderReadOnly));
         const LogRun run =
