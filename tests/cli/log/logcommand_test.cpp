@@ -15,7 +15,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
-#include <QRegularExpression>
 #include <QTime>
 
 #include <gtest/gtest.h>
@@ -114,19 +113,51 @@ std::vector<QVariant> CatchEntries(const QString& path)
                                       "quote(Notes) FROM table1 ORDER BY JulianDate");
 }
 
+// The exported entries imported into a fresh year come out the same; a second import is
+// refused as every day now holds its entry, unless told to skip them; a file without an end
+// is refused once it outgrows any year of entries.
+void ImportsAsExported(const QString& exported, const QString& from)
+{
+    const QString into = CreatedYear("log-import-into");
+    const QString csv = QDir(into).filePath("catches.csv");
+    testenv::WriteFile(csv, exported.toUtf8());
+    const LogRun imported = RunLog(into, {"import", "--year", "2024", csv});
+    EXPECT_EQ(imported.Out, "Imported 4 day(s) into " + YearPath(into) + "\n")
+        << imported.Err.toStdString();
+    EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(from));
+    EXPECT_EQ(ListBackups(YearPath(into)).size(), 1);
+
+    const LogRun refused = RunLog(into, {"import", "--year", "2024", csv});
+    EXPECT_EQ(refused.Status, 1);
+    EXPECT_EQ(refused.Out.count('\n'), 4) << refused.Out.toStdString();
+    EXPECT_TRUE(refused.Out.startsWith(csv + ": Line 4: 01/03/2024 already holds an entry\n"))
+        << refused.Out.toStdString();
+    EXPECT_TRUE(refused.Err.startsWith("quillmere-log: nothing was imported: choose --skip"));
+    EXPECT_EQ(RunLog(into, {"import", "--year", "2024", csv, "--skip"}).Status, 0);
+    EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(from));
+    const LogRun endless = RunLog(into, {"import", "--year", "2024", "/dev/zero"});
+    ExpectOneLineRefusal(endless, 1, "import /dev/zero");
+    EXPECT_TRUE(endless.Err.contains("holds more than 16 MB")) << endless.Err.toStdString();
+}
+
 } // namespace
 
-TEST(LogCommand, CreateListExportCompactAndRepairAYear)
+TEST(LogCommand, CreateListExportImportCompactAndRepairAYear)
 {
     const QString home =
         CreatedYear("log-command", {"--lon", "92.42W", "--lat", "31.25N", "--zone", "6", "--dst"});
     EXPECT_EQ(RunLog(home, {"list"}).Out, "2024.mdb\n");
-    // An angler's entry with a comma, a quote and a line break travels through the CSV.
-    logtest::PlainExec(YearPath(home), "UPDATE table1 SET Notes = '3 bass, one \"huge\"\nby the "
-                                       "dam' WHERE DBID = 40");
+    // An angler's entries with commas, quotes and a line break travel through the CSV.
+    for (const char* entry :
+         {"TotalTaken = 4, TakenWith = 'jig, chartreuse', PeakTime = '7:00 AM' WHERE DBID = 3",
+          "TotalTaken = 0, Notes = '3 bass, one \"huge\"\nby the dam' WHERE DBID = 40",
+          "PeakTime = '11:00 PM' WHERE DBID = 61",
+          "TotalTaken = 12, TakenWith = 'worms', Notes = 'last day' WHERE DBID = 366"})
+        logtest::PlainExec(YearPath(home), QString("UPDATE table1 SET ") + entry);
     const LogRun csv = RunLog(home, {"export", "--year", "2024"});
     ASSERT_EQ(csv.Status, 0) << csv.Err.toStdString();
     EXPECT_EQ(PythonCheck(CsvAgainstFile, csv.Out, {YearPath(home)}), "");
+    ImportsAsExported(csv.Out, YearPath(home));
     EXPECT_EQ(PythonCheck("import json,sys; d=json.load(sys.stdin); assert len(d)==366; "
                           "assert d[0]['JulianDate']=='01/01/2024'; "
                           "assert d[39]['Notes'].startswith('3 bass'), d[39]",
@@ -172,37 +203,31 @@ TEST(LogCommand, BadInputExitsWithTwoAndFailuresWithOne)
     EXPECT_TRUE(help.Out.contains("--weekdays D-D"));
 }
 
-// A stored setting that cannot be read is named in one line and its default is used: the year
-// comes out as at the default place of location 1.
+// A stored setting that cannot be read (a latitude of NaN passes a range test unnoticed) is
+// named in one line and its default is used: the year comes out as at the default place of
+// location 1.
 TEST(LogCommand, ABadStoredSettingIsNamedAndItsDefaultUsed)
 {
     const QString reference =
         CreatedYear("log-setting-reference", {"--lon", "92.42W", "--lat", "31.25N", "--zone", "6"});
-    const auto expected = logtest::PlainRows(YearPath(reference), "SELECT * FROM table1");
-    for (const auto& [key, value] :
-         {std::pair<QString, QString>{"Usr1Lat", "nan"}, {"Usr1Long", "east"}, {"Usr1TZ", "99"}}) {
-        QString text = "[Settings]\nDefLoc=1\nUsr1Name=Alexandria, LA\nUsr1Long=92.42\n"
-                       "Usr1Lat=31.25\nUsr1TZ= 6\n";
-        text.replace(QRegularExpression("^" + key + "=.*$", QRegularExpression::MultilineOption),
-                     key + "=" + value);
-        const QString config = testenv::FreshDir("log-setting-config");
-        QDir().mkpath(config + "/Quillmere");
-        testenv::WriteFile(config + "/Quillmere/Quillmere.ini", text.toUtf8());
-        const QString home = testenv::FreshDir("log-setting");
-        const LogRun run =
-            RunLog(home, {"create", "--year", "2024"}, {"env", "XDG_CONFIG_HOME=" + config});
-        EXPECT_EQ(run.Status, 0) << key.toStdString();
-        EXPECT_EQ(run.Err.count('\n'), 1) << run.Err.toStdString();
-        EXPECT_TRUE(run.Err.startsWith(
-            QString("quillmere-log: the stored setting %1 holds \"%2\"").arg(key, value)))
-            << run.Err.toStdString();
-        EXPECT_TRUE(logtest::PlainRows(YearPath(home), "SELECT * FROM table1") == expected)
-            << key.toStdString();
-    }
+    const QString config = testenv::FreshDir("log-setting-config");
+    QDir().mkpath(config + "/Quillmere");
+    testenv::WriteFile(config + "/Quillmere/Quillmere.ini",
+                       "[Settings]\nDefLoc=1\nUsr1Name=Alexandria, LA\nUsr1Long=92.42\n"
+                       "Usr1Lat=nan\nUsr1TZ= 6\n");
+    const QString home = testenv::FreshDir("log-setting");
+    const LogRun run =
+        RunLog(home, {"create", "--year", "2024"}, {"env", "XDG_CONFIG_HOME=" + config});
+    EXPECT_EQ(run.Status, 0);
+    EXPECT_EQ(run.Err.count('\n'), 1) << run.Err.toStdString();
+    EXPECT_TRUE(run.Err.startsWith("quillmere-log: the stored setting Usr1Lat holds \"nan\""))
+        << run.Err.toStdString();
+    EXPECT_TRUE(logtest::PlainRows(YearPath(home), "SELECT * FROM table1") ==
+                logtest::PlainRows(YearPath(reference), "SELECT * FROM table1"));
 }
 
 // The browser's questions on the command line: the selected days as JSON against the same
-// question asked of the file by Python's SQLite, a refused value, and the report printed.
+// question asked of the file by Python's SQLite, and the report printed.
 const char* const QueryAgainstFile = R"(
 import json, sqlite3, sys
 days = json.loads(sys.stdin.read())
@@ -223,9 +248,6 @@ TEST(LogCommand, QueryAndReportTheSelectedDays)
     ASSERT_EQ(json.Status, 0) << json.Err.toStdString();
     EXPECT_EQ(PythonCheck(QueryAgainstFile, json.Out, {YearPath(home)}), "");
     EXPECT_TRUE(RunLog(home, question).Out.startsWith("Sorted by Major1\n#     Date"));
-    ExpectOneLineRefusal(
-        RunLog(home, {"query", "--year", "2024", "--taken", "1; DROP TABLE table1"}), 2,
-        "a statement typed as a value");
 
     // January and February: 60 lines and the dash line make two pages.
     const QString pdf = QDir(home).filePath("report.pdf");
@@ -291,42 +313,6 @@ TEST(LogCommand, LocalClockYearAgreesWithTheForecastAndRecordsItsPlace)
               "2025.mdb: the place it was filled for is not recorded (a file made before the log "
               "kept it)\n");
     EXPECT_EQ(RunLog(home, {"query", "--year", "2025", "--months", "1"}).Status, 0);
-}
-
-TEST(LogCommand, ExportThenImportIntoAFreshYearGivesTheSameEntries)
-{
-    const QString from = CreatedYear("log-import-from");
-    for (const char* entry :
-         {"TotalTaken = 4, TakenWith = 'jig, chartreuse', PeakTime = '7:00 AM' WHERE DBID = 3",
-          "TotalTaken = 0, Notes = 'wind \"30 knots\"\nno bites' WHERE DBID = 60",
-          "PeakTime = '11:00 PM' WHERE DBID = 61",
-          "TotalTaken = 12, TakenWith = 'worms', Notes = 'last day' WHERE DBID = 366"})
-        logtest::PlainExec(YearPath(from), QString("UPDATE table1 SET ") + entry);
-    const LogRun exported = RunLog(from, {"export", "--year", "2024"});
-    ASSERT_EQ(exported.Status, 0) << exported.Err.toStdString();
-    const QString into = CreatedYear("log-import-into");
-    const QString csv = QDir(into).filePath("catches.csv");
-    testenv::WriteFile(csv, exported.Out.toUtf8());
-
-    const LogRun imported = RunLog(into, {"import", "--year", "2024", csv});
-    ASSERT_EQ(imported.Status, 0) << imported.Err.toStdString() << imported.Out.toStdString();
-    EXPECT_EQ(imported.Out, "Imported 4 day(s) into " + YearPath(into) + "\n");
-    EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(YearPath(from)));
-    EXPECT_EQ(ListBackups(YearPath(into)).size(), 1);
-
-    // Again: every day now holds its entry, so nothing is written without a choice.
-    const LogRun refused = RunLog(into, {"import", "--year", "2024", csv});
-    EXPECT_EQ(refused.Status, 1);
-    EXPECT_EQ(refused.Out.count('\n'), 4) << refused.Out.toStdString();
-    EXPECT_TRUE(refused.Out.startsWith(csv + ": Line 4: 01/03/2024 already holds an entry\n"))
-        << refused.Out.toStdString();
-    EXPECT_TRUE(refused.Err.startsWith("quillmere-log: nothing was imported: choose --skip"));
-    EXPECT_EQ(RunLog(into, {"import", "--year", "2024", csv, "--skip"}).Status, 0);
-    EXPECT_EQ(CatchEntries(YearPath(into)), CatchEntries(YearPath(from)));
-    // A file without an end is refused once it outgrows any year of entries.
-    const LogRun endless = RunLog(into, {"import", "--year", "2024", "/dev/zero"});
-    ExpectOneLineRefusal(endless, 1, "import /dev/zero");
-    EXPECT_TRUE(endless.Err.contains("holds more than 16 MB")) << endless.Err.toStdString();
 }
 
 namespace {
