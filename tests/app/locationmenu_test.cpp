@@ -22,57 +22,18 @@
 
 namespace {
 
-struct MainWindow {
-    MainWindow() : Instance(QStringLiteral("locationmenu-test"))
-    {
-        qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
-        App.Messages.Script([](const ShownMessage&) { return MsgResult::OK; });
-        Started = StartUp(App, true, Instance) == StartOutcome::Run;
-        W = std::make_unique<FrmCalendar>(App);
-        W->show();
-    }
-    // Triggers location n's menu item and lets the step work on the editor while it is open.
-    void Edit(int n, const std::function<void(FrmLocation&)>& step)
-    {
-        QTimer::singleShot(0, [&] {
-            auto* editor = qobject_cast<FrmLocation*>(QApplication::activeModalWidget());
-            ASSERT_NE(editor, nullptr);
-            Title = editor->windowTitle();
-            MainVisibleMeanwhile = W->isVisible();
-            step(*editor);
-        });
-        W->Loc[std::size_t(n)]->trigger();
-    }
-
-    AppState App;
-    SingleInstance Instance;
-    bool Started = false;
-    std::unique_ptr<FrmCalendar> W;
-    QString Title;
-    bool MainVisibleMeanwhile = true;
-};
-
-void Pick(QComboBox* box, const QString& text, FrmLocation& editor, int index)
+// Sunrise at Sydney on 10 March 2024 in its standard time (zone -10), hours, from PyEphem
+// (upper limb at -34', no refraction model beyond that).
+double EphemSydneySunrise()
 {
-    box->setCurrentIndex(box->findText(text));
-    editor.Combo_Click(index);
-}
-
-// Sunrise at the place on 10 March 2024 in local standard time, hours, from PyEphem (upper
-// limb at -34', no refraction model beyond that).
-double EphemSunrise(double lonEast, double latNorth, int hoursEast)
-{
-    const QString script = QString("import ephem\n"
-                                   "o = ephem.Observer(); o.lat = '%1'; o.lon = '%2'\n"
-                                   "o.pressure = 0; o.horizon = '-0:34'\n"
-                                   "o.date = ephem.Date('2024/3/10 00:00') - %3 * ephem.hour\n"
-                                   "t = o.next_rising(ephem.Sun()).datetime()\n"
-                                   "print((t.hour + t.minute / 60 + t.second / 3600 + %3) % 24)\n")
-                               .arg(latNorth)
-                               .arg(lonEast)
-                               .arg(hoursEast);
     QProcess python;
-    python.start("/usr/bin/python3", {"-c", script});
+    python.start("/usr/bin/python3",
+                 {"-c", "import ephem\n"
+                        "o = ephem.Observer(); o.lat = '-33.87'; o.lon = '151.21'\n"
+                        "o.pressure = 0; o.horizon = '-0:34'\n"
+                        "o.date = ephem.Date('2024/3/10 00:00') - 10 * ephem.hour\n"
+                        "t = o.next_rising(ephem.Sun()).datetime()\n"
+                        "print((t.hour + t.minute / 60 + t.second / 3600 + 10) % 24)\n"});
     python.waitForFinished(30000);
     return python.readAllStandardOutput().trimmed().toDouble();
 }
@@ -90,32 +51,52 @@ double ClockHours(const QString& text)
 // has it; closing the editor without Done stores nothing.
 TEST(LocationMenu, EditsReachTheMainWindowOnlyThroughDone)
 {
-    MainWindow m;
-    ASSERT_TRUE(m.Started);
-    m.Edit(3, [](FrmLocation& e) {
-        Pick(e.Combo[0], "Australia", e, 0);
-        Pick(e.Combo[1], "Sydney", e, 1);
+    qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
+    AppState app;
+    app.Messages.Script([](const ShownMessage&) { return MsgResult::OK; });
+    SingleInstance instance(QStringLiteral("locationmenu-test"));
+    ASSERT_EQ(StartUp(app, true, instance), StartOutcome::Run);
+    FrmCalendar w(app);
+    w.show();
+    QString title;
+    bool mainVisibleMeanwhile = true;
+    // Triggers location n's menu item and lets the step work on the editor while it is open.
+    const auto edit = [&](int n, const std::function<void(FrmLocation&)>& step) {
+        QTimer::singleShot(0, [&] {
+            auto* editor = qobject_cast<FrmLocation*>(QApplication::activeModalWidget());
+            ASSERT_NE(editor, nullptr);
+            title = editor->windowTitle();
+            mainVisibleMeanwhile = w.isVisible();
+            step(*editor);
+        });
+        w.Loc[std::size_t(n)]->trigger();
+    };
+    edit(3, [](FrmLocation& e) {
+        for (const auto& [box, text] : {std::pair{0, "Australia"}, {1, "Sydney"}}) {
+            e.Combo[std::size_t(box)]->setCurrentIndex(e.Combo[std::size_t(box)]->findText(text));
+            e.Combo_Click(box);
+        }
         e.CloseLocation->click();
     });
-    EXPECT_EQ(m.Title, "Location #3 ");
-    EXPECT_FALSE(m.MainVisibleMeanwhile);
-    EXPECT_TRUE(m.W->isVisible());
-    EXPECT_EQ(m.App.Config.CurLoc, 3);
-    EXPECT_EQ(m.W->StatusPanels[0]->text(), "Sydney, Australia");
-    EXPECT_EQ(m.W->Here.LocationCaption, "Sydney, Australia  Long=151.21 E Lat=33.87 S "
-                                         "TimeZone=-10  Time=STD Hemisphere=Southern ");
-    const double reference = EphemSunrise(151.21, -33.87, 10);
+    EXPECT_EQ(title, "Location #3 ");
+    EXPECT_FALSE(mainVisibleMeanwhile);
+    EXPECT_TRUE(w.isVisible());
+    EXPECT_EQ(app.Config.CurLoc, 3);
+    EXPECT_EQ(w.StatusPanels[0]->text(), "Sydney, Australia");
+    EXPECT_EQ(w.Here.LocationCaption, "Sydney, Australia  Long=151.21 E Lat=33.87 S "
+                                      "TimeZone=-10  Time=STD Hemisphere=Southern ");
+    const double reference = EphemSydneySunrise();
     ASSERT_GT(reference, 5.0);
-    EXPECT_NEAR(ClockHours(m.W->Label[14]->text()), reference, 1.0 / 60 + 1e-9)
-        << m.W->Label[14]->text().toStdString();
+    EXPECT_NEAR(ClockHours(w.Label[14]->text()), reference, 1.0 / 60 + 1e-9)
+        << w.Label[14]->text().toStdString();
 
-    m.Edit(4, [](FrmLocation& e) {
+    edit(4, [](FrmLocation& e) {
         e.Text[4]->setText("Not kept");
         e.VsbDegLon->setValue(10);
         e.reject(); // the window's close box
     });
-    EXPECT_TRUE(m.W->isVisible());
-    EXPECT_EQ(m.App.Config.CurLoc, 4);
-    EXPECT_NE(m.App.Config.Locations[4].Name, "Not kept");
-    EXPECT_TRUE(m.W->Loc[4]->text().startsWith("# 4 "));
+    EXPECT_TRUE(w.isVisible());
+    EXPECT_EQ(app.Config.CurLoc, 4);
+    EXPECT_NE(app.Config.Locations[4].Name, "Not kept");
+    EXPECT_TRUE(w.Loc[4]->text().startsWith("# 4 "));
 }

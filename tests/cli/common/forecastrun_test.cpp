@@ -61,31 +61,6 @@ TEST(ForecastRun, PolarDaysSayWhyEventsDoNotHappenAndCountEveryStretchOfDaylight
         EXPECT_NEAR(*north.Day(2024, 5, day).DayLength, hours, 2.0 / 60.0) << day;
 }
 
-// One major per real transit: the upper transits come every 24 h 50 min and the lower ones
-// half a lunar day later, so over a year no two majors lie closer than ten hours, and each
-// kind happens on about 366 x 24 / 24.84 days.
-TEST(ForecastRun, MajorsOnlyForRealTransits)
-{
-    ForecastRun la(Place(118.25, 34.05, 8));
-    std::vector<double> majors; // universal time, hours since 2024
-    int upper = 0, lower = 0;
-    for (int d = 0; d < 366; ++d) {
-        const CivilDate c = JdToCivil(CivilToJd(2024, 1, 1) + d);
-        const DayRow r = la.Day(c.Year, c.Month, c.Day);
-        EXPECT_EQ(r.Major1.Hours.has_value(), r.Major1Text.front() != '*') << d;
-        for (const DayEvent* e : {&r.Major1, &r.Major2})
-            if (e->Hours)
-                majors.push_back(24.0 * d + *e->Hours + r.UtcOffsetHours);
-        upper += r.Major1.Hours.has_value();
-        lower += r.Major2.Hours.has_value();
-    }
-    std::sort(majors.begin(), majors.end());
-    for (std::size_t i = 1; i < majors.size(); ++i)
-        EXPECT_GT(majors[i] - majors[i - 1], 10.0) << majors[i] / 24.0;
-    EXPECT_NEAR(upper, 353.6, 1.0);
-    EXPECT_NEAR(lower, 353.6, 1.0);
-}
-
 // USNO: March equinox 2024-03-20 03:06 UT; new moon 2014-01-01 11:14 UT. In Alexandria's
 // zone (6) the equinox is 21:06 standard time and 22:06 daylight time on 19 March, in the
 // events list and in the detail window alike.
