@@ -62,15 +62,12 @@ void PauseUpTo(int ms) { QThread::msleep(QRandomGenerator::global()->bounded(ms 
 // "JulianDate,Notes" lines giving days first..last the note "<tag> <day>".
 QString CatchCsv(const QString& folder, const QString& tag, int first, int last)
 {
-    const QString path = QDir(folder).filePath(tag + ".csv");
-    QFile csv(path);
-    EXPECT_TRUE(csv.open(QIODevice::WriteOnly));
-    csv.write("JulianDate,Notes\r\n");
+    QString text = "JulianDate,Notes\r\n";
     for (int day = first; day <= last; ++day)
-        csv.write(QStringLiteral("%1,%2 %3\r\n")
-                      .arg(QDate(Year, 1, 1).addDays(day - 1).toString("MM/dd/yyyy"), tag)
-                      .arg(day)
-                      .toUtf8());
+        text += QDate(Year, 1, 1).addDays(day - 1).toString("MM/dd/yyyy") +
+                QString(",%1 %2\r\n").arg(tag).arg(day);
+    const QString path = QDir(folder).filePath(tag + ".csv");
+    testenv::WriteFile(path, text.toUtf8());
     return path;
 }
 
