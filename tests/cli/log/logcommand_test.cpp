@@ -11,7 +11,6 @@
 
 #include <QDate>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -289,12 +288,9 @@ TEST(LogCommand, LocalClockYearAgreesWithEphemAndRecordsItsPlace)
     ASSERT_EQ(created.Status, 0) << created.Err.toStdString();
     EXPECT_EQ(PythonCheck(SunriseAgainstEphem, "", {YearPath(home, 2025)}), "");
     // quillmere-forecast writes as many day rows as asked for, after its header.
-    EXPECT_EQ(
-        RunProgram(QStringLiteral(QUILLMERE_FORECAST), home,
-                   QStringList{"days", "--from", "2025-01-01", "--days", "365", "--format", "csv"} +
-                       place)
-            .Out.count('\n'),
-        366);
+    const QStringList days = {"days", "--from", "2025-01-01", "--days", "365", "--format", "csv"};
+    EXPECT_EQ(RunProgram(QStringLiteral(QUILLMERE_FORECAST), home, days + place).Out.count('\n'),
+              366);
 
     const auto recorded = logtest::PlainRows(
         YearPath(home, 2025), "SELECT Name || '|' || Latitude || '|' || Longitude || '|' || "
@@ -318,16 +314,7 @@ QStringList AsOrdinaryUser(const QString& folder)
 {
     if (::geteuid() != 0)
         return {};
-    constexpr uid_t Nobody = 65534;
-    const auto handOver = [](const QString& path) {
-        EXPECT_EQ(::chown(QFile::encodeName(path).constData(), Nobody, Nobody), 0)
-            << path.toStdString();
-    };
-    handOver(folder);
-    for (QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
-                         QDirIterator::Subdirectories);
-         it.hasNext();)
-        handOver(it.next());
+    EXPECT_EQ(QProcess::execute("chown", {"-R", "65534:65534", folder}), 0);
     // A way through the test's private root to the folder.
     QFile::setPermissions(testenv::Root(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                                QFileDevice::ExeOwner | QFileDevice::ExeGroup |
