@@ -29,10 +29,6 @@ TEST(LogQueryOptions, ConditionsAndOrderFillTheForm)
     ASSERT_FALSE(ReadQueryOptions({{"--weekdays", "mon-fri"}, {"--sort", "taken"}}, days));
     EXPECT_EQ(days.Form.Values[3] + "," + days.Form.Values[4], "2,6");
     EXPECT_EQ(days.SortIndex, 5);
-    QueryRequest none;
-    ASSERT_FALSE(ReadQueryOptions({}, none));
-    EXPECT_EQ(none.Form.Checked, (std::array<bool, ConditionCount>{}));
-    EXPECT_EQ(none.SortIndex, 1);
 }
 
 // Every condition's range at both ends and beyond, and the other refusals, from a data file;
