@@ -20,11 +20,6 @@ ForecastPlace Place(double lonWest, double latNorth, int zone, double dstOffsetD
     return p;
 }
 
-ForecastPlace Alexandria(double dstOffsetDays = 0.0)
-{
-    return Place(92.42, 31.25, 6, dstOffsetDays);
-}
-
 // The Sun's lowest altitude at the solstice is -(90 - latitude - 23.44) degrees and its
 // highest 90 - latitude + 23.44: at 70 N it stays above every altitude in June and below the
 // horizon in December, still above -6; at Oslo (59.9 N) in June it reaches -6.65, so civil
@@ -66,7 +61,7 @@ TEST(ForecastRun, PolarDaysSayWhyEventsDoNotHappenAndCountEveryStretchOfDaylight
 TEST(ForecastRun, YearEventsInUniversalAndLocalTime)
 {
     for (const auto& [dst, clock] : {std::pair{0.0, "21:06"}, {-1.0 / 24.0, "22:06"}}) {
-        ForecastRun run(Alexandria(dst));
+        ForecastRun run(Place(92.42, 31.25, 6, dst));
         const auto events = run.Events(2024);
         const auto equinox = std::find_if(events.begin(), events.end(), [](const EventRow& e) {
             return e.Type == "march_equinox";
@@ -76,7 +71,7 @@ TEST(ForecastRun, YearEventsInUniversalAndLocalTime)
         const std::string text = EventsAsText(2024, events, "Alexandria");
         EXPECT_NE(text.find(std::string("2024-03-19 ") + clock + "  Spring Equinox"), text.npos);
     }
-    ForecastRun alexandria(Alexandria(-1.0 / 24.0));
+    ForecastRun alexandria(Place(92.42, 31.25, 6, -1.0 / 24.0));
     alexandria.Day(2024, 3, 19);
     const DetailLines lines =
         DoDetails(alexandria.Engine, alexandria.Cal, CivilToJd(2024, 3, 19), true);

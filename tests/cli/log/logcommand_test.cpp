@@ -292,11 +292,10 @@ TEST(LogCommand, LocalClockYearAgreesWithEphemAndRecordsItsPlace)
     EXPECT_EQ(RunProgram(QStringLiteral(QUILLMERE_FORECAST), home, days + place).Out.count('\n'),
               366);
 
-    const auto recorded = logtest::PlainRows(
-        YearPath(home, 2025), "SELECT Name || '|' || Latitude || '|' || Longitude || '|' || "
-                              "TzName || '|' || Clock FROM QuillmerePlace");
-    ASSERT_EQ(recorded.size(), 1u);
-    EXPECT_EQ(recorded[0][0].toString(), "Hudson pier|40.71|74.01|America/New_York|Local Clock");
+    EXPECT_EQ(logtest::PlainColumn(YearPath(home, 2025),
+                                   "SELECT Name || '|' || Latitude || '|' || Longitude || '|' || "
+                                   "TzName || '|' || Clock FROM QuillmerePlace"),
+              std::vector<QVariant>{"Hudson pier|40.71|74.01|America/New_York|Local Clock"});
     EXPECT_EQ(RunLog(home, {"info", "--year", "2025"}).Out,
               "2025.mdb: filled for Hudson pier  40.71N 74.01W  America/New_York, Local Clock\n");
     logtest::PlainExec(YearPath(home, 2025), "DROP TABLE QuillmerePlace");
