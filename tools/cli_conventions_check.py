@@ -35,8 +35,8 @@ def commands_of(help_text):
 def check_version(programs, _):
     for p in programs:
         long, short = run([p, "--version"]), run([p, "-V"])
-        assert long.returncode == short.returncode == 0, (p, long, short)
-        assert short.stdout == long.stdout and short.stdout.strip(), (p, short.stdout)
+        assert long.returncode == short.returncode == 0 and short.stdout == long.stdout and \
+            short.stdout.strip(), (p, long, short)
 
 
 def check_no_command(programs, _):

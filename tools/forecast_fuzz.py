@@ -56,19 +56,14 @@ def main():
             start = time.monotonic()
             p = subprocess.run([sys.argv[1]] + args, env=env, capture_output=True, timeout=5)
             seconds = time.monotonic() - start
-            problems = [text for bad, text in (
-                (p.returncode != 2, f'exit status {p.returncode}'),
-                (p.stdout, f'{len(p.stdout)} bytes on stdout'),
-                (p.stderr.count(b'\n') != 1 or not p.stderr.endswith(b'\n'), f'stderr {p.stderr[:200]!r}'),
-                (seconds >= 1.0, f'took {seconds:.2f} s')) if bad]
-            if problems:
+            if p.returncode != 2 or p.stdout or p.stderr.count(b'\n') != 1 or \
+                    not p.stderr.endswith(b'\n') or seconds >= 1.0:
                 failures += 1
-                print(f'{[x[:60] for x in args]}: ' + '; '.join(problems))
-        if os.listdir(home):
-            print(f'the settings store was written: {os.listdir(home)}')
-            failures += 1
-    print(f'{failures} failed')
-    return 1 if failures else 0
+                print(f'{[x[:60] for x in args]}: status {p.returncode}, {len(p.stdout)} bytes on '
+                      f'stdout, stderr {p.stderr[:200]!r}, {seconds:.2f} s')
+        written = os.listdir(home)
+    print(f'{failures} failed' + (f'; the settings store was written: {written}' if written else ''))
+    return 1 if failures or written else 0
 
 
 if __name__ == '__main__':

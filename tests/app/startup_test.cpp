@@ -157,9 +157,8 @@ TEST(Program, OnlyResetTouchesTheStoredSettings)
     const QString root = testenv::FreshDir("program-arguments");
     const QString ini = root + "/config/Quillmere/Quillmere.ini";
     QDir().mkpath(root + "/config/Quillmere");
-    QDir().mkpath(root + "/runtime");
-    QFile::setPermissions(root + "/runtime",
-                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QDir().mkdir(root + "/runtime",
+                 QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     const QByteArray stored = "[Settings]\nUsr1Name=Caddo Lake\nUsr1Long=94.05\nDefLoc=1\n";
     testenv::WriteFile(ini, stored);
     const auto start = [&](QProcess& program, const QStringList& args) {
