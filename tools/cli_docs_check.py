@@ -1,14 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Checks what tools/cli_docs.py made.
-
-  cli_docs_check.py manuals MAN_DIR
-      every page renders through groff and man without a warning, with its sections
-  cli_docs_check.py completion COMPLETION_DIR PROGRAM...
-      bash and zsh, given the completions (COMPLETION_DIR/PROGRAM and
-      COMPLETION_DIR/zsh/_PROGRAM), offer every command and every option the program's
-      --help names, and each command's own options after it
-"""
+# Checks what tools/cli_docs.py made:
+#   cli_docs_check.py manuals MAN_DIR: every page renders through man (and so groff) without
+#       a warning of any kind, with its sections;
+#   cli_docs_check.py completion COMPLETION_DIR PROGRAM...: bash and zsh offer every command
+#       and every option the program's --help names, and each command's own options after it.
 import glob
 import os
 import re
@@ -22,10 +18,7 @@ def check_manuals(man_dir):
     pages = sorted(glob.glob(os.path.join(man_dir, "*.1")))
     assert len(pages) == 3, pages
     for page in pages:
-        groff = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z", page],
-                               capture_output=True, text=True)
-        assert groff.returncode == 0 and not groff.stderr, (page, groff.stderr)
-        shown = subprocess.run(["man", "--warnings", "-l", page], capture_output=True, text=True,
+        shown = subprocess.run(["man", "--warnings=w", "-l", page], capture_output=True, text=True,
                                env=dict(os.environ, MANWIDTH="80"))
         assert shown.returncode == 0 and not shown.stderr, (page, shown.stderr)
         for section in ("NAME", "SYNOPSIS", "OPTIONS"):
@@ -33,7 +26,7 @@ def check_manuals(man_dir):
 
 
 def offered_bash(completion_dir, program, words):
-    """What bash offers after `program words...` (the last word is the one being typed)."""
+    # What bash offers after `program words...` (the last word is the one being typed).
     script = (f'source "$0"; COMP_WORDS=({program} "$@"); COMP_CWORD={len(words)}; '
               f'_{re.sub(r"[^A-Za-z0-9]", "_", program)}; printf "%s\\n" "${{COMPREPLY[@]}}"')
     out = subprocess.run(["bash", "-c", script, os.path.join(completion_dir, program)] + words,
@@ -42,19 +35,14 @@ def offered_bash(completion_dir, program, words):
 
 
 def offered_zsh(completion_dir, program, words):
-    """What zsh's completion function adds after `program words...`, kept to those that begin
-    with the word being typed as zsh keeps them; compadd and _files print what they are given."""
+    # What zsh's completion adds after `program words...`, kept to those that begin with the
+    # word being typed as zsh keeps them; compadd and _files print what they are given.
     script = ('compadd() { while [[ $1 != -- ]]; do shift; done; shift; print -l -- "$@"; }; '
               '_files() { print -- "<files>"; }; words=("$@"); CURRENT=$#; source "$0"')
     completion = os.path.join(completion_dir, "zsh", "_" + program)
     out = subprocess.run(["zsh", "-f", "-c", script, completion, program] + words,
                          capture_output=True, text=True, check=True).stdout
     return {w for w in out.split() if w.startswith(words[-1])}
-
-
-def check_completion(completion_dir, programs):
-    for offered in (offered_bash, offered_zsh):
-        check_shell(offered, completion_dir, programs)
 
 
 def check_shell(offered, completion_dir, programs):
@@ -82,6 +70,7 @@ if __name__ == "__main__":
     if len(sys.argv) == 3 and sys.argv[1] == "manuals":
         check_manuals(sys.argv[2])
     elif len(sys.argv) >= 4 and sys.argv[1] == "completion":
-        check_completion(sys.argv[2], sys.argv[3:])
+        for shell in (offered_bash, offered_zsh):
+            check_shell(shell, sys.argv[2], sys.argv[3:])
     else:
-        sys.exit(__doc__)
+        sys.exit("usage: cli_docs_check.py manuals MAN_DIR | completion COMPLETION_DIR PROGRAM...")

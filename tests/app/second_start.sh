@@ -9,8 +9,7 @@ trap 'kill "$first" 2>/dev/null; wait "$first" 2>/dev/null; rm -rf "$root"' EXIT
 export HOME="$root/home" XDG_CONFIG_HOME="$root/config" XDG_RUNTIME_DIR="$root/run" \
        QUILLMERE_HOME="$root/data" QT_QPA_PLATFORM=offscreen \
        QT_LOGGING_RULES="quillmere.instance.info=true"
-mkdir -p "$HOME" "$XDG_CONFIG_HOME" "$XDG_RUNTIME_DIR" "$QUILLMERE_HOME"
-chmod 700 "$XDG_RUNTIME_DIR"
+mkdir -p "$HOME" "$XDG_CONFIG_HOME" "$QUILLMERE_HOME" && mkdir -m 700 "$XDG_RUNTIME_DIR"
 
 # Waits up to 20 s for the first copy's log to hold the text.
 logged() {
@@ -25,8 +24,7 @@ logged() {
 first=$!
 logged "listening" || exit 1
 QT_LOGGING_RULES= timeout 20 "$program" >"$root/second.out" 2>&1
-status=$?
-[ "$status" -eq 0 ] || { echo "the second start ended with status $status"; exit 1; }
+status=$?; [ "$status" -eq 0 ] || { echo "the second start ended with status $status"; exit 1; }
 [ -s "$root/second.out" ] && { echo "the second start said:"; cat "$root/second.out"; exit 1; }
 logged "raise requested" || exit 1
 kill -0 "$first" || { echo "the first copy ended"; exit 1; }

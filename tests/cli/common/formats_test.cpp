@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <fstream>
+#include <map>
 
 namespace {
 
@@ -31,76 +32,37 @@ DayRow Sample()
     return r;
 }
 
-TEST(ForecastFormats, JsonHasEveryKeyAndNulls)
+// The sample day in each format holds the pieces the data file lists; iCalendar has one event
+// for the rating, two for the majors and one for the minor.
+TEST(ForecastFormats, EachFormatWritesTheSampleDay)
 {
-    const std::string json = AllDays(JsonDays(), {Sample()});
-    std::ifstream keys(QUILLMERE_JSON_KEYS);
-    int count = 0;
-    for (std::string key; std::getline(keys, key);)
-        if (!key.empty() && key[0] != '#') {
-            EXPECT_NE(json.find("\"" + key + "\": "), std::string::npos) << key;
-            ++count;
-        }
-    EXPECT_EQ(count, 39);
-    for (const char* value :
-         {"\"date\": \"2024-02-09\"", "\"moonrise\": null, \"moonrise_status\": \"none\"",
-          "\"moonset\": 17.25, \"moonset_status\": \"ok\"", "\"minor2\": null",
-          "\"sunset\": 17.85,", "\"text\": \" Moon at Perigee , \\\"x\\\"\""})
-        EXPECT_NE(json.find(value), std::string::npos) << value;
-    EXPECT_EQ(AllDays(JsonDays(), {}), "[]\n");
-}
-
-TEST(ForecastFormats, CsvQuotesAndEmptyCells)
-{
-    const std::string csv = AllDays(CsvDays(), {Sample()});
-    const std::string header = csv.substr(0, csv.find('\n'));
-    EXPECT_EQ(header.rfind("date,sunrise,sunrise_status,sunset,sunset_status,sun_transit,", 0), 0u);
-    const std::string row = csv.substr(header.size() + 1);
-    EXPECT_EQ(row.rfind("2024-02-09,6.9,ok,17.85,ok,", 0), 0u);
-    EXPECT_NE(row.find(",,none,11.5,ok,17.25,ok,"), std::string::npos); // no moonrise
-    EXPECT_NE(row.find(",\" Moon at Perigee , \"\"x\"\"\","), std::string::npos);
-}
-
-// iCalendar: CRLF lines of at most 75 octets, the rating as an all-day event, majors and the
-// one minor as timed events in universal time.
-TEST(ForecastFormats, IcsEventsInUniversalTime)
-{
-    const std::string ics = AllDays(IcsDays({"A very long location name that makes the "
-                                             "calendar name line longer than the limit",
-                                             "1W-2N-z6"},
-                                            "20261123T000000Z"),
-                                    {Sample()});
-    std::size_t start = 0, events = 0;
-    while (start < ics.size()) {
-        const std::size_t end = ics.find("\r\n", start);
-        ASSERT_NE(end, std::string::npos);
-        EXPECT_LE(end - start, 75u);
-        events += ics.compare(start, end - start, "BEGIN:VEVENT") == 0;
-        start = end + 2;
+    const std::map<std::string, std::string> written = {
+        {"json", AllDays(JsonDays(), {Sample()})},
+        {"csv", AllDays(CsvDays(), {Sample()})},
+        {"text", AllDays(TextDays("Alexandria, LA"), {Sample()})},
+        {"ics", AllDays(IcsDays({"Alexandria", "1W-2N-z6"}, "20261123T000000Z"), {Sample()})}};
+    std::ifstream table(QUILLMERE_FORMAT_PIECES);
+    int rows = 0;
+    for (std::string line; std::getline(table, line);) {
+        if (line.empty() || line[0] == '#')
+            continue;
+        ++rows;
+        const std::string& out = written.at(line.substr(0, line.find('|')));
+        std::string piece = line.substr(line.find('|') + 1);
+        for (std::size_t at; (at = piece.find("\\n")) != piece.npos;)
+            piece.replace(at, 2, "\n");
+        if (piece[0] == '^')
+            EXPECT_EQ(out.rfind(piece.substr(1), 0), 0u) << line;
+        else
+            EXPECT_NE(out.find(piece), std::string::npos) << line << "\n" << out;
     }
-    EXPECT_EQ(events, 4u); // rating, two majors, one minor
-    EXPECT_NE(ics.find("DTSTART;VALUE=DATE:20240209"), std::string::npos);
-    EXPECT_NE(ics.find("SUMMARY:Best"), std::string::npos);
-    // Major 1 at 11:30 local, zone 6: 16:30 UT, one hour either side.
-    EXPECT_NE(ics.find("DTSTART:20240209T163000Z"), std::string::npos);
-    EXPECT_NE(ics.find("DTEND:20240209T183000Z"), std::string::npos);
-    // Major 2 at 23:54 local ends after midnight UT of the next day.
-    EXPECT_NE(ics.find("DTEND:20240210T065400Z"), std::string::npos);
-    // Minor 1 at 05:15 local: 35 minutes either side of 11:15 UT.
-    EXPECT_NE(ics.find("DTSTART:20240209T104000Z"), std::string::npos);
-    EXPECT_NE(ics.find("DTEND:20240209T115000Z"), std::string::npos);
-}
-
-TEST(ForecastFormats, TextTableAndRatingNames)
-{
-    const std::string text = AllDays(TextDays("Alexandria, LA"), {Sample()});
-    EXPECT_EQ(text.rfind("Alexandria, LA\n\nDate", 0), 0u);
-    EXPECT_NE(text.find("2024-02-09  Best    06:54   17:51   *****    11:30"), std::string::npos)
-        << text;
-    EXPECT_EQ(RatingName(1), "Fair");
-    EXPECT_EQ(RatingName(3), "V.Good");
-    EXPECT_EQ(RatingName(0), "");
-    EXPECT_EQ(ExactNumber(0.1), "0.1");
+    EXPECT_EQ(rows, 39 + 19); // the JSON keys and the other pieces
+    std::size_t events = 0;
+    for (std::size_t at = 0;
+         (at = written.at("ics").find("BEGIN:VEVENT", at + 1)) != std::string::npos;)
+        ++events;
+    EXPECT_EQ(events, 4u);
+    EXPECT_EQ(AllDays(JsonDays(), {}), "[]\n");
     EXPECT_EQ(ExactNumber(std::nan("")), "null"); // JSON has no NaN
 }
 
