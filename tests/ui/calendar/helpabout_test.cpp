@@ -14,9 +14,7 @@ TEST(HelpWindow, ShowsTheShippedHelpFromTheProgramFolder)
     const QString file = ProgramFolder::File("Quillmere.html");
     ASSERT_TRUE(QFile::exists(file)) << "the program folder was not seeded with the help";
     HelpWindow help(file);
-    const QString text = help.Browser->toPlainText();
-    EXPECT_TRUE(text.contains("Major periods"));
-    EXPECT_TRUE(text.contains("Best"));
+    EXPECT_TRUE(help.Browser->toPlainText().contains("Major periods"));
     HelpWindow missing(file + ".gone");
     EXPECT_TRUE(missing.Browser->toPlainText().contains("is missing"));
 }
@@ -28,12 +26,9 @@ TEST(FrmAbout, LinksOpenThroughTheDesktop)
         opened.emplace_back(op, file);
         return true;
     });
-    EXPECT_EQ(about.Email->text(), "Email");
-    EXPECT_TRUE(about.lblVersion->text().contains(QUILLMERE_VERSION));
     EXPECT_TRUE(about.lblCredits->text().contains("GeoNames"));
     emit about.lblWeb->linkActivated("#");
     emit about.lblEmail->linkActivated("#");
-    ASSERT_EQ(opened.size(), 2u);
-    EXPECT_EQ(opened[0], std::make_pair(QString("open"), FrmAbout::WebAddress));
-    EXPECT_EQ(opened[1], std::make_pair(QString("open"), "Mailto:" + FrmAbout::ContactAddress));
+    EXPECT_EQ(opened, (decltype(opened){{"open", FrmAbout::WebAddress},
+                                        {"open", "Mailto:" + FrmAbout::ContactAddress}}));
 }
