@@ -24,10 +24,9 @@ TEST(FrmReminders, KeepsEachLocationsChoicesUntilOK)
         w.ChkMajors->setChecked(true);
         w.SpnLead->setValue(15);
         w.CboLocation->setCurrentIndex(4); // location 5
-        EXPECT_TRUE(w.ChkSun->isChecked());
-        EXPECT_FALSE(w.ChkMajors->isChecked());
-        EXPECT_EQ(w.SpnLead->value(), 90);
-        EXPECT_TRUE(w.OptBestDays->isChecked());
+        EXPECT_EQ(std::tuple(w.ChkSun->isChecked(), w.ChkMajors->isChecked(), w.SpnLead->value(),
+                             w.OptBestDays->isChecked()),
+                  std::tuple(true, false, 90, true));
         w.OptEveryDay->setChecked(true);
         w.CboLocation->setCurrentIndex(1);
         EXPECT_TRUE(w.ChkMajors->isChecked());
@@ -37,10 +36,9 @@ TEST(FrmReminders, KeepsEachLocationsChoicesUntilOK)
             continue;
         }
         w.CmdOK_Click();
-        EXPECT_TRUE(edited.Locations[2].Reminder ==
-                    (ReminderOption{.Majors = true, .LeadMinutes = 15}));
-        EXPECT_TRUE(edited.Locations[5].Reminder ==
-                    (ReminderOption{.SunEvents = true, .LeadMinutes = 90}));
-        EXPECT_FALSE(edited.Locations[1].Reminder.Any());
+        Settings expected = s;
+        expected.Locations[2].Reminder = {.Majors = true, .LeadMinutes = 15};
+        expected.Locations[5].Reminder = {.SunEvents = true, .LeadMinutes = 90};
+        EXPECT_TRUE(edited.Locations == expected.Locations);
     }
 }
