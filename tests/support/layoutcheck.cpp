@@ -24,20 +24,28 @@ namespace {
 constexpr double BaseDpi = 96.0;
 constexpr int EditPadding = 2 * 2 + 1; // QLineEdit's margin on each side and the cursor
 
+QString Name(const QWidget& w)
+{
+    const QString own = w.objectName();
+    return QStringLiteral("%1 %2").arg(
+        w.metaObject()->className(),
+        own.isEmpty() && w.parentWidget() != nullptr ? w.parentWidget()->objectName() : own);
+}
+
 struct Faults {
     QStringList Lines;
     // A text that needs more pixels (wide, or high when `high`) than its widget gives it.
     void Need(const QWidget& w, const QString& text, int needed, int room, bool high = false)
     {
         if (needed > room)
-            Lines << QString::asprintf("%s %s '%s': needs %d px%s, has %d px",
-                                       w.metaObject()->className(), qPrintable(Name(w)),
+            Lines << QString::asprintf("%s '%s': needs %d px%s, has %d px", qPrintable(Name(w)),
                                        qPrintable(text), needed, high ? " high" : "", room);
     }
-    static QString Name(const QWidget& w)
+    // A text needs its widget's own size hint, which the style computes from the text.
+    void NeedHint(const QWidget& w, const QString& text, QSize hint)
     {
-        return w.objectName().isEmpty() && w.parentWidget() ? w.parentWidget()->objectName()
-                                                            : w.objectName();
+        Need(w, text, hint.width(), w.width());
+        Need(w, text, hint.height(), w.height(), true);
     }
 };
 
@@ -54,33 +62,27 @@ void CheckLabel(const QLabel& label, Faults& f)
         return;
     if (label.wordWrap())
         return f.Need(label, text, label.heightForWidth(label.width()), label.height(), true);
-    const int m = label.margin();
-    const QRect room = label.contentsRect().adjusted(m, m, -m, -m);
-    f.Need(label, text, TextSize(label, text).width(), room.width());
-    f.Need(label, text, TextSize(label, text).height(), room.height(), true);
+    const QSize room = label.contentsRect().size(), needed = TextSize(label, text);
+    f.Need(label, text, needed.width(), room.width());
+    f.Need(label, text, needed.height(), room.height(), true);
 }
 
+// Check boxes and option buttons size to their text; a push button's hint has a least width,
+// so its text is measured against the room inside its margins.
 void CheckButton(QAbstractButton& button, Faults& f)
 {
     const QString text = button.text();
     if (text.isEmpty())
         return;
-    QStyle* style = button.style();
+    if (qobject_cast<QCheckBox*>(&button) || qobject_cast<QRadioButton*>(&button))
+        return f.NeedHint(button, text, button.sizeHint());
     QStyleOptionButton option;
     option.initFrom(&button);
-    option.text = text;
-    int room = 0;
-    if (qobject_cast<QCheckBox*>(&button) || qobject_cast<QRadioButton*>(&button)) {
-        const auto part = qobject_cast<QCheckBox*>(&button) ? QStyle::SE_CheckBoxContents
-                                                            : QStyle::SE_RadioButtonContents;
-        room = style->subElementRect(part, &option, &button).width();
-    } else {
-        const int margin = style->pixelMetric(QStyle::PM_ButtonMargin, &option, &button) +
-                           2 * style->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &button);
-        const int icon = button.icon().isNull() ? 0 : button.iconSize().width() + 4;
-        room = button.width() - margin - icon;
-    }
-    f.Need(button, text, TextSize(button, text).width(), room);
+    const QStyle* style = button.style();
+    const int margin = style->pixelMetric(QStyle::PM_ButtonMargin, &option, &button) +
+                       2 * style->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &button);
+    const int icon = button.icon().isNull() ? 0 : button.iconSize().width() + 4;
+    f.Need(button, text, TextSize(button, text).width(), button.width() - margin - icon);
     f.Need(button, text, TextSize(button, text).height(), button.height(), true);
 }
 
@@ -138,50 +140,28 @@ void CheckMenuBar(const QMenuBar& bar, Faults& f)
     }
 }
 
-// Each section's text with the style's margins and sort arrow, as the header sizes it.
-void CheckHeader(const QHeaderView& header, Faults& f)
-{
-    const QAbstractItemModel* model = header.model();
-    if (model == nullptr)
-        return;
-    const bool across = header.orientation() == Qt::Horizontal;
-    constexpr int MostRows = 50;
-    const int count = across ? model->columnCount() : std::min(model->rowCount(), MostRows);
-    for (int i = 0; i < count; ++i) {
-        QStyleOptionHeader option;
-        option.initFrom(&header);
-        option.text = model->headerData(i, header.orientation()).toString();
-        option.section = i;
-        if (header.isSectionHidden(i) || option.text.isEmpty())
-            continue;
-        f.Need(header, option.text,
-               header.style()
-                   ->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), &header)
-                   .width(),
-               across ? header.sectionSize(i) : header.width());
-    }
-}
-
-// The cells a table shows: the widest of each column's shown rows against the column.
-void CheckTableCells(QTableView& table, Faults& f)
+// A table's column headings and the cells it shows, each against its column; row headings
+// against the header's width.
+void CheckTable(QTableView& table, Faults& f)
 {
     const QAbstractItemModel* model = table.model();
-    if (model == nullptr || model->rowCount() == 0)
+    if (model == nullptr)
         return;
-    for (int column = 0; column < model->columnCount(); ++column)
-        if (!table.isColumnHidden(column))
-            f.Need(table, "cells of " + model->headerData(column, Qt::Horizontal).toString(),
+    const QHeaderView* rows = table.verticalHeader();
+    if (rows->isVisible())
+        f.Need(*rows, "row headings", rows->sizeHint().width(), rows->width());
+    for (int column = 0; column < model->columnCount(); ++column) {
+        if (table.isColumnHidden(column))
+            continue;
+        const QString heading = model->headerData(column, Qt::Horizontal).toString();
+        const int room = table.columnWidth(column);
+        f.Need(table, heading, table.horizontalHeader()->sectionSizeHint(column), room);
+        if (model->rowCount() > 0)
+            f.Need(table, "cells of " + heading,
                    static_cast<QAbstractItemView&>(table).sizeHintForColumn(column) -
                        (table.showGrid() ? 1 : 0),
-                   table.columnWidth(column));
-}
-
-void CheckTabBar(const QTabBar& bar, Faults& f)
-{
-    const int space = bar.style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, &bar);
-    for (int i = 0; i < bar.count(); ++i)
-        f.Need(bar, bar.tabText(i), TextSize(bar, bar.tabText(i)).width() + space,
-               bar.rect().intersected(bar.tabRect(i)).width());
+                   room);
+    }
 }
 
 // A child is cut off where it leaves its parent; the contents of a scroll area may.
@@ -192,10 +172,9 @@ void CheckPlace(const QWidget& child, Faults& f)
     if ((area != nullptr && area->viewport() == parent) ||
         parent->rect().contains(child.geometry()))
         return;
-    f.Lines << QString::asprintf("%s %s: lies at %d,%d %dx%d outside its parent's %dx%d",
-                                 child.metaObject()->className(), qPrintable(Faults::Name(child)),
-                                 child.x(), child.y(), child.width(), child.height(),
-                                 parent->width(), parent->height());
+    f.Lines << QString::asprintf("%s: lies at %d,%d %dx%d outside its parent's %dx%d",
+                                 qPrintable(Name(child)), child.x(), child.y(), child.width(),
+                                 child.height(), parent->width(), parent->height());
 }
 
 void CheckWidget(QWidget& w, Faults& f)
@@ -212,14 +191,16 @@ void CheckWidget(QWidget& w, Faults& f)
         CheckCombo(*combo, f);
     else if (auto* bar = qobject_cast<QMenuBar*>(&w))
         CheckMenuBar(*bar, f);
-    else if (auto* header = qobject_cast<QHeaderView*>(&w))
-        CheckHeader(*header, f);
     else if (auto* table = qobject_cast<QTableView*>(&w))
-        CheckTableCells(*table, f);
+        CheckTable(*table, f);
     else if (auto* tabs = qobject_cast<QTabBar*>(&w))
-        CheckTabBar(*tabs, f);
+        for (int i = 0; i < tabs->count(); ++i)
+            f.Need(*tabs, tabs->tabText(i),
+                   TextSize(*tabs, tabs->tabText(i)).width() +
+                       tabs->style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, tabs),
+                   tabs->rect().intersected(tabs->tabRect(i)).width());
     else if (auto* box = qobject_cast<QGroupBox*>(&w); box && !box->title().isEmpty())
-        f.Need(*box, box->title(), TextSize(*box, box->title()).width(), box->width());
+        f.Need(*box, box->title(), box->minimumSizeHint().width(), box->width());
 }
 
 } // namespace
@@ -229,10 +210,9 @@ QStringList ClippedItems(QWidget& window)
     Faults f;
     const QRect screen = window.screen()->availableGeometry();
     if (window.width() > screen.width() || window.height() > screen.height())
-        f.Lines << QString::asprintf("%s %s: %dx%d is larger than the screen's %dx%d",
-                                     window.metaObject()->className(),
-                                     qPrintable(window.windowTitle()), window.width(),
-                                     window.height(), screen.width(), screen.height());
+        f.Lines << QString::asprintf("%s: %dx%d is larger than the screen's %dx%d",
+                                     qPrintable(Name(window)), window.width(), window.height(),
+                                     screen.width(), screen.height());
     for (QWidget* child : window.findChildren<QWidget*>())
         if (!child->isWindow() && child->isVisibleTo(&window))
             CheckWidget(*child, f);
