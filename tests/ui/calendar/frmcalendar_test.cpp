@@ -160,25 +160,6 @@ TEST_F(Window, TheHourIsThePlacesClockHour)
     EXPECT_EQ(Text(14), local);
 }
 
-// A southern location swaps the quarter pictures of the grid (March 2024's first quarter shows
-// the southern picture); a northern one swaps them back.
-TEST_F(Window, SouthernLocationSwapsTheQuarterPictures)
-{
-    const QImage first = W->ImageA[8].toImage(), last = W->ImageA[10].toImage();
-    ASSERT_NE(first, last);
-    App.Config.Locations[3].Latitude = -33.87;
-    W->DLoc_Click(3);
-    EXPECT_EQ(W->Pic[21].toImage(), last);
-    EXPECT_EQ(W->Pic[23].toImage(), first);
-    std::vector<bool> southern;
-    for (int d = 1; d <= 31; ++d)
-        if (App.Cal.YearDays[std::size_t(App.Cal.MonthStartDoy[3] + d - 1)].Phase == 2)
-            southern.push_back(W->txtpic[std::size_t(5 + d - 1)]->Shown().Phase.toImage() == last);
-    EXPECT_EQ(southern, std::vector<bool>{true});
-    W->DLoc_Click(1);
-    EXPECT_EQ(W->Pic[21].toImage(), first);
-}
-
 // Number, marks, phase symbol and fish each keep their own place inside the selection frame,
 // on the days with marks and two-digit numbers too (10 March, 15 and 30 December 2024).
 TEST_F(Window, DayCellsKeepTheirPartsApart)
@@ -295,24 +276,16 @@ TEST_F(Window, RightButtonOnTheSelectedDayOpensTheGraph)
     EXPECT_EQ(bands, 6u);
 }
 
-// The year bar from 2023 to 2024 refills the months; a click marks a month in white;
-// "Done-Exit" without a change leaves the month as it was; a double click on March returns the
-// main window to March of the shown year.
+// The year bar from 2023 to 2024 refills the months; a click marks a month in white; a double
+// click on March returns the main window to March of the shown year.
 TEST_F(Window, YearCalendarMarksAndReturnsOnTheChosenMonth)
 {
     const auto colour = [](FrmYearCal& y, int month) {
         return y.Labmonth[std::size_t(month)]->palette().color(QPalette::WindowText);
     };
-    WithModal<FrmYearCal>([&](FrmYearCal& y) {
-        EXPECT_EQ(colour(y, 3), QColor(Qt::white));
-        EXPECT_EQ(colour(y, 5), QColor(Qt::black));
-        EXPECT_FALSE(y.Changed);
-        y.cmdexit_Click();
-    });
-    W->mnuyearly_Click();
-    EXPECT_EQ(Text(11) + Text(12), "March 2024");
     std::string feb2023, feb2024;
     WithModal<FrmYearCal>([&](FrmYearCal& y) {
+        EXPECT_EQ(colour(y, 3), QColor(Qt::white));
         y.Labmonth_Click(5);
         EXPECT_EQ(colour(y, 5), QColor(Qt::white));
         EXPECT_EQ(colour(y, 3), QColor(Qt::black));

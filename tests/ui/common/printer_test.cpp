@@ -77,22 +77,6 @@ TEST(Printer, PrintsEveryPageIntoTheNamedPdfAndNeverOverAnotherFile)
     }
 }
 
-// In a folder that cannot be written the earlier PDF keeps its bytes: the new one is built
-// beside it and renamed into place. (Only where permissions hold: not for root.)
-TEST(Printer, AnEarlierPdfInAReadOnlyFolderStaysWhole)
-{
-    const QString dir = testenv::FreshDir("print-readonly");
-    const QString kept = dir + "/kept.pdf";
-    testenv::WriteFile(kept, "%PDF-1.4 earlier");
-    QFile::setPermissions(dir, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-    if (QStringList said; !QFile(dir + "/probe").open(QIODevice::WriteOnly)) {
-        EXPECT_EQ(PrintTo(kept, said), PrintOutcome::Failed);
-        EXPECT_EQ(testenv::FileBytes(kept), "%PDF-1.4 earlier");
-    }
-    QFile::setPermissions(dir,
-                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-}
-
 // Without $QUILLMERE_PRINT_PDF the print dialog opens; cancelling it prints nothing, calls no
 // drawing and says nothing.
 TEST(Printer, ACancelledDialogPrintsNothingAndSaysNothing)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The day detail window's values and event lines against PyEphem and the US Naval
-// Observatory, kept in data/; the window's caption, timer and beep.
+// Observatory, kept in data/, and the window that shows them under its caption.
 #include "astro/astronomy.h"
 #include "astro/timebase.h"
 #include "calendar/calendar.h"
@@ -9,10 +9,9 @@
 #include "ui/views/frmdetail.h"
 #include "viewrules/daydetails.h"
 
+#include <QDate>
 #include <QLabel>
 #include <QRegularExpression>
-#include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -88,6 +87,7 @@ TEST(DoDetails, SummerDayAtAlexandriaAgreesWithEphem)
     w.ShowLines(d);
     w.show();
     EXPECT_EQ(w.windowTitle(), "Details for  6/20/2024");
+    EXPECT_EQ(DetailsCaption(2024, 3, 5, false, '.'), "Details for 5.3.2024"); // day first
     EXPECT_EQ(w.Label[17]->text().toStdString(), d.at(17));
 }
 
@@ -109,29 +109,4 @@ TEST(DoDetails, EventLinesNameTheDaysEventsOnThePlacesClock)
         EXPECT_NEAR(ClockMinutes(found), ClockMinutes(row[7]), row[8].toInt())
             << where << ": " << found.toStdString();
     }
-}
-
-// Day first with the platform's separator; a click anywhere beeps once and stops the timer;
-// closing stops it too.
-TEST(FrmDetail, CaptionAndAClickThatBeepsOnceAndHaltsTheTimer)
-{
-    FrmDetail w;
-    w.SetDay(2024, 12, 31, {false, '-'});
-    int beeps = 0;
-    w.Beep = [&beeps] { ++beeps; };
-    w.ShowLines({{17, "05:06 AM/07:17 PM"}, {FirstEventLabel, "Full Moon 01:08 AM"}});
-    w.show();
-    EXPECT_EQ(w.windowTitle(), "Details for 31-12-2024");
-    for (const auto& [widget, at] :
-         {std::pair<QWidget*, QPoint>{w.Label[17], w.Label[17]->rect().center()}, {&w, {3, 3}}}) {
-        w.Timer1->start();
-        QTest::mouseClick(widget, Qt::LeftButton, {}, at);
-        EXPECT_FALSE(w.Timer1->isActive());
-    }
-    EXPECT_EQ(beeps, 2);
-    w.Timer1->start();
-    w.CMDClose_Click();
-    EXPECT_FALSE(w.Timer1->isActive());
-    EXPECT_FALSE(w.isVisible());
-    EXPECT_EQ(beeps, 2);
 }
