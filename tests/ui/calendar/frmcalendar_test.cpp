@@ -1,20 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The main window and the windows it opens, over the first-start settings at a fixed "now".
 #include "astro/timebase.h"
+#include "model/settings.h"
+#include "pages/calendarpage.h"
+#include "platform/settingsio.h"
+#include "support/pdftext.h"
 #include "support/testenv.h"
 #include "ui/calendar/daycellwidget.h"
 #include "ui/calendar/frmcalendar.h"
+#include "ui/calendar/frmprint.h"
+#include "ui/calendar/frmreminders.h"
 #include "ui/calendar/frmyearcal.h"
-#include "ui/calendar/mainwindowtest.h"
+#include "ui/common/appstate.h"
 #include "ui/views/daygraph.h"
 #include "ui/views/frmdetail.h"
+#include "ui/views/frmglance.h"
+#include "ui/views/frmlist.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
 #include <QDate>
 #include <QKeySequence>
 #include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
@@ -22,15 +39,40 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace {
 
-// The main window on 10 March 2024, 07:30.
-class Window : public MainWindowTest {
+class MainWindowTest : public ::testing::Test {
 protected:
-    Window() : MainWindowTest("2024-03-10T07:30:00") {}
+    explicit MainWindowTest(const char* now) : Now(now) {}
+    void SetUp() override
+    {
+        qputenv("QUILLMERE_NOW", Now);
+        SettingsStore().DeleteAll();
+        WriteFirstStartValues(App.Store);
+        LoadSettings(App.Config, App.Store);
+        App.Config.CurLoc = App.Config.DefaultLocation();
+        W = std::make_unique<FrmCalendar>(App);
+        W->show();
+    }
+    void TearDown() override
+    {
+        qunsetenv("QUILLMERE_NOW");
+        qunsetenv("QUILLMERE_PRINT_PDF");
+    }
+
+    std::string Text(int label) const { return W->Label[std::size_t(label)]->text().toStdString(); }
+    std::string Shown() const { return Text(11) + Text(12); }
+    void SetMonth(int year, int month)
+    {
+        App.Cal.CurYear = std::int16_t(year);
+        App.Cal.CurMonth = std::int16_t(month);
+        W->VsbYear->setValue(year);
+        W->RefreshMonth();
+    }
     int FramedCell() const
     {
         for (int i = 0; i < 37; ++i)
@@ -38,7 +80,6 @@ protected:
                 return i;
         return -1;
     }
-    std::string Shown() const { return Text(11) + Text(12); }
     // Runs `act` on the modal window the next step opens, then lets the step return.
     template <typename Modal> void WithModal(std::function<void(Modal&)> act)
     {
@@ -50,7 +91,39 @@ protected:
                 w->close();
         });
     }
+    // Prints into a fresh PDF file and returns its path.
+    static QString PrintTo(const QString& name)
+    {
+        const QString path = testenv::FreshDir("functions-" + name) + "/" + name + ".pdf";
+        qputenv("QUILLMERE_PRINT_PDF", path.toLocal8Bit());
+        return path;
+    }
+    template <typename T> static T* OpenWindow()
+    {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (auto* t = dynamic_cast<T*>(w); t && t->isVisible())
+                return t;
+        return nullptr;
+    }
+
+    const char* Now;
+    AppState App;
+    std::unique_ptr<FrmCalendar> W;
 };
+
+// The main window on 10 March 2024, 07:30.
+class Window : public MainWindowTest {
+protected:
+    Window() : MainWindowTest("2024-03-10T07:30:00") {}
+};
+
+// The main window at Alexandria, LA (the first-start default) in February 2024.
+class Functions : public MainWindowTest {
+protected:
+    Functions() : MainWindowTest("2024-02-10T07:30:00") {}
+};
+
+} // namespace
 
 // Today at noon on opening and after "Now"; the month buttons wrap from 2500 to 1900 and
 // back; the year bar's scrolling shows only the number until it is let go; the hour bar moves
@@ -304,4 +377,132 @@ TEST_F(Window, YearCalendarMarksAndReturnsOnTheChosenMonth)
     EXPECT_EQ(W->VsbYear->value(), 2023);
 }
 
-} // namespace
+// The printed calendar's boxes: February 2024 begins on a Thursday, 29 boxes with times in
+// five rows; June 2024 begins on a Saturday and needs six. 1 February 2024: the Moon's
+// transit at 10:57 UT (PyEphem) is 04:57 AM here. Days 2 and 16 carry the quarters (last
+// quarter lit on the left in the north), 9 new, 24 full; the south sees the quarters the
+// other way round.
+TEST_F(Functions, CalendarPageBoxesFollowTheMonthGrid)
+{
+    const CalendarPage feb = CalendarPageOf(App.Astro, App.Cal, 0);
+    const CalendarPage south = CalendarPageOf(App.Astro, App.Cal, -1);
+    ASSERT_EQ(feb.Boxes.size(), 29u);
+    EXPECT_EQ(feb.Boxes[0].Majors.substr(0, 8), "04:57 A/");
+    for (auto [day, north, southern] : {std::tuple{2, 4, 2}, {9, 1, 1}, {16, 2, 4}, {24, 3, 3}}) {
+        EXPECT_EQ(feb.Boxes[std::size_t(day - 1)].PhaseSymbol, north) << day;
+        EXPECT_EQ(south.Boxes[std::size_t(day - 1)].PhaseSymbol, southern) << day;
+    }
+    SetMonth(2024, 6);
+    const CalendarPage june = CalendarPageOf(App.Astro, App.Cal, 0);
+    EXPECT_EQ(june.Title, "June   2024");
+    // Rows, then the first and last day's column and row.
+    for (const auto& [page, rows, first, last] :
+         {std::tuple{&feb, 5, std::pair{4, 0}, std::pair{4, 4}}, {&june, 6, {6, 0}, {0, 5}}}) {
+        EXPECT_EQ(page->Rows, rows);
+        EXPECT_EQ(std::pair(page->Boxes.front().Column, page->Boxes.front().Row), first);
+        EXPECT_EQ(std::pair(page->Boxes.back().Column, page->Boxes.back().Row), last);
+    }
+}
+
+// "&Print" previews the shown month; the window's print button prints it at 1.2 times its
+// size, upright on landscape paper; the main window's forecast stays the selected day's.
+TEST_F(Functions, PrintCalendarPreviewsAndPrints)
+{
+    const std::string major = App.Astro.Forecast.Major1Text;
+    W->PrintCalendar->trigger();
+    FrmPrint* print = W->PrintWindow;
+    ASSERT_NE(print, nullptr);
+    EXPECT_TRUE(print->isVisible());
+    EXPECT_EQ(App.Astro.Forecast.Major1Text, major);
+
+    const QString pdf = PrintTo("calendar");
+    print->Command2->click();
+    EXPECT_EQ(testenv::PdfPages(pdf), 1);
+    const QString text = testenv::PdfText(pdf);
+    // The page names its month and place; tools/pdf_pages_check.py reads the rest of the page.
+    EXPECT_TRUE(text.contains(QRegularExpression("February\\s+2024")) &&
+                text.contains(QString::fromStdString(W->Here.CurLocName)) &&
+                text.contains("04:57 A/"))
+        << text.toStdString();
+    print->Command1->click();
+    EXPECT_FALSE(print->isVisible());
+}
+
+// "@Glance" and "&Table" hide the main window until they close; the chart opens centred on
+// the screen and prints with its title line; the list shows the month at the current location,
+// copies it with the wider headings and prints the same lines.
+TEST_F(Functions, GlanceAndTableShowPrintAndReturn)
+{
+    W->AtAGlance->trigger();
+    FrmGlance* glance = OpenWindow<FrmGlance>();
+    ASSERT_NE(glance, nullptr);
+    EXPECT_FALSE(W->isVisible());
+    EXPECT_EQ(glance->Chart.Days.size(), 29u);
+    const QPoint off = glance->screen()->geometry().center() - glance->geometry().center();
+    EXPECT_LE(std::max(std::abs(off.x()), std::abs(off.y())), 2);
+    QString pdf = PrintTo("glance");
+    glance->Cmd[1]->click();
+    QString text = testenv::PdfText(pdf);
+    EXPECT_TRUE(text.contains("Lunar Events for Feb/2024") && text.contains("Perigee") &&
+                text.contains("Apogee"))
+        << text.toStdString();
+    glance->Cmd[0]->click();
+    EXPECT_TRUE(W->isVisible());
+
+    W->ShowList->trigger();
+    FrmList* list = OpenWindow<FrmList>();
+    ASSERT_NE(list, nullptr);
+    EXPECT_FALSE(W->isVisible());
+    EXPECT_EQ(list->windowTitle(), "Monthly Data for Alexandria, LA");
+    const QStringList shown = list->Text1->toPlainText().split('\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(shown.size(), 29);
+    // 1 February's line: the Moon's transit at 10:57 UT (PyEphem), 04:57 AM here.
+    EXPECT_TRUE(shown[0].startsWith("01  ") && shown[0].contains("04:57"))
+        << shown[0].toStdString();
+    list->Command2->click();
+    const QString clip = QGuiApplication::clipboard()->text();
+    EXPECT_TRUE(
+        clip.startsWith("Feb 2024\r\n\r\n                 Sun                  Moon \r\n") &&
+        clip.contains(shown[28] + "\r\n"))
+        << clip.toStdString();
+    pdf = PrintTo("list");
+    list->Command3->click();
+    text = testenv::PdfText(pdf);
+    EXPECT_TRUE(text.contains("Feb 2024") && text.contains("\n29 ")) << text.toStdString();
+    list->Command1->click();
+    EXPECT_TRUE(W->isVisible());
+}
+
+// Each location keeps its own choices while the window is open; OK puts all of them into the
+// settings, Cancel none.
+TEST(FrmReminders, KeepsEachLocationsChoicesUntilOK)
+{
+    Settings s;
+    s.CurLoc = 2;
+    s.Locations[2].Name = "Miami, FL";
+    s.Locations[5].Reminder = {.SunEvents = true, .LeadMinutes = 90, .BestDaysOnly = true};
+    for (const bool ok : {false, true}) {
+        Settings edited = s;
+        FrmReminders w(edited);
+        EXPECT_EQ(w.CboLocation->currentText(), "# 2 Miami, FL");
+        w.ChkMajors->setChecked(true);
+        w.SpnLead->setValue(15);
+        w.CboLocation->setCurrentIndex(4); // location 5
+        EXPECT_EQ(std::tuple(w.ChkSun->isChecked(), w.ChkMajors->isChecked(), w.SpnLead->value(),
+                             w.OptBestDays->isChecked()),
+                  std::tuple(true, false, 90, true));
+        w.OptEveryDay->setChecked(true);
+        w.CboLocation->setCurrentIndex(1);
+        EXPECT_TRUE(w.ChkMajors->isChecked());
+        if (!ok) {
+            w.reject();
+            EXPECT_TRUE(edited.Locations == s.Locations);
+            continue;
+        }
+        w.CmdOK_Click();
+        Settings expected = s;
+        expected.Locations[2].Reminder = {.Majors = true, .LeadMinutes = 15};
+        expected.Locations[5].Reminder = {.SunEvents = true, .LeadMinutes = 90};
+        EXPECT_TRUE(edited.Locations == expected.Locations);
+    }
+}
