@@ -377,36 +377,13 @@ TEST_F(Window, YearCalendarMarksAndReturnsOnTheChosenMonth)
     EXPECT_EQ(W->VsbYear->value(), 2023);
 }
 
-// The printed calendar's boxes: February 2024 begins on a Thursday, 29 boxes with times in
-// five rows; June 2024 begins on a Saturday and needs six. 1 February 2024: the Moon's
-// transit at 10:57 UT (PyEphem) is 04:57 AM here. Days 2 and 16 carry the quarters (last
-// quarter lit on the left in the north), 9 new, 24 full; the south sees the quarters the
-// other way round.
-TEST_F(Functions, CalendarPageBoxesFollowTheMonthGrid)
-{
-    const CalendarPage feb = CalendarPageOf(App.Astro, App.Cal, 0);
-    const CalendarPage south = CalendarPageOf(App.Astro, App.Cal, -1);
-    ASSERT_EQ(feb.Boxes.size(), 29u);
-    EXPECT_EQ(feb.Boxes[0].Majors.substr(0, 8), "04:57 A/");
-    for (auto [day, north, southern] : {std::tuple{2, 4, 2}, {9, 1, 1}, {16, 2, 4}, {24, 3, 3}}) {
-        EXPECT_EQ(feb.Boxes[std::size_t(day - 1)].PhaseSymbol, north) << day;
-        EXPECT_EQ(south.Boxes[std::size_t(day - 1)].PhaseSymbol, southern) << day;
-    }
-    SetMonth(2024, 6);
-    const CalendarPage june = CalendarPageOf(App.Astro, App.Cal, 0);
-    EXPECT_EQ(june.Title, "June   2024");
-    // Rows, then the first and last day's column and row.
-    for (const auto& [page, rows, first, last] :
-         {std::tuple{&feb, 5, std::pair{4, 0}, std::pair{4, 4}}, {&june, 6, {6, 0}, {0, 5}}}) {
-        EXPECT_EQ(page->Rows, rows);
-        EXPECT_EQ(std::pair(page->Boxes.front().Column, page->Boxes.front().Row), first);
-        EXPECT_EQ(std::pair(page->Boxes.back().Column, page->Boxes.back().Row), last);
-    }
-}
-
 // "&Print" previews the shown month; the window's print button prints it at 1.2 times its
-// size, upright on landscape paper; the main window's forecast stays the selected day's.
-TEST_F(Functions, PrintCalendarPreviewsAndPrints)
+// size, upright on landscape paper; the main window's forecast stays the selected day's. The
+// boxes: February 2024 begins on a Thursday, 29 boxes in five rows; June 2024 begins on a
+// Saturday and needs six. 1 February 2024: the Moon's transit at 10:57 UT (PyEphem) is
+// 04:57 AM here. Days 2 and 16 carry the quarters (last quarter lit on the left in the north),
+// 9 new, 24 full; the south sees the quarters the other way round.
+TEST_F(Functions, PrintedCalendarFollowsTheMonthGrid)
 {
     const std::string major = App.Astro.Forecast.Major1Text;
     W->PrintCalendar->trigger();
@@ -414,7 +391,13 @@ TEST_F(Functions, PrintCalendarPreviewsAndPrints)
     ASSERT_NE(print, nullptr);
     EXPECT_TRUE(print->isVisible());
     EXPECT_EQ(App.Astro.Forecast.Major1Text, major);
-
+    const CalendarPage feb = print->Page;
+    const CalendarPage south = CalendarPageOf(App.Astro, App.Cal, -1);
+    ASSERT_EQ(feb.Boxes.size(), 29u);
+    for (auto [day, north, southern] : {std::tuple{2, 4, 2}, {9, 1, 1}, {16, 2, 4}, {24, 3, 3}}) {
+        EXPECT_EQ(feb.Boxes[std::size_t(day - 1)].PhaseSymbol, north) << day;
+        EXPECT_EQ(south.Boxes[std::size_t(day - 1)].PhaseSymbol, southern) << day;
+    }
     const QString pdf = PrintTo("calendar");
     print->Command2->click();
     EXPECT_EQ(testenv::PdfPages(pdf), 1);
@@ -426,6 +409,17 @@ TEST_F(Functions, PrintCalendarPreviewsAndPrints)
         << text.toStdString();
     print->Command1->click();
     EXPECT_FALSE(print->isVisible());
+
+    SetMonth(2024, 6);
+    const CalendarPage june = CalendarPageOf(App.Astro, App.Cal, 0);
+    EXPECT_EQ(june.Title, "June   2024");
+    // Rows, then the first and last day's column and row.
+    for (const auto& [page, rows, first, last] :
+         {std::tuple{&feb, 5, std::pair{4, 0}, std::pair{4, 4}}, {&june, 6, {6, 0}, {0, 5}}}) {
+        EXPECT_EQ(page->Rows, rows);
+        EXPECT_EQ(std::pair(page->Boxes.front().Column, page->Boxes.front().Row), first);
+        EXPECT_EQ(std::pair(page->Boxes.back().Column, page->Boxes.back().Row), last);
+    }
 }
 
 // "@Glance" and "&Table" hide the main window until they close; the chart opens centred on
