@@ -55,16 +55,15 @@ QSize TextSize(const QWidget& w, const QString& text)
     return w.fontMetrics().size(Qt::TextShowMnemonic, text);
 }
 
-void CheckLabel(const QLabel& label, Faults& f)
+// A label, check box, option button or group box with a text asks for the room it takes; a
+// wrapped label's height follows its width.
+void CheckByHint(const QWidget& w, const QString& text, Faults& f)
 {
-    const QString text = label.text();
-    if (text.isEmpty() || !label.pixmap().isNull() || Qt::mightBeRichText(text))
+    if (text.isEmpty())
         return;
-    if (label.wordWrap())
-        return f.Need(label, text, label.heightForWidth(label.width()), label.height(), true);
-    const QSize room = label.contentsRect().size(), needed = TextSize(label, text);
-    f.Need(label, text, needed.width(), room.width());
-    f.Need(label, text, needed.height(), room.height(), true);
+    if (const auto* label = qobject_cast<const QLabel*>(&w); label && label->wordWrap())
+        return f.Need(w, text, label->heightForWidth(w.width()), w.height(), true);
+    f.NeedHint(w, text, w.minimumSizeHint());
 }
 
 // Check boxes and option buttons size to their text; a push button's hint has a least width,
@@ -75,7 +74,7 @@ void CheckButton(QAbstractButton& button, Faults& f)
     if (text.isEmpty())
         return;
     if (qobject_cast<QCheckBox*>(&button) || qobject_cast<QRadioButton*>(&button))
-        return f.NeedHint(button, text, button.sizeHint());
+        return CheckByHint(button, text, f);
     QStyleOptionButton option;
     option.initFrom(&button);
     const QStyle* style = button.style();
@@ -181,7 +180,7 @@ void CheckWidget(QWidget& w, Faults& f)
 {
     CheckPlace(w, f);
     if (auto* label = qobject_cast<QLabel*>(&w))
-        CheckLabel(*label, f);
+        CheckByHint(w, label->text(), f);
     else if (auto* button = qobject_cast<QAbstractButton*>(&w))
         CheckButton(*button, f);
     else if (auto* edit = qobject_cast<QLineEdit*>(&w);
@@ -199,8 +198,8 @@ void CheckWidget(QWidget& w, Faults& f)
                    TextSize(*tabs, tabs->tabText(i)).width() +
                        tabs->style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, tabs),
                    tabs->rect().intersected(tabs->tabRect(i)).width());
-    else if (auto* box = qobject_cast<QGroupBox*>(&w); box && !box->title().isEmpty())
-        f.Need(*box, box->title(), box->minimumSizeHint().width(), box->width());
+    else if (auto* box = qobject_cast<QGroupBox*>(&w))
+        CheckByHint(w, box->title(), f);
 }
 
 } // namespace
