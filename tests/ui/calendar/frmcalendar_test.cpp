@@ -126,8 +126,7 @@ protected:
 } // namespace
 
 // Today at noon on opening and after "Now"; the month buttons wrap from 2500 to 1900 and
-// back; the year bar's scrolling shows only the number until it is let go; the hour bar moves
-// the moment and a click on its label returns to noon.
+// back; the hour bar moves the moment and a click on its label returns to noon.
 TEST_F(Window, OpensOnTodayAndTheMonthYearAndHourControlsMoveIt)
 {
     EXPECT_EQ(Shown() + Text(15), "March 202412:00 PM");
@@ -151,10 +150,6 @@ TEST_F(Window, OpensOnTodayAndTheMonthYearAndHourControlsMoveIt)
     W->DecMonth_Click();
     EXPECT_EQ(Shown(), "November 2500");
     EXPECT_EQ(FramedCell(), App.Cal.FirstWeekday); // not this month: day 1 is framed
-    W->VsbYear->setSliderPosition(2040);
-    W->VsbYear_Scroll();
-    EXPECT_EQ(App.Cal.CurYear, 2040);
-    EXPECT_EQ(Text(12), " 2500");
 
     W->VsbHour->setValue(100);
     W->CmdNOW_Click();
@@ -163,8 +158,9 @@ TEST_F(Window, OpensOnTodayAndTheMonthYearAndHourControlsMoveIt)
 }
 
 // With "On Click", hovering shows the day counter but recomputes nothing; with "On Move" a
-// day is recomputed once when the mouse comes to it, not on every movement.
-TEST_F(Window, MouseOptionsDecideWhenADayIsRecomputed)
+// day is recomputed at noon once when the mouse comes to it, not on every movement; a click
+// frames a day, which stays framed through a move and the 24-hour clock (no AM/PM anywhere).
+TEST_F(Window, MouseSelectsAndRecomputesDays)
 {
     W->Mouse_Click(1);
     W->txtpic_MouseMove(20); // 16 March
@@ -183,9 +179,16 @@ TEST_F(Window, MouseOptionsDecideWhenADayIsRecomputed)
     EXPECT_NE(App.Astro.Forecast.Major1Text, "marker");
     W->Form_MouseMove();
     EXPECT_EQ(Text(3), "");
-    SetMonth(2024, 12);
-    W->txtpic_MouseMove(App.Cal.FirstWeekday + 30);
-    EXPECT_EQ(Text(3), "Day  366   0 days remain");
+
+    // A real click frames the day; another location and the 24-hour clock keep it framed.
+    QTest::mouseClick(W->txtpic[20], Qt::LeftButton); // 16 March
+    EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 16));
+    W->DLoc_Click(2);
+    W->Clock24->trigger();
+    EXPECT_EQ(FramedCell(), 20);
+    EXPECT_EQ(Text(15), "12:00");
+    for (int label : {0, 2, 14, 16})
+        EXPECT_EQ(Text(label).find('M'), std::string::npos) << Text(label);
 }
 
 // The hour bar follows the place's clock while today is selected, and stays put on another
@@ -286,23 +289,6 @@ TEST_F(Window, KeysMoveTheFramedDayAndTheMonth)
     EXPECT_EQ(W->Detail->windowTitle(), "Details for  3/10/2024");
 }
 
-// A click frames the day and recomputes it at noon; another location keeps the framed day;
-// the 24-hour clock shows every time without AM/PM.
-TEST_F(Window, ClickedDayStaysFramedThroughLocationAndClockChoices)
-{
-    W->VsbHour->setValue(300);
-    QTest::mouseClick(W->txtpic[20], Qt::LeftButton); // 16 March
-    EXPECT_EQ(W->VsbHour->value(), 720);
-    EXPECT_DOUBLE_EQ(App.Config.SelectedJD, CivilToJd(2024, 3, 16));
-    W->DLoc_Click(2);
-    EXPECT_EQ(FramedCell(), 20);
-    W->Clock24->trigger();
-    EXPECT_EQ(FramedCell(), 20);
-    EXPECT_EQ(Text(15), "12:00");
-    for (int label : {0, 2, 14, 16})
-        EXPECT_EQ(Text(label).find('M'), std::string::npos) << Text(label);
-}
-
 // Double-clicking a day opens the details beside it (a Wednesday's to its right), never over
 // it and within the screen, filled for the day; a click on another day hides them, and while
 // they show, passing over the days changes nothing.
@@ -331,22 +317,6 @@ TEST_F(Window, DoubleClickPlacesAndFillsTheDetails)
     EXPECT_TRUE(screen.contains(W->Detail->frameGeometry()));
     QTest::mouseClick(W->txtpic[15], Qt::LeftButton);
     EXPECT_FALSE(W->Detail->isVisible());
-}
-
-// The right button on the selected day opens the day's graph, modal; on another day nothing.
-TEST_F(Window, RightButtonOnTheSelectedDayOpensTheGraph)
-{
-    W->txtpic_MouseDown(15, Qt::RightButton); // not the selected cell (14)
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    QString caption;
-    std::size_t bands = 0;
-    WithModal<DayGraph>([&](DayGraph& g) {
-        caption = g.windowTitle();
-        bands = g.Series.Twilights.size();
-    });
-    W->txtpic_MouseDown(14, Qt::RightButton);
-    EXPECT_EQ(caption, "Daily Conditions For 03/10/2024");
-    EXPECT_EQ(bands, 6u);
 }
 
 // The year bar from 2023 to 2024 refills the months; a click marks a month in white; a double
