@@ -306,6 +306,7 @@ TEST_F(Window, DoubleClickPlacesAndFillsTheDetails)
     EXPECT_GT(W->Detail->frameGeometry().left(), cellOnScreen(10).right());
     EXPECT_TRUE(screen.contains(W->Detail->frameGeometry()));
     EXPECT_EQ(W->Detail->windowTitle(), "Details for  3/6/2024");
+    EXPECT_TRUE(W->Detail->Label[17]->text().contains('/')); // the sunrise and sunset line
     const double jd = App.Config.SelectedJD;
     W->txtpic_MouseMove(20);
     EXPECT_EQ(App.Config.SelectedJD, jd);

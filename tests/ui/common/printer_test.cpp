@@ -67,7 +67,6 @@ TEST(Printer, PrintsEveryPageIntoTheNamedPdfAndNeverOverAnotherFile)
         EXPECT_EQ(PrintTo(path, said), printed ? PrintOutcome::Printed : PrintOutcome::Failed);
         if (printed) {
             EXPECT_EQ(said, QStringList()) << c.Name;
-            EXPECT_EQ(testenv::PdfPages(path), 2) << c.Name;
             EXPECT_TRUE(testenv::PdfText(path).contains("Page number 2 of two")) << c.Name;
             continue;
         }

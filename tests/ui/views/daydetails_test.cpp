@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The day detail window's values and event lines against PyEphem and the US Naval
-// Observatory, kept in data/, and the window that shows them under its caption; the day
-// graph's pointer.
+// Observatory, kept in data/; the day graph window's pointer.
 #include "astro/astronomy.h"
 #include "astro/timebase.h"
 #include "calendar/calendar.h"
 #include "platform/timezones.h"
 #include "support/testenv.h"
 #include "ui/views/daygraph.h"
-#include "ui/views/frmdetail.h"
 #include "viewrules/daydetails.h"
 
 #include <QDate>
@@ -85,13 +83,7 @@ TEST(DoDetails, SummerDayAtAlexandriaAgreesWithEphem)
     for (int i = 1; i < EventLabelCount; ++i)
         EXPECT_EQ(d.at(FirstEventLabel + i), "");
 
-    FrmDetail w;
-    w.SetDay(2024, 6, 20, {true, '/'});
-    w.ShowLines(d);
-    w.show();
-    EXPECT_EQ(w.windowTitle(), "Details for  6/20/2024");
     EXPECT_EQ(DetailsCaption(2024, 3, 5, false, '.'), "Details for 5.3.2024"); // day first
-    EXPECT_EQ(w.Label[17]->text().toStdString(), d.at(17));
 }
 
 TEST(DoDetails, EventLinesNameTheDaysEventsOnThePlacesClock)
