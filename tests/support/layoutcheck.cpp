@@ -4,7 +4,6 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -13,10 +12,8 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
-#include <QStyle>
 #include <QStyleOption>
 #include <QTabBar>
 #include <QTableView>
@@ -26,82 +23,70 @@ namespace layoutcheck {
 namespace {
 
 constexpr double BaseDpi = 96.0;
-constexpr int LineEditMargin = 2; // QLineEdit's own horizontal margin on each side
-constexpr int CursorWidth = 1;
+constexpr int EditPadding = 2 * 2 + 1; // QLineEdit's margin on each side and the cursor
 
-QString Describe(const QWidget& w, const QString& text)
+QString Name(const QWidget& w)
 {
-    QString name = w.objectName();
-    if (name.isEmpty() && w.parentWidget() != nullptr)
-        name = w.parentWidget()->objectName();
-    return QStringLiteral("%1 %2 '%3'")
-        .arg(QString::fromLatin1(w.metaObject()->className()), name, text);
+    const QString own = w.objectName();
+    return QStringLiteral("%1 %2").arg(
+        w.metaObject()->className(),
+        own.isEmpty() && w.parentWidget() != nullptr ? w.parentWidget()->objectName() : own);
 }
 
 struct Faults {
     QStringList Lines;
-    void Width(const QWidget& w, const QString& text, int needed, int room)
+    // A text that needs more pixels (wide, or high when `high`) than its widget gives it.
+    void Need(const QWidget& w, const QString& text, int needed, int room, bool high = false)
     {
         if (needed > room)
-            Lines << Describe(w, text) +
-                         QString::asprintf(": needs %d px, has %d px", needed, room);
+            Lines << QString::asprintf("%s '%s': needs %d px%s, has %d px", qPrintable(Name(w)),
+                                       qPrintable(text), needed, high ? " high" : "", room);
     }
-    void Height(const QWidget& w, const QString& text, int needed, int room)
+    // A text needs its widget's own size hint, which the style computes from the text.
+    void NeedHint(const QWidget& w, const QString& text, QSize hint)
     {
-        if (needed > room)
-            Lines << Describe(w, text) +
-                         QString::asprintf(": needs %d px high, has %d px", needed, room);
+        Need(w, text, hint.width(), w.width());
+        Need(w, text, hint.height(), w.height(), true);
     }
 };
 
 // A text as drawn with mnemonics: "&Edit" takes the room of "Edit"; several lines stack.
-QSize TextSize(const QFontMetrics& fm, const QString& text)
+QSize TextSize(const QWidget& w, const QString& text)
 {
-    return fm.size(Qt::TextShowMnemonic, text);
+    return w.fontMetrics().size(Qt::TextShowMnemonic, text);
 }
 
-void CheckLabel(const QLabel& label, Faults& faults)
+// A label, check box, option button or group box with a text asks for the room it takes; a
+// wrapped label's height follows its width.
+void CheckByHint(const QWidget& w, const QString& text, Faults& f)
 {
-    const QString text = label.text();
-    if (text.isEmpty() || !label.pixmap().isNull() || Qt::mightBeRichText(text))
+    if (text.isEmpty())
         return;
-    const QRect room = label.contentsRect().adjusted(label.margin(), label.margin(),
-                                                     -label.margin(), -label.margin());
-    if (label.wordWrap()) {
-        faults.Height(label, text, label.heightForWidth(label.width()), label.height());
-        return;
-    }
-    const QSize needed = TextSize(label.fontMetrics(), text);
-    faults.Width(label, text, needed.width(), room.width());
-    faults.Height(label, text, needed.height(), room.height());
+    if (const auto* label = qobject_cast<const QLabel*>(&w); label && label->wordWrap())
+        return f.Need(w, text, label->heightForWidth(w.width()), w.height(), true);
+    f.NeedHint(w, text, w.minimumSizeHint());
 }
 
-void CheckButton(QAbstractButton& button, Faults& faults)
+// Check boxes and option buttons size to their text; a push button's hint has a least width,
+// so its text is measured against the room inside its margins.
+void CheckButton(QAbstractButton& button, Faults& f)
 {
     const QString text = button.text();
     if (text.isEmpty())
         return;
-    const QSize needed = TextSize(button.fontMetrics(), text);
-    QStyle* style = button.style();
+    if (qobject_cast<QCheckBox*>(&button) || qobject_cast<QRadioButton*>(&button))
+        return CheckByHint(button, text, f);
     QStyleOptionButton option;
     option.initFrom(&button);
-    option.text = text;
-    QRect room;
-    if (qobject_cast<QCheckBox*>(&button) != nullptr)
-        room = style->subElementRect(QStyle::SE_CheckBoxContents, &option, &button);
-    else if (qobject_cast<QRadioButton*>(&button) != nullptr)
-        room = style->subElementRect(QStyle::SE_RadioButtonContents, &option, &button);
-    else {
-        const int margin = style->pixelMetric(QStyle::PM_ButtonMargin, &option, &button) +
-                           2 * style->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &button);
-        const int icon = button.icon().isNull() ? 0 : button.iconSize().width() + 4;
-        room = button.rect().adjusted(0, 0, -margin - icon, 0);
-    }
-    faults.Width(button, text, needed.width(), room.width());
-    faults.Height(button, text, needed.height(), button.height());
+    const QStyle* style = button.style();
+    const int margin = style->pixelMetric(QStyle::PM_ButtonMargin, &option, &button) +
+                       2 * style->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &button);
+    const int icon = button.icon().isNull() ? 0 : button.iconSize().width() + 4;
+    f.Need(button, text, TextSize(button, text).width(), button.width() - margin - icon);
+    f.Need(button, text, TextSize(button, text).height(), button.height(), true);
 }
 
-void CheckLineEdit(const QLineEdit& edit, Faults& faults)
+void CheckLineEdit(const QLineEdit& edit, Faults& f)
 {
     const QString text = edit.displayText().isEmpty() ? edit.placeholderText() : edit.displayText();
     if (text.isEmpty())
@@ -110,196 +95,125 @@ void CheckLineEdit(const QLineEdit& edit, Faults& faults)
     option.initFrom(&edit);
     option.lineWidth =
         edit.hasFrame() ? edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth) : 0;
-    const QMargins margins = edit.textMargins();
     const QRect room = edit.style()
                            ->subElementRect(QStyle::SE_LineEditContents, &option, &edit)
-                           .marginsRemoved(margins);
-    const QFontMetrics fm = edit.fontMetrics();
-    faults.Width(edit, text, fm.horizontalAdvance(text) + 2 * LineEditMargin + CursorWidth,
-                 room.width());
-    faults.Height(edit, text, fm.height(), room.height());
+                           .marginsRemoved(edit.textMargins());
+    f.Need(edit, text, edit.fontMetrics().horizontalAdvance(text) + EditPadding, room.width());
+    f.Need(edit, text, edit.fontMetrics().height(), room.height(), true);
 }
 
 // The current text in the edit field, then every item in the popup as the combo box opens it.
-void CheckCombo(QComboBox& combo, Faults& faults)
+void CheckCombo(QComboBox& combo, Faults& f)
 {
     QStyleOptionComboBox option;
     option.initFrom(&combo);
     option.editable = combo.isEditable();
-    option.currentText = combo.currentText();
     const QRect field = combo.style()->subControlRect(QStyle::CC_ComboBox, &option,
                                                       QStyle::SC_ComboBoxEditField, &combo);
-    if (!combo.currentText().isEmpty())
-        faults.Width(combo, combo.currentText(),
-                     combo.fontMetrics().horizontalAdvance(combo.currentText()) +
-                         (combo.isEditable() ? 2 * LineEditMargin + CursorWidth : 0),
-                     field.width());
+    const QString text = combo.currentText();
+    if (!text.isEmpty())
+        f.Need(combo, text,
+               combo.fontMetrics().horizontalAdvance(text) + (combo.isEditable() ? EditPadding : 0),
+               field.width());
     if (combo.count() == 0)
         return;
     combo.showPopup();
-    QAbstractItemView* view = combo.view();
-    const int room = view->viewport()->width();
+    const QAbstractItemView* view = combo.view();
     for (int i = 0; i < combo.count(); ++i)
-        faults.Width(combo, combo.itemText(i),
-                     view->sizeHintForIndex(combo.model()->index(i, 0)).width(), room);
+        f.Need(combo, combo.itemText(i), view->sizeHintForIndex(combo.model()->index(i, 0)).width(),
+               view->viewport()->width());
     combo.hidePopup();
 }
 
 // A menu bar hides what does not fit behind its extension button; a menu must fit the screen.
-void CheckMenuBar(const QMenuBar& bar, Faults& faults)
+void CheckMenuBar(const QMenuBar& bar, Faults& f)
 {
-    for (QAction* action : bar.actions()) {
-        if (!action->isVisible() || action->isSeparator())
-            continue;
-        const QRect place = bar.actionGeometry(action);
-        const int needed = TextSize(bar.fontMetrics(), action->text()).width();
-        faults.Width(bar, action->text(), needed, place.isValid() ? place.width() : 0);
-        if (QMenu* menu = action->menu(); menu != nullptr) {
-            const int screen = bar.screen()->availableGeometry().width();
-            faults.Width(*menu, menu->title(), menu->sizeHint().width(), screen);
-        }
-    }
+    if (const auto* more = bar.findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button"));
+        more != nullptr && more->isVisible())
+        f.Lines << Name(bar) + ": items hidden behind the extension button";
+    for (QAction* action : bar.actions())
+        if (const QMenu* menu = action->menu())
+            f.Need(*menu, menu->title(), menu->sizeHint().width(),
+                   bar.screen()->availableGeometry().width());
 }
 
-// Each section's text with the style's margins and sort arrow, as the header sizes it.
-void CheckHeader(const QHeaderView& header, Faults& faults)
-{
-    const QAbstractItemModel* model = header.model();
-    if (model == nullptr)
-        return;
-    const int count =
-        header.orientation() == Qt::Horizontal ? model->columnCount() : model->rowCount();
-    const int checked = header.orientation() == Qt::Horizontal ? count : std::min(count, 50);
-    for (int i = 0; i < checked; ++i) {
-        if (header.isSectionHidden(i))
-            continue;
-        const QString text = model->headerData(i, header.orientation()).toString();
-        if (text.isEmpty())
-            continue;
-        QStyleOptionHeader option;
-        option.initFrom(&header);
-        option.text = text;
-        option.section = i;
-        const QSize needed =
-            header.style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), &header);
-        const int room =
-            header.orientation() == Qt::Horizontal ? header.sectionSize(i) : header.width();
-        faults.Width(header, text, needed.width(), room);
-    }
-}
-
-// The cells a table shows: the widest of each column's shown rows against the column.
-void CheckTableCells(QTableView& table, Faults& faults)
+// A table's column headings and the cells it shows, each against its column; row headings
+// against the header's width.
+void CheckTable(QTableView& table, Faults& f)
 {
     const QAbstractItemModel* model = table.model();
-    if (model == nullptr || model->rowCount() == 0)
+    if (model == nullptr)
         return;
+    const QHeaderView* rows = table.verticalHeader();
+    if (rows->isVisible())
+        f.Need(*rows, "row headings", rows->sizeHint().width(), rows->width());
     for (int column = 0; column < model->columnCount(); ++column) {
         if (table.isColumnHidden(column))
             continue;
         const QString heading = model->headerData(column, Qt::Horizontal).toString();
-        faults.Width(table, QStringLiteral("cells of ") + heading,
-                     static_cast<QAbstractItemView&>(table).sizeHintForColumn(column) -
-                         (table.showGrid() ? 1 : 0),
-                     table.columnWidth(column));
+        const int room = table.columnWidth(column);
+        f.Need(table, heading, table.horizontalHeader()->sectionSizeHint(column), room);
+        if (model->rowCount() > 0)
+            f.Need(table, "cells of " + heading,
+                   static_cast<QAbstractItemView&>(table).sizeHintForColumn(column) -
+                       (table.showGrid() ? 1 : 0),
+                   room);
     }
-}
-
-void CheckTabBar(const QTabBar& bar, Faults& faults)
-{
-    const int space = bar.style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, &bar);
-    for (int i = 0; i < bar.count(); ++i) {
-        const QRect tab = bar.tabRect(i);
-        const int needed = TextSize(bar.fontMetrics(), bar.tabText(i)).width() + space;
-        faults.Width(bar, bar.tabText(i), needed, bar.rect().intersected(tab).width());
-    }
-}
-
-void CheckGroupBox(const QGroupBox& box, Faults& faults)
-{
-    if (box.title().isEmpty())
-        return;
-    faults.Width(box, box.title(), TextSize(box.fontMetrics(), box.title()).width(), box.width());
-}
-
-// The title bar as the style draws one: the title beside the window's buttons.
-void CheckTitle(const QWidget& window, Faults& faults)
-{
-    const QString title = window.windowTitle();
-    if (title.isEmpty())
-        return;
-    QStyleOptionTitleBar option;
-    option.initFrom(&window);
-    option.text = title;
-    option.titleBarFlags = window.windowFlags();
-    option.subControls = QStyle::SC_All;
-    option.rect =
-        QRect(0, 0, window.width(), window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    const QRect room =
-        window.style()->subControlRect(QStyle::CC_TitleBar, &option, QStyle::SC_TitleBarLabel);
-    QFont bold = QApplication::font("QMdiSubWindowTitleBar");
-    bold.setBold(true);
-    faults.Width(window, QStringLiteral("title ") + title,
-                 QFontMetrics(bold).horizontalAdvance(title), room.width());
 }
 
 // A child is cut off where it leaves its parent; the contents of a scroll area may.
-void CheckPlace(const QWidget& child, Faults& faults)
+void CheckPlace(const QWidget& child, Faults& f)
 {
     const QWidget* parent = child.parentWidget();
-    if (parent == nullptr || child.isWindow())
+    const auto* area = qobject_cast<const QAbstractScrollArea*>(parent->parentWidget());
+    if ((area != nullptr && area->viewport() == parent) ||
+        parent->rect().contains(child.geometry()))
         return;
-    if (const auto* area = qobject_cast<const QAbstractScrollArea*>(parent->parentWidget());
-        area != nullptr && area->viewport() == parent)
-        return;
-    if (!parent->rect().contains(child.geometry()))
-        faults.Lines << Describe(child, {}) +
-                            QString::asprintf(": lies at %d,%d %dx%d outside its parent's %dx%d",
-                                              child.x(), child.y(), child.width(), child.height(),
-                                              parent->width(), parent->height());
+    f.Lines << QString::asprintf("%s: lies at %d,%d %dx%d outside its parent's %dx%d",
+                                 qPrintable(Name(child)), child.x(), child.y(), child.width(),
+                                 child.height(), parent->width(), parent->height());
 }
 
-void CheckWidget(QWidget& w, Faults& faults)
+void CheckWidget(QWidget& w, Faults& f)
 {
-    CheckPlace(w, faults);
+    CheckPlace(w, f);
     if (auto* label = qobject_cast<QLabel*>(&w))
-        CheckLabel(*label, faults);
+        CheckByHint(w, label->text(), f);
     else if (auto* button = qobject_cast<QAbstractButton*>(&w))
-        CheckButton(*button, faults);
+        CheckButton(*button, f);
     else if (auto* edit = qobject_cast<QLineEdit*>(&w);
              edit != nullptr && qobject_cast<QComboBox*>(w.parentWidget()) == nullptr)
-        CheckLineEdit(*edit, faults);
+        CheckLineEdit(*edit, f);
     else if (auto* combo = qobject_cast<QComboBox*>(&w))
-        CheckCombo(*combo, faults);
+        CheckCombo(*combo, f);
     else if (auto* bar = qobject_cast<QMenuBar*>(&w))
-        CheckMenuBar(*bar, faults);
-    else if (auto* header = qobject_cast<QHeaderView*>(&w))
-        CheckHeader(*header, faults);
+        CheckMenuBar(*bar, f);
     else if (auto* table = qobject_cast<QTableView*>(&w))
-        CheckTableCells(*table, faults);
+        CheckTable(*table, f);
     else if (auto* tabs = qobject_cast<QTabBar*>(&w))
-        CheckTabBar(*tabs, faults);
+        for (int i = 0; i < tabs->count(); ++i)
+            f.Need(*tabs, tabs->tabText(i),
+                   TextSize(*tabs, tabs->tabText(i)).width() +
+                       tabs->style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, tabs),
+                   tabs->rect().intersected(tabs->tabRect(i)).width());
     else if (auto* box = qobject_cast<QGroupBox*>(&w))
-        CheckGroupBox(*box, faults);
+        CheckByHint(w, box->title(), f);
 }
 
 } // namespace
 
 QStringList ClippedItems(QWidget& window)
 {
-    Faults faults;
-    CheckTitle(window, faults);
+    Faults f;
     const QRect screen = window.screen()->availableGeometry();
     if (window.width() > screen.width() || window.height() > screen.height())
-        faults.Lines << Describe(window, window.windowTitle()) +
-                            QString::asprintf(": %dx%d is larger than the screen's %dx%d",
-                                              window.width(), window.height(), screen.width(),
-                                              screen.height());
-    for (QWidget* child : window.findChildren<QWidget*>()) {
+        f.Lines << QString::asprintf("%s: %dx%d is larger than the screen's %dx%d",
+                                     qPrintable(Name(window)), window.width(), window.height(),
+                                     screen.width(), screen.height());
+    for (QWidget* child : window.findChildren<QWidget*>())
         if (!child->isWindow() && child->isVisibleTo(&window))
-            CheckWidget(*child, faults);
-    }
-    return faults.Lines;
+            CheckWidget(*child, f);
+    return f.Lines;
 }
 
 QFont FontAtDpi(const QFont& font96, int dpi)

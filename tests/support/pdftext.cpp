@@ -28,11 +28,4 @@ int PdfPages(const QString& path)
     return m.hasMatch() ? m.captured(1).toInt() : 0;
 }
 
-QString PdfToPng(const QString& path, const QString& pngWithoutSuffix, int dpi)
-{
-    Run(QStringLiteral("pdftoppm"),
-        {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-r"),
-         QString::number(dpi), path, pngWithoutSuffix});
-    return pngWithoutSuffix + QStringLiteral(".png");
-}
 } // namespace testenv

@@ -9,6 +9,4 @@ namespace testenv {
 QString PdfText(const QString& path);
 // The page count `pdfinfo` reports; 0 when unreadable.
 int PdfPages(const QString& path);
-// The first page rendered to a PNG by `pdftoppm` at `dpi`; returns the PNG's path.
-QString PdfToPng(const QString& path, const QString& pngWithoutSuffix, int dpi = 60);
 } // namespace testenv

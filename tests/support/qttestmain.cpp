@@ -13,24 +13,15 @@
 namespace {
 QPalette DarkPalette()
 {
-    QPalette dark;
-    const QColor window(53, 53, 53), base(35, 35, 35), text(230, 230, 230);
-    for (const auto& [role, colour] : {std::pair{QPalette::Window, window},
-                                       {QPalette::WindowText, text},
-                                       {QPalette::Base, base},
-                                       {QPalette::AlternateBase, window},
-                                       {QPalette::Text, text},
-                                       {QPalette::Button, window},
-                                       {QPalette::ButtonText, text},
-                                       {QPalette::ToolTipBase, base},
-                                       {QPalette::ToolTipText, text},
-                                       {QPalette::Highlight, QColor(42, 130, 218)},
-                                       {QPalette::HighlightedText, Qt::black},
-                                       {QPalette::PlaceholderText, QColor(140, 140, 140)}})
-        dark.setColor(role, colour);
-    dark.setColor(QPalette::Disabled, QPalette::Text, QColor(120, 120, 120));
-    dark.setColor(QPalette::Disabled, QPalette::WindowText, QColor(120, 120, 120));
-    dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(120, 120, 120));
+    const QColor window(53, 53, 53), base(35, 35, 35), text(230, 230, 230), grey(120, 120, 120);
+    QPalette dark(text, window, window, window, window, text, text, base, window);
+    dark.setColor(QPalette::ToolTipBase, base);
+    dark.setColor(QPalette::ToolTipText, text);
+    dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    dark.setColor(QPalette::HighlightedText, Qt::black);
+    dark.setColor(QPalette::PlaceholderText, QColor(140, 140, 140));
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        dark.setColor(QPalette::Disabled, role, grey);
     return dark;
 }
 } // namespace

@@ -1,34 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The day detail window's values and event lines against PyEphem and the US Naval
-// Observatory, kept in data/; the window's caption, timer and beep.
+// Observatory, kept in data/; the day graph window's pointer.
 #include "astro/astronomy.h"
 #include "astro/timebase.h"
 #include "calendar/calendar.h"
 #include "platform/timezones.h"
-#include "ui/views/frmdetail.h"
+#include "support/testenv.h"
+#include "ui/views/daygraph.h"
 #include "viewrules/daydetails.h"
 
-#include <QDir>
-#include <QFile>
+#include <QDate>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-// The rows of a data file, its fields split at commas; blank and '#' lines left out.
 std::vector<QStringList> DataRows(const QString& name)
 {
-    QFile file(QStringLiteral(QUILLMERE_VIEWS_DATA "/") + name);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-    std::vector<QStringList> rows;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n'))
-        if (!line.trimmed().isEmpty() && !line.startsWith('#'))
-            rows.push_back(line.split(','));
-    return rows;
+    return testenv::DataRows(QStringLiteral(QUILLMERE_VIEWS_DATA "/") + name);
 }
 
 // Minutes of the day of "hh:mm", "hh:mm AM" or "hh:mm PM".
@@ -73,7 +65,7 @@ TEST(DoDetails, SummerDayAtAlexandriaAgreesWithEphem)
     const QDate day(2024, 6, 20);
     Place p(92.42, 31.25, 6, day, {});
     const DetailLines d = p.Details(day, true);
-    for (const QStringList& row : DataRows("alexandria_2024-06-20.csv")) {
+    for (const QStringList& row : DataRows("alexandria_2024-06-20.txt")) {
         const QString shown = QString::fromStdString(d.at(row[0].toInt()));
         const QStringList halves = row[1] == "text" ? QStringList{shown} : shown.split('/');
         ASSERT_EQ(halves.size(), row.size() - 2) << shown.toStdString();
@@ -91,18 +83,12 @@ TEST(DoDetails, SummerDayAtAlexandriaAgreesWithEphem)
     for (int i = 1; i < EventLabelCount; ++i)
         EXPECT_EQ(d.at(FirstEventLabel + i), "");
 
-    FrmDetail w;
-    w.SetDay(2024, 6, 20, {true, '/'});
-    w.ShowLines(d);
-    w.show();
-    EXPECT_EQ(w.windowTitle(), "Details for  6/20/2024");
-    EXPECT_EQ(w.Label[17]->text().toStdString(), d.at(17));
-    w.grab().save(QDir(QUILLMERE_SCREENSHOTS).filePath("FrmDetail.png"));
+    EXPECT_EQ(DetailsCaption(2024, 3, 5, false, '.'), "Details for 5.3.2024"); // day first
 }
 
 TEST(DoDetails, EventLinesNameTheDaysEventsOnThePlacesClock)
 {
-    for (const QStringList& row : DataRows("event_lines.csv")) {
+    for (const QStringList& row : DataRows("event_lines.txt")) {
         const QDate day = QDate::fromString(row[4], Qt::ISODate);
         const bool ampm = row[5] == "1";
         Place p(row[1].toDouble(), row[2].toDouble(), std::int16_t(row[3].toInt()), day, row[0]);
@@ -120,30 +106,37 @@ TEST(DoDetails, EventLinesNameTheDaysEventsOnThePlacesClock)
     }
 }
 
-// Day first with the platform's separator; a click anywhere beeps once and stops the timer;
-// closing stops it too; a label's tip says so.
-TEST(FrmDetail, CaptionAndAClickThatBeepsOnceAndHaltsTheTimer)
+// The caption names the day; activation draws the day, shows the moon's age and opens with
+// Sun and Moon at their noon places, as the pointer at the middle of the line shows them; the
+// pointer over the line reads the clock and names the part of the day.
+TEST(DayGraphWindow, PointerReadsTheClockAndTheSky)
 {
-    EXPECT_EQ(DetailsCaption(2024, 3, 5, false, '.'), "Details for 5.3.2024");
-    FrmDetail w;
-    w.SetDay(2024, 12, 31, {false, '-'});
-    int beeps = 0;
-    w.Beep = [&beeps] { ++beeps; };
-    w.ShowLines({{17, "05:06 AM/07:17 PM"}, {FirstEventLabel, "Full Moon 01:08 AM"}});
+    Place p(92.42, 31.25, 6, QDate(2024, 6, 20), {});
+    Astronomy& engine = p.Engine;
+    const double jd = CivilToJd(2024, 6, 20);
+    const DayMarks& marks = p.Cal.YearDays[std::size_t(DayOfYearOf(2024, 6, 20))];
+    DayGraph w(engine, DayGraph::Day{jd, marks, true, true});
     w.show();
-    EXPECT_EQ(w.windowTitle(), "Details for 31-12-2024");
-    for (const auto& [widget, at] :
-         {std::pair<QWidget*, QPoint>{w.Label[17], w.Label[17]->rect().center()}, {&w, {3, 3}}}) {
-        w.Timer1->start();
-        QTest::mouseClick(widget, Qt::LeftButton, {}, at);
-        EXPECT_FALSE(w.Timer1->isActive());
-    }
-    EXPECT_EQ(beeps, 2);
-    w.Label_MouseMove(17);
-    EXPECT_EQ(w.Label[17]->toolTip(), "Click to Halt Timer");
-    w.Timer1->start();
-    w.CMDClose_Click();
-    EXPECT_FALSE(w.Timer1->isActive());
+    const auto text = [&w](int i) { return w.Label[std::size_t(i)]->text().toStdString(); };
+    EXPECT_EQ(w.windowTitle(), "Daily Conditions For 06/20/2024");
+    EXPECT_EQ(w.Series.Twilights.size(), 6u);
+    EXPECT_EQ(text(11), std::to_string(marks.MoonAge) + " Days");
+    EXPECT_EQ(text(0), "12:00 PM");
+    const SkyReadout noon = GetPicData(engine, jd + 0.5);
+    EXPECT_DOUBLE_EQ(w.Sky.MoonElevation, noon.MoonElevation);
+    EXPECT_EQ(text(4).substr(0, 3), std::to_string(int(noon.SunAzimuth)).substr(0, 3));
+    w.PicTi_MouseMove(3500.0, 300.0);
+    EXPECT_EQ(w.PicTi->toolTip().left(9), " Sunrise ");
+    // Below the depth that names the day's part the tip stays as it was; off the line the
+    // clock is emptied.
+    w.PicTi_MouseMove(100.0, 1400.0);
+    EXPECT_EQ(w.PicTi->toolTip().left(9), " Sunrise ");
+    w.PicTi_MouseMove(7000.0, 300.0);
+    EXPECT_EQ(text(0), "");
+    EXPECT_EQ(w.PicTi->toolTip(), " Night ");
+    // A real pointer move over the line's pixels reaches the same handler.
+    QTest::mouseMove(w.PicTi, QPoint(w.PicTi->width() / 2, 10));
+    EXPECT_EQ(text(0), "12:00 PM");
+    w.CloseCmd_Click();
     EXPECT_FALSE(w.isVisible());
-    EXPECT_EQ(beeps, 2);
 }
