@@ -8,16 +8,15 @@
 
 #include <tuple>
 
+// 80.2 - 80 is 0.2000000000000028; 0.996 rounds up into the next degree.
 TEST(LocationRules, BoxTextsAndDegreeParts)
 {
-    EXPECT_EQ(Pad(0) + Pad(80) + Pad(122), "000080122");
-    EXPECT_EQ(PadFrac(5) + PadFrac(34), "0534");
-    // 80.2 - 80 is 0.2000000000000028; 0.996 rounds up into the next degree.
+    EXPECT_EQ(Pad(0) + Pad(80) + Pad(122) + PadFrac(5) + PadFrac(34), "0000801220534");
     for (const auto& [degrees, whole, hundredths] :
-         {std::tuple{-0.5, 0, 50}, {80.2, 80, 20}, {122.34, 122, 34}, {0.996, 1, 0}}) {
-        EXPECT_EQ(SplitDegrees(degrees).Whole, whole) << degrees;
-        EXPECT_EQ(SplitDegrees(degrees).Hundredths, hundredths) << degrees;
-    }
+         {std::tuple{-0.5, 0, 50}, {80.2, 80, 20}, {122.34, 122, 34}, {0.996, 1, 0}})
+        EXPECT_EQ(std::pair(SplitDegrees(degrees).Whole, SplitDegrees(degrees).Hundredths),
+                  std::pair(whole, hundredths))
+            << degrees;
     EXPECT_DOUBLE_EQ(JoinDegrees(0, 50, true), -0.5);
     EXPECT_DOUBLE_EQ(JoinDegrees(80, 20, false), 80.2);
 }
