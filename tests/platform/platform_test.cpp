@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/clock.h"
 #include "platform/programfolder.h"
-#include "platform/settingsstore.h"
 #include "platform/singleinstance.h"
 #include "platform/systemlocale.h"
 #include "support/testenv.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -25,24 +23,6 @@ TEST(DateOrder, DayFirstOnlyWhenTheShortDateBeginsWith31)
         EXPECT_EQ(order.MonthFirstDates, monthFirst) << text;
         EXPECT_EQ(order.DateSeparator, QChar(separator)) << text;
     }
-}
-
-TEST(SettingsStore, ReadsDefaultsWritesAndDeletesEverything)
-{
-    SettingsStore store(QStringLiteral("StoreTest"));
-    store.DeleteAll();
-    EXPECT_EQ(store.Read("AMPM", "True"), "True");
-    store.Write("AMPM", "False");
-    store.Write("Usr1TZ", " 6");
-    store.Flush();
-    SettingsStore again(QStringLiteral("StoreTest"));
-    EXPECT_EQ(again.Read("AMPM", "True"), "False");
-    EXPECT_EQ(again.Read("Usr1TZ", "0"), " 6"); // the leading blank survives the file
-    QFile file(again.FilePath());
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(file.readAll().contains("[Settings]"));
-    again.DeleteAll();
-    EXPECT_FALSE(SettingsStore(QStringLiteral("StoreTest")).Contains("AMPM"));
 }
 
 TEST(SingleInstance, SecondCopyIsRefusedUntilTheFirstEnds)
