@@ -1,16 +1,15 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Checks a year of daysky_dump output at one place against PyEphem (python3-ephem).
-
-  --sky S M     Sun within S degrees and Moon within M degrees of ephem, in azimuth and altitude,
-                at every dumped hour. Both without refraction; the Moon's azimuth from its
-                apparent geocentric place turned to the horizon, its altitude as seen from the
-                place (ephem's topocentric one), as the program shows them.
-  --events M    every moonrise, moon transit and moonset that ephem finds in the local day is
-                there (status 0) and within M minutes.
-  --azimuth D   sunrise/sunset and moonrise/moonset azimuths within D degrees of ephem's.
-Always: no NaN anywhere, Major1 in [0, 24).  Exits 1 on any failure.
-"""
+# Checks a year of daysky_dump output at one place against PyEphem (python3-ephem).
+#
+#   --sky S M     Sun within S degrees and Moon within M degrees of ephem, in azimuth and altitude,
+#                 at every dumped hour. Both without refraction; the Moon's azimuth from its
+#                 apparent geocentric place turned to the horizon, its altitude as seen from the
+#                 place (ephem's topocentric one), as the program shows them.
+#   --events M    every moonrise, moon transit and moonset that ephem finds in the local day is
+#                 there (status 0) and within M minutes.
+#   --azimuth D   sunrise/sunset and moonrise/moonset azimuths within D degrees of ephem's.
+# Always: no NaN anywhere, Major1 in [0, 24).  Exits 1 on any failure.
 import argparse
 import math
 import sys
@@ -103,7 +102,7 @@ def check_azimuths(rows, args, check):
 
 
 def main():
-    ap = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    ap = argparse.ArgumentParser(description='A year of daysky_dump output against PyEphem.')
     for name, kw in (('--lat', dict(required=True)), ('--lon-west', dict(required=True)),
                      ('--zone', dict(required=True)), ('--sky', dict(nargs=2)), ('--events', {}),
                      ('--azimuth', {})):

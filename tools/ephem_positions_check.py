@@ -1,14 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Compares the engine's Sun and Moon with PyEphem (python3-ephem), the independent reference.
-
-Reads the lines of positions_dump on standard input. The engine's argument is dynamical time,
-so ephem is asked for the same instant in universal time (TT minus ephem's own Delta-T).
-Both sides' apparent right ascension and declination are turned into ecliptic coordinates with
-the engine's true obliquity, so the comparison is of longitude, latitude and distance.
-Exits 1 when a limit is exceeded: Sun longitude 1.2" (the worst of 4000 instants is 0.9", so
-a wrong VSOP87 term of an arcsecond shows), Moon longitude 15", latitude 5", distance 20 km.
-"""
+# Compares the engine's Sun and Moon with PyEphem (python3-ephem), the independent reference.
+#
+# Reads the lines of positions_dump on standard input. The engine's argument is dynamical time,
+# so ephem is asked for the same instant in universal time (TT minus ephem's own Delta-T).
+# Both sides' apparent right ascension and declination are turned into ecliptic coordinates with
+# the engine's true obliquity, so the comparison is of longitude, latitude and distance.
+# Exits 1 when a limit is exceeded: Sun longitude 1.2" (the worst of 4000 instants is 0.9", so
+# a wrong VSOP87 term of an arcsecond shows), Moon longitude 15", latitude 5", distance 20 km.
 import math
 import sys
 

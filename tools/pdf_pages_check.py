@@ -1,10 +1,9 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Checks the PDF pages of quillmere-forecast against poppler's reading of them and against
-PyEphem: February 2024 at Alexandria, LA (92.42W 31.25N, 6 hours west of Greenwich).
-
-usage: pdf_pages_check.py QUILLMERE_FORECAST OUTPUT_FOLDER
-The pages are also turned into PNG files in OUTPUT_FOLDER for a person to look at."""
+# Checks the PDF pages of quillmere-forecast against poppler's reading of them and against
+# PyEphem: February 2024 at Alexandria, LA (92.42W 31.25N, 6 hours west of Greenwich).
+#
+# usage: pdf_pages_check.py QUILLMERE_FORECAST OUTPUT_FOLDER
 import datetime
 import os
 import re
@@ -30,7 +29,6 @@ def make(program, folder, command, locale="C.UTF-8"):
     env = dict(os.environ, LANG=locale, LC_ALL=locale)
     subprocess.run([program, command, "--year", "2024", "--month", "2", *PLACE, "--pdf", pdf],
                    check=True, env=env)
-    subprocess.run(["pdftoppm", "-png", "-singlefile", "-r", "60", pdf, pdf[:-4]], check=True)
     text = subprocess.run(["pdftotext", "-layout", pdf, "-"], check=True,
                           capture_output=True, text=True).stdout
     return pdf, text

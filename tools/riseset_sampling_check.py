@@ -1,22 +1,21 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Checks a year of rise, set and twilight events (tests/tools/riseset_dump) against PyEphem's
-altitudes, sampled: no rise/set search of ephem's is used, so a grazing body is judged by where
-it really stands. Without refraction in ephem (pressure 0): sunrise and sunset when the Sun's
-upper limb is 34' below the horizon, the twilights when its centre is 6, 12 and 18 degrees
-below, moonrise and moonset when the Moon's upper limb, seen from the place, is 34' below.
-
-The dump: one line per local day, DATE ZONE_HOURS (local clock + ZONE_HOURS = UT), then for
-sun, civil, nautical, astronomical, moon: STATE RISES SETS, where STATE is C (crosses in the
-day), A (above all day) or B (below all day) and RISES and SETS are comma-separated local clock
-hours, or '-'.
-
-The reference: ephem's altitude every 10 minutes through the year (and two days either side);
-every local extreme among the samples refined by golden section, every sign change bisected to
-a second. Every event must lie within --minutes of ephem's, none missing, none invented, every
-state right; a difference is excused only where ephem puts the body within --graze degrees of
-the altitude at that instant, where the two ephemerides' differences decide. Exit 1 otherwise.
-"""
+# Checks a year of rise, set and twilight events (tests/tools/riseset_dump) against PyEphem's
+# altitudes, sampled: no rise/set search of ephem's is used, so a grazing body is judged by where
+# it really stands. Without refraction in ephem (pressure 0): sunrise and sunset when the Sun's
+# upper limb is 34' below the horizon, the twilights when its centre is 6, 12 and 18 degrees
+# below, moonrise and moonset when the Moon's upper limb, seen from the place, is 34' below.
+#
+# The dump: one line per local day, DATE ZONE_HOURS (local clock + ZONE_HOURS = UT), then for
+# sun, civil, nautical, astronomical, moon: STATE RISES SETS, where STATE is C (crosses in the
+# day), A (above all day) or B (below all day) and RISES and SETS are comma-separated local clock
+# hours, or '-'.
+#
+# The reference: ephem's altitude every 10 minutes through the year (and two days either side);
+# every local extreme among the samples refined by golden section, every sign change bisected to
+# a second. Every event must lie within --minutes of ephem's, none missing, none invented, every
+# state right; a difference is excused only where ephem puts the body within --graze degrees of
+# the altitude at that instant, where the two ephemerides' differences decide. Exit 1 otherwise.
 import argparse
 import math
 import sys
@@ -146,7 +145,7 @@ def judge(tally, where, g, start, extremes, args, ours, ref):
 
 
 def main():
-    ap = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawTextHelpFormatter)
+    ap = argparse.ArgumentParser(description='A year of riseset_dump output against PyEphem.')
     ap.add_argument('--lat', type=float, required=True)
     ap.add_argument('--lon-west', type=float, required=True)
     ap.add_argument('--minutes', type=float, default=1.0)
