@@ -121,21 +121,6 @@ void ExpectDayAgrees(Astronomy& engine, const DayEvents& reference, const QDate&
 
 } // namespace
 
-// A time the clock skips is the moment of the skip; one it shows twice is its first showing.
-TEST(ZoneRules, SkippedAndRepeatedHoursOfNewYork)
-{
-    const ZoneRules ny = LoadZoneRules(NewYork.Zone, 2025, 2025);
-    const double march9 = JulianDayOf(QDateTime(QDate(2025, 3, 9), QTime(0, 0), Qt::UTC));
-    const double november2 = JulianDayOf(QDateTime(QDate(2025, 11, 2), QTime(0, 0), Qt::UTC));
-    EXPECT_NEAR(ny.InstantOf(march9 + 2.5 / 24), march9 + 7.0 / 24, 1e-9);       // 07:00 UT
-    EXPECT_NEAR(ny.InstantOf(november2 + 1.5 / 24), november2 + 5.5 / 24, 1e-9); // EDT
-    const Astronomy engine = LocalClockEngine(NewYork);
-    const Observer::ClockDay spring = engine.Site.ClockOn(march9);
-    const Observer::ClockDay fall = engine.Site.ClockOn(november2);
-    EXPECT_NEAR((1.0 + spring.End - spring.Start) * 24.0, 23.0, 1e-6);
-    EXPECT_NEAR((1.0 + fall.End - fall.Start) * 24.0, 25.0, 1e-6);
-}
-
 TEST(LocalClock, SunriseAndMoonriseOfAYearAgreeWithPyEphemOnTheZonesClock)
 {
     for (const Place& p : YearPlaces) {
