@@ -80,27 +80,6 @@ TEST(DayGraph, SeriesOfASummerDayAgreeWithEphem)
     EXPECT_NE(day.find(", Sunset "), std::string::npos);
 }
 
-// At 75 degrees north in June the Sun never sets: no twilight bands, daylight all day. At 65
-// degrees it sets but stays above -6 degrees: civil twilight fills the night, no darker band.
-TEST(DayGraph, PolarDayAndWhiteNight)
-{
-    Astronomy polar = At(-19.0, 75.0, -1);
-    const DayGraphSeries p = SeriesOf(polar, CivilToJd(2024, 6, 21));
-    EXPECT_TRUE(p.Twilights.empty());
-    ASSERT_EQ(p.Daylight.size(), 1u);
-    EXPECT_EQ(p.Daylight[0].X1 - p.Daylight[0].X0, TimeLineWidth);
-    EXPECT_EQ(DayPartTip(p, 100.0, true), " Daylight ");
-
-    Astronomy white = At(-25.0, 65.0, -2); // zone chosen so that midnight falls in the night
-    const DayGraphSeries w = SeriesOf(white, CivilToJd(2024, 6, 21));
-    ASSERT_EQ(w.Twilights.size(), 2u);
-    EXPECT_TRUE(BandsNamed(w, " Nautical Twilight ").empty());
-    EXPECT_EQ(w.Twilights[0].X0, 0.0);
-    EXPECT_EQ(w.Twilights[0].X1, w.Daylight[0].X0);
-    EXPECT_EQ(w.Twilights[1].X0, w.Daylight[0].X1);
-    EXPECT_EQ(w.Twilights[1].X1, TimeLineWidth);
-}
-
 // The perigee of 10 March 2024 and the apogee of 23 March named with their times: PyEphem
 // 4.1.4 (least and greatest Earth-Moon distance) puts them at 07:12 and 15:55 UT, 01:12 AM and
 // 09:55 AM at zone 6. The book's method is good to half an hour for perigees; the apogee, a
