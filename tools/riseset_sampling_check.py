@@ -12,7 +12,7 @@
 # hours, or '-'.
 #
 # The reference: ephem's altitude every 10 minutes through the year (and two days either side);
-# every local extreme among the samples refined by golden section, every sign change bisected to
+# every local extreme among the samples found to a second, every sign change bisected to
 # a second. Every event must lie within --minutes of ephem's, none missing, none invented, every
 # state right; a difference is excused only where ephem puts the body within --graze degrees of
 # the altitude at that instant, where the two ephemerides' differences decide. Exit 1 otherwise.
@@ -24,47 +24,28 @@ import ephem
 
 STEP = 10.0 / 1440.0
 SECOND = 1.0 / 86400.0
-GOLDEN = (math.sqrt(5.0) - 1.0) / 2.0
 # row -> (body, degrees of the event altitude, measured at the upper limb)
 ROWS = {'sun': ('sun', -34.0 / 60.0, True), 'civil': ('sun', -6.0, False),
         'nautical': ('sun', -12.0, False), 'astronomical': ('sun', -18.0, False),
         'moon': ('moon', -34.0 / 60.0, True)}
 
 
-class Sky:
-    """ephem's topocentric altitude and radius of one body at the place (radians)."""
+def sky_of(lat, lon_west, body):
+    """ephem's topocentric altitude and radius of one body at the place (radians), by instant."""
+    obs, b = ephem.Observer(), ephem.Sun() if body == 'sun' else ephem.Moon()
+    obs.lat, obs.lon, obs.pressure = str(lat), str(-lon_west), 0
 
-    def __init__(self, lat, lon_west, body):
-        self.obs = ephem.Observer()
-        self.obs.lat, self.obs.lon, self.obs.pressure = str(lat), str(-lon_west), 0
-        self.body = ephem.Sun() if body == 'sun' else ephem.Moon()
-
-    def at(self, t):
-        self.obs.date = t
-        self.body.compute(self.obs)
-        return float(self.body.alt), float(self.body.radius)
+    def at(t):
+        obs.date = t
+        b.compute(obs)
+        return float(b.alt), float(b.radius)
+    return at
 
 
 def height(alt_radius, degrees, limb):
     """How far a row's reference point stands above the row's altitude, radians."""
     alt, radius = alt_radius
     return alt + (radius if limb else 0.0) - math.radians(degrees)
-
-
-def golden_extreme(f, a, b):
-    """The instant in [a, b] where f is largest, to a second."""
-    c, d = b - GOLDEN * (b - a), a + GOLDEN * (b - a)
-    fc, fd = f(c), f(d)
-    while b - a > SECOND:
-        if fc > fd:
-            b, d, fd = d, c, fc
-            c = b - GOLDEN * (b - a)
-            fc = f(c)
-        else:
-            a, c, fc = c, d, fd
-            d = a + GOLDEN * (b - a)
-            fd = f(d)
-    return (a + b) / 2.0
 
 
 def bisect(f, a, b):
@@ -81,14 +62,14 @@ def bisect(f, a, b):
 def crossings(sky, rows, start, end):
     """Each row's rises and sets between start and end, and the body's extremes of altitude."""
     times = [start + i * STEP for i in range(int((end - start) / STEP) + 1)]
-    at = {t: sky.at(t) for t in times}
+    at = {t: sky(t) for t in times}
     top = {t: sum(at[t]) for t in times}
     extremes = []
     for p, t, n in zip(times, times[1:], times[2:]):
         if (top[t] - top[p]) * (top[n] - top[t]) < 0.0:
             sign = 1.0 if top[t] > top[p] else -1.0
-            extremes.append(golden_extreme(lambda x: sign * sum(sky.at(x)), p, n))
-    at.update((t, sky.at(t)) for t in extremes)
+            extremes.append(bisect(lambda x: sign * (sum(sky(x + SECOND)) - sum(sky(x))), p, n))
+    at.update((t, sky(t)) for t in extremes)
     times = sorted(at)
     found = {}
     for name, g in rows.items():
@@ -156,8 +137,8 @@ def main():
     first, last = (ephem.Date(days[i][0].replace('-', '/')) for i in (0, -1))
     tallies = {name: {'errors': [], 'excused': [], 'failures': []} for name in ROWS}
     for body in ('sun', 'moon'):
-        sky = Sky(args.lat, args.lon_west, body)
-        rows = {n: (lambda t, d=deg, l=limb: height(sky.at(t), d, l))
+        sky = sky_of(args.lat, args.lon_west, body)
+        rows = {n: (lambda t, d=deg, l=limb: height(sky(t), d, l))
                 for n, (b, deg, limb) in ROWS.items() if b == body}
         found, extremes = crossings(sky, rows, first - 2.0, last + 3.0)
         for date, offset, ours in days:
