@@ -89,18 +89,3 @@ TEST(CityRows, EdgesOfStatesAndZones)
     EXPECT_EQ(adelaide->Timezone, -10);
     EXPECT_EQ(adelaide->TzName, "Australia/Adelaide");
 }
-TEST(CityRows, OneRowPerStateAndCityOrderedWithoutRegardToCase)
-{
-    const std::vector<SourceCity> source = {
-        {"Springfield", "Illinois", "United States of America", "US", 39.8, -89.64, 114000, -21600,
-         ""},
-        {"aachen", "NRW", "Germany", "DE", 50.78, 6.08, 10, 3600, ""},
-        {"Springfield", "Illinois", "United States of America", "US", 39.9, -89.7, 900, -21600, ""},
-        {"Berlin", "Berlin", "Germany", "DE", 52.52, 13.41, 3400000, 3600, ""}};
-    const auto rows = CityRows(source);
-    ASSERT_EQ(rows.size(), 3u);
-    EXPECT_EQ(rows[0].City, "aachen");
-    EXPECT_EQ(rows[1].City, "Berlin");
-    EXPECT_EQ(rows[2].State, "IL");
-    EXPECT_DOUBLE_EQ(rows[2].LatInDegrees, 39.8); // the more populous Springfield
-}

@@ -131,19 +131,3 @@ TEST(Settings, SavingReportsAFileThatCannotBeWritten)
     QDir(store.FilePath()).removeRecursively();
     EXPECT_TRUE(SaveSettings(s, store));
 }
-
-// The command line's store reads the file and keeps its own writes in memory.
-TEST(Settings, ReadOnlyStoreLeavesTheFileAlone)
-{
-    SettingsStore file = FreshStore();
-    file.Write("Usr1Name", "Camp");
-    ASSERT_TRUE(file.Flush());
-    SettingsStore store = SettingsStore::ReadOnly(QStringLiteral("SettingsTest"));
-    EXPECT_EQ(store.Read("Usr1Name", ""), "Camp");
-    WriteFirstStartValues(store);
-    EXPECT_EQ(store.Read("Usr1Name", ""), "Alexandria, LA");
-    store.DeleteAll();
-    EXPECT_FALSE(store.Contains("Usr1Name"));
-    EXPECT_EQ(SettingsStore(QStringLiteral("SettingsTest")).Read("Usr1Name", ""), "Camp");
-    EXPECT_FALSE(file.Contains("Usr2Name"));
-}

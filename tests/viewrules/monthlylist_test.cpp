@@ -59,30 +59,4 @@ TEST(MonthlyList, DayWithoutMoonriseShowsThePlaceholder)
     }
 }
 
-// The clipboard carries the month, a blank line and the wider headings before the lines, all
-// ended by CR LF; the printed page has the same headings below the month.
-TEST(MonthlyList, ClipboardAndPrintedLayouts)
-{
-    Astronomy engine = AtAlexandria();
-    const auto lines = MonthlyListLines(engine, CivilToJd(2024, 2, 1), 29, true);
-    const std::string clip = MonthlyListClipboard(2, 2024, lines);
-    const std::string head =
-        "Feb 2024\r\n\r\n                 Sun                  Moon \r\nDay   Rise       Set      "
-        "   Rise       Set              Majors                 Minors\r\n";
-    EXPECT_EQ(clip.substr(0, head.size()), head);
-    EXPECT_EQ(clip.substr(head.size(), 4), "01  ");
-    EXPECT_EQ(clip.substr(clip.size() - lines[28].size() - 2), lines[28] + "\r\n");
-    std::size_t breaks = 0;
-    for (std::size_t at = clip.find("\r\n"); at != std::string::npos;
-         at = clip.find("\r\n", at + 2))
-        ++breaks;
-    EXPECT_EQ(breaks, 4u + 29u);
-
-    const auto printed = MonthlyListPrinted(2, 2024, lines);
-    ASSERT_EQ(printed.size(), 7u + 29u);
-    EXPECT_EQ(printed[0], "Feb 2024");
-    EXPECT_EQ(printed[4], "                 Sun                  Moon ");
-    EXPECT_EQ(printed[6].substr(0, 9), "Day   Ris");
-    EXPECT_EQ(printed[7], lines[0]);
-}
 } // namespace
