@@ -6,8 +6,6 @@
 #                 at every dumped hour. Both without refraction; the Moon's azimuth from its
 #                 apparent geocentric place turned to the horizon, its altitude as seen from the
 #                 place (ephem's topocentric one), as the program shows them.
-#   --events M    every moonrise, moon transit and moonset that ephem finds in the local day is
-#                 there (status 0) and within M minutes.
 #   --azimuth D   sunrise/sunset and moonrise/moonset azimuths within D degrees of ephem's.
 # Always: no NaN anywhere, Major1 in [0, 24).  Exits 1 on any failure.
 import argparse
@@ -72,20 +70,6 @@ def next_event(o, body, kind, start):
         return None
 
 
-def check_events(rows, args, check):
-    o, moon = observer(args.lat, args.lon_west, '-0:34'), ephem.Moon()
-    for r in rows:
-        start = day_start(r[0], args.zone)
-        for kind, hour, flag in (('rise', r[1], r[2]), ('transit', r[3], r[4]), ('set', r[5], r[6])):
-            t = next_event(o, moon, kind, start)
-            if t is None or t >= start + 1:
-                continue
-            if flag != 0:
-                check.failures.append(f'moon {kind} missing on {r[0]}: ephem has {(t - start) * 24:.4f} h')
-            else:
-                check.measure(f'moon {kind} (min)', abs(hour - (t - start) * 24.0) * 60.0, args.events, r[0])
-
-
 def check_azimuths(rows, args, check):
     o = observer(args.lat, args.lon_west, '-0:34')
     for r in rows:
@@ -104,7 +88,7 @@ def check_azimuths(rows, args, check):
 def main():
     ap = argparse.ArgumentParser(description='A year of daysky_dump output against PyEphem.')
     for name, kw in (('--lat', dict(required=True)), ('--lon-west', dict(required=True)),
-                     ('--zone', dict(required=True)), ('--sky', dict(nargs=2)), ('--events', {}),
+                     ('--zone', dict(required=True)), ('--sky', dict(nargs=2)),
                      ('--azimuth', {})):
         ap.add_argument(name, type=float, **kw)
     args = ap.parse_args()
@@ -120,7 +104,7 @@ def main():
             check.failures.append(f'NaN or Major1 {r[13]} outside [0, 24) on {r[0]}')
     if len(events) < 365:
         check.failures.append(f'only {len(events)} days dumped')
-    for option, run in ((args.sky, check_sky), (args.events, check_events), (args.azimuth, check_azimuths)):
+    for option, run in ((args.sky, check_sky), (args.azimuth, check_azimuths)):
         if option is not None:
             run(sky if run is check_sky else events, args, check)
     print(f'{len(events)} days, {len(sky)} sky positions at {args.lat} {args.lon_west} zone {args.zone}')

@@ -58,21 +58,6 @@ TEST(CalendarGrid, ThirtyOneDaysFromSaturdayFillAllCells)
     EXPECT_EQ(cal.SelCell, cal.TodayCell);
 }
 
-// February 2015: 28 days from a Sunday leave cells 28..36 to March, numbered 1..9; the frame
-// goes to day 1 when the month shown is not the clock's.
-TEST(CalendarGrid, ShortMonthAndFrameOnDayOne)
-{
-    Astronomy engine;
-    Calendar cal = MonthOf(2015, 2);
-    const auto cells = cal.DrawMonth(engine, 0, 2026, 11, 23);
-    EXPECT_EQ(cal.FirstWeekday, 0);
-    for (int i = 28; i < 37; ++i) {
-        EXPECT_EQ(cells[std::size_t(i)].Of, DayCell::Kind::NextMonth);
-        EXPECT_EQ(cells[std::size_t(i)].Number, i - 27);
-    }
-    EXPECT_EQ(cal.TodayCell, 0);
-}
-
 // March 2024 (from a Friday): Easter (31st) in red; the new moon of 10 March (09:00 UT) and
 // the full moon of 25 March with their pictures, the new moon's day rated best.
 TEST(CalendarGrid, CellsShowTheYearDayTable)

@@ -2,9 +2,6 @@
 #include "astro/astronomy.h"
 #include "calendar/calendar.h"
 #include "pages/glancechart.h"
-#include "pages/pages.h"
-
-#include <QFontMetricsF>
 
 #include <gtest/gtest.h>
 
@@ -76,39 +73,6 @@ TEST(GlanceChart, FullMoonAndPerigeeOnOneDay)
     for (int d : {17, 19})
         for (const GlanceStem& s : chart.Days[std::size_t(d - 1)].Stems)
             EXPECT_NE(s.Label, "Perigee") << d;
-}
-
-// No label is struck through: across a year of months in both hemispheres, no other stem
-// crosses a label's text (measured in the chart's font), nor does a picture or another label.
-TEST(GlanceChart, NoStemStrikesThroughALabel)
-{
-    const QFontMetricsF metrics(TwipsFont(QStringLiteral("Arial"), 8, false));
-    for (int month = 1; month <= 12; ++month) {
-        const GlanceChart chart =
-            GlanceChartOf(MonthAt(2024, month, 92.42, 31.25, 6), 0, 9600, 2400);
-        std::vector<const GlanceStem*> stems;
-        for (const GlanceDay& d : chart.Days)
-            for (const GlanceStem& s : d.Stems)
-                stems.push_back(&s);
-        for (const GlanceStem* l : stems) {
-            if (l->Label.empty())
-                continue;
-            const QRectF text(l->LabelBox.Left, l->LabelBox.Top,
-                              metrics.horizontalAdvance(QString::fromStdString(l->Label)),
-                              l->LabelBox.Height);
-            for (const GlanceStem* s : stems) {
-                if (s == l)
-                    continue;
-                const QRectF stem(s->X, s->Top, 0.5, chart.Axis - s->Top);
-                EXPECT_FALSE(text.intersects(stem)) << month << " " << l->Label;
-                if (!s->Label.empty()) {
-                    EXPECT_FALSE(text.intersects(QRectF(s->LabelBox.Left, s->LabelBox.Top,
-                                                        s->LabelBox.Width, s->LabelBox.Height)))
-                        << month << " " << l->Label << " / " << s->Label;
-                }
-            }
-        }
-    }
 }
 
 } // namespace

@@ -104,17 +104,6 @@ TEST(MoonPicture, RimInsteadOfABoxAndThePercentInRed)
     }
 }
 
-TEST(MoonPicture, TurnedViewOnlyWhenTheMoonIsUpAndTheOptionOn)
-{
-    const double q = std::acos(0.0);
-    MoonTurn turn{0.3, q, true, Size};
-    EXPECT_FALSE(DrawMoon(Size, Look(50, 1), turn).ToPict.isNull());
-    turn.MoonAltitude = -0.01;
-    EXPECT_TRUE(DrawMoon(Size, Look(50, 1), turn).ToPict.isNull());
-    turn = {0.3, q, false, Size};
-    EXPECT_TRUE(DrawMoon(Size, Look(50, 1), turn).ToPict.isNull());
-}
-
 namespace {
 // Screen direction (radians counter-clockwise from up) from the disc's centre to the centre
 // of its lit pixels.
