@@ -75,15 +75,14 @@ TEST(CalendarGrid, CellsShowTheYearDayTable)
     EXPECT_EQ(cell(20).Marks, 1); // the equinox
 }
 
-TEST(CalendarTexts, AbbrevShortClockAndDayNames)
+// The monthly list's short clock keeps the first letter of AM/PM and the missing-time marks.
+TEST(CalendarTexts, ShortClock)
 {
-    EXPECT_EQ(MonthAbbrev(12), "Dec");
     for (const auto& [clock, shown] : {std::pair{"6:05 PM", "6:05 P"},
                                        {"10:15 AM", "10:15 A"},
                                        {"****", "****"},
                                        {"*****", "*****"}})
         EXPECT_EQ(ShortClock(clock), shown);
-    EXPECT_STREQ(DayNames[7], "Saturday");
 }
 
 // 2024: February has 29 days and starts on a Thursday (20 blanks), June starts on a Saturday
@@ -95,9 +94,6 @@ TEST(YearCal, TwelveMonthsOf2024)
     cal.CurYear = 2024;
     cal.CurMonth = 8;
     const YearCalPage page = FillYearCal(cal, engine, 0);
-    EXPECT_EQ(page.Caption, "   2024");
-    EXPECT_EQ(page.Months[1].Name, "Jan");
-    EXPECT_EQ(page.Months[12].Name, "Dec");
     EXPECT_EQ(page.Months[5].Caption, " S  M  T  W  T   F   S");
     const std::string& feb = page.Months[2].Days;
     EXPECT_EQ(feb.substr(0, 22), std::string(20, ' ') + "1 ");
