@@ -17,28 +17,6 @@ Calendar MonthOf(int year, int month)
     return cal;
 }
 
-// Leap years by the Gregorian rule; 1 March 2000 a Wednesday at JD 2451604.5.
-TEST(CalendarTables, FebruaryLeapYearsAndYearStarts)
-{
-    Astronomy engine;
-    for (auto [year, days] : {std::pair{1900, 28}, {2000, 29}, {2024, 29}, {2100, 28}}) {
-        Calendar cal = MonthOf(year, 2);
-        cal.SetYearTables(engine, 0);
-        EXPECT_EQ(cal.MonthDays, days) << year;
-        EXPECT_EQ(cal.YearSlots, days == 29 ? 367 : 366) << year;
-        EXPECT_EQ(cal.MonthStartDoy[12], days == 29 ? 336 : 335) << year;
-    }
-    Calendar cal = MonthOf(2000, 3);
-    cal.SetYearTables(engine, 0);
-    EXPECT_DOUBLE_EQ(cal.YearStartJD, 2451544.5);
-    EXPECT_DOUBLE_EQ(cal.MonthStartJD[3], 2451604.5);
-    EXPECT_DOUBLE_EQ(cal.YearEndJD, 2451909.5); // 31 December 2000
-    EXPECT_EQ(cal.FirstWeekday, 3);
-    // The month before January 1900, the first month, is December 2500's 31 days.
-    EXPECT_EQ(MonthOf(1900, 1).PrevMonthDays, 31);
-    EXPECT_EQ(MonthOf(2024, 3).PrevMonthDays, 29);
-}
-
 // March 2025 begins on a Saturday and has 31 days: every one of the 37 cells is used, the
 // first six greyed with 23..28 February, today framed.
 TEST(CalendarGrid, ThirtyOneDaysFromSaturdayFillAllCells)

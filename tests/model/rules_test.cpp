@@ -38,14 +38,6 @@ TEST(LocationRules, TimeZoneListShowsOffsetAndCarriesItsNegation)
         EXPECT_EQ(list[std::size_t(TimeZoneListPosition(zone))].Value, zone);
 }
 
-TEST(LocationRules, ToLowerCaseCapitalisesTheSecondWordOnly)
-{
-    EXPECT_EQ(ToLowerCase("new york"), "new York");
-    EXPECT_EQ(ToLowerCase("Fort worth texas"), "Fort Worth texas");
-    EXPECT_EQ(ToLowerCase("DALLAS"), "DALLAS");
-    EXPECT_EQ(ToLowerCase("ends "), "ends ");
-}
-
 // Names stored by hand in the settings file: cut to what the menus take, whole characters.
 TEST(LocationRules, StoredNamesAreBoundedForTheMenus)
 {

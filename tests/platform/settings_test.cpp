@@ -118,16 +118,3 @@ TEST(Settings, HandWrittenFileIsReadWholeAndRangeChecked)
     WriteFile(store, "Usr1Lat=-90\nUsr2Long=-180\nUsr1TZ=-12\nUsr2TZ=12\nUsr4RemindLead=720\n");
     EXPECT_NO_THROW(LoadSettings(s, store));
 }
-
-// A file that cannot be written (here a folder stands in its place, which stops root too)
-// is reported, not passed over.
-TEST(Settings, SavingReportsAFileThatCannotBeWritten)
-{
-    SettingsStore store(QStringLiteral("Unwritable"));
-    QFile::remove(store.FilePath());
-    ASSERT_TRUE(QDir().mkpath(store.FilePath()));
-    Settings s;
-    EXPECT_FALSE(SaveSettings(s, store));
-    QDir(store.FilePath()).removeRecursively();
-    EXPECT_TRUE(SaveSettings(s, store));
-}

@@ -80,37 +80,6 @@ TEST(DayGraph, SeriesOfASummerDayAgreeWithEphem)
     EXPECT_NE(day.find(", Sunset "), std::string::npos);
 }
 
-// The perigee of 10 March 2024 and the apogee of 23 March named with their times: PyEphem
-// 4.1.4 (least and greatest Earth-Moon distance) puts them at 07:12 and 15:55 UT, 01:12 AM and
-// 09:55 AM at zone 6. The book's method is good to half an hour for perigees; the apogee, a
-// flat extreme, lies within a quarter of an hour of the reference's.
-TEST(DayGraph, PerigeeAndApogeeDaysNameTheirTimes)
-{
-    Astronomy engine = At(92.42, 31.25, 6);
-    Calendar cal;
-    cal.CurYear = 2024;
-    cal.CurMonth = 3;
-    cal.SetYearTables(engine, 0);
-    const struct {
-        int Day;
-        const char* Word;
-        int Minutes;
-        int Tolerance;
-    } cases[] = {{10, "Perigee ", 72, 31}, {23, "Apogee ", 9 * 60 + 55, 15}};
-    for (const auto& c : cases) {
-        const double jd = CivilToJd(2024, 3, c.Day);
-        const DayMarks& day = cal.YearDays[std::size_t(DayOfYearOf(2024, 3, c.Day))];
-        const DayGraphSeries s = SeriesOf(engine, jd, day);
-        ASSERT_FALSE(s.EventTexts.empty()) << c.Word;
-        const std::string& t = s.EventTexts[0];
-        EXPECT_EQ(t.substr(0, std::string(c.Word).size()), c.Word);
-        EXPECT_NEAR(ClockMinutes(t.substr(std::string(c.Word).size())), c.Minutes, c.Tolerance)
-            << t;
-        ASSERT_EQ(s.EventX.size(), s.EventTexts.size());
-        EXPECT_NEAR(s.EventX[0] / TimeLineWidth * 24 * 60, c.Minutes, c.Tolerance) << t;
-    }
-}
-
 // Where the Sun and the Moon stand at the pointer's moment, against PyEphem 4.1.4 (no
 // refraction; the Moon as seen from the place, up to a degree lower than from the Earth's
 // centre), within half a degree:
