@@ -38,11 +38,10 @@ def angle_diff(a, b):
 
 class Check:
     def __init__(self):
-        self.failures, self.worst = [], {}
+        self.failures, self.worst = [], {}  # each measure's largest value and where it was
 
     def measure(self, name, value, limit, where):
-        if value > self.worst.get(name, (-1.0, ''))[0]:
-            self.worst[name] = (value, where)
+        self.worst[name] = max(self.worst.get(name, (-1.0, '')), (value, where))
         if not value <= limit:  # NaN fails too
             self.failures.append(f'{name} {value:.3f} > {limit} at {where}')
 

@@ -27,19 +27,6 @@ TEST(DayForecast, IllumPercentRoundsHalvesToEven)
         EXPECT_EQ(IllumPercentOf(fraction), percent) << fraction;
 }
 
-// A transit after local midnight belongs to no day, and the period centred on it must still
-// read as a clock time of the day: Sydney, 11 January 2020, has its major at 00:20.
-TEST(DayForecast, MajorWithoutTransitStaysInTheDay)
-{
-    Astronomy a = At(-151.21, -33.87, -10);
-    a.ComputeDay(CivilToJd(2020, 1, 11));
-    EXPECT_NE(a.Forecast.MoonEvents.TransitFlag, EventFlag::InDay);
-    EXPECT_GE(a.Forecast.Major1, 0.0);
-    EXPECT_LT(a.Forecast.Major1, 1.0);
-    EXPECT_EQ(a.Forecast.Major1Text.substr(0, 4), "*12:");
-    EXPECT_NE(a.Forecast.Major1Text.find("AM*"), std::string::npos);
-}
-
 // Moonrises within seconds of midnight (PyEphem: Oslo 1 July 2024 23:59:58, Singapore
 // 1 April 2024 00:00:08) are reported on exactly one of the two days, next to that midnight.
 TEST(RiseSet, EventAtMidnightIsReportedOnce)

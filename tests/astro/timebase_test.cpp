@@ -51,30 +51,14 @@ TEST(TimeBase, FormatClockModes)
     EXPECT_GE(rows, 10);
 }
 
-// Every minute of the day prints as itself, however its hour was computed (16.9 h is 16:54,
-// where flooring 53.99999 minutes gave 16:53).
-TEST(TimeBase, FormatClockEveryMinuteOfTheDay)
-{
-    for (int m = 0; m < 1440; ++m) {
-        char want[8];
-        std::snprintf(want, sizeof want, "%02d:%02d", m / 60, m % 60);
-        ASSERT_EQ(FormatClock(3, m / 60.0, true), want);
-        ASSERT_EQ(FormatClock(3, (m * 60.0 + 0.999) / 3600.0, true), want);
-    }
-}
-
-// An event's minute, day and text: 23:59:40 is the next day's 00:00.
-TEST(TimeBase, EventMinuteDayAndClock)
+// An event's minute, day and text: 23:59:40 is the next day's 00:00; dates as text.
+TEST(TimeBase, EventMinuteDayClockAndDateTexts)
 {
     const double day = CivilToJd(2024, 12, 31);
     const double late = day + (23.0 * 3600.0 + 59.0 * 60.0 + 40.0) / 86400.0;
     EXPECT_EQ(EventDayJD(late), day + 1.0);
     EXPECT_EQ(EventClock(late, 3, false), "00:00");
     EXPECT_EQ(EventClock(day + 0.5 + 20.0 / 86400.0, 0, true), "12:00 PM");
-}
-
-TEST(TimeBase, DatesAsTextAndCivilDates)
-{
     EXPECT_EQ(JdToText(2451573.25, true), "01/29/2000 18:00:00");
     EXPECT_EQ(JdToText(2451573.25, false), "29/01/2000 18:00:00");
     EXPECT_EQ(JdToText(SerialEpochJD - 0.75, true), "12/29/1899 06:00:00");

@@ -39,6 +39,4 @@ TEST(CurrentLocation, CaptionZoneAndHemisphereOfALocation)
         ++rows;
     }
     EXPECT_EQ(rows, 4);
-    EXPECT_EQ(LocationMenuCaption(1, "Alexandria, LA", false), "# 1 Alexandria, LA");
-    EXPECT_EQ(LocationMenuCaption(10, "Seattle, WA", true), "# 10 Seattle, WA  [Def]");
 }
