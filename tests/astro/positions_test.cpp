@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace {
 constexpr double Arcsec = DegToRad / 3600.0;
 double Deg(double rad) { return rad / DegToRad; }

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -33,15 +32,6 @@ std::vector<GraphBand> BandsNamed(const DayGraphSeries& s, const std::string& na
     std::copy_if(s.Twilights.begin(), s.Twilights.end(), std::back_inserter(out),
                  [&](const GraphBand& b) { return b.Name == name; });
     return out;
-}
-
-// Minutes of the day of a "hh:mm AM" text.
-int ClockMinutes(const std::string& t)
-{
-    int h = 0, m = 0;
-    char half[3] = {};
-    EXPECT_EQ(std::sscanf(t.c_str(), "%d:%d %2s", &h, &m, half), 3) << t;
-    return (h % 12 + (std::string(half) == "PM" ? 12 : 0)) * 60 + m;
 }
 
 // A summer day at Alexandria: the six bands meet at sunrise, sunset and the twilights as
@@ -72,9 +62,7 @@ TEST(DayGraph, SeriesOfASummerDayAgreeWithEphem)
     EXPECT_NEAR(minutes(s.Daylight[0].X0), 306.0, 1.0);
     EXPECT_NEAR(minutes(s.Daylight[0].X1), 1156.9, 1.0);
     EXPECT_EQ(DayPartTip(s, 1.0 * Units, true), " Night ");
-    const std::string civil = DayPartTip(s, 5.0 * Units, true);
-    EXPECT_EQ(civil.substr(0, 16), " Civil Twilight ");
-    EXPECT_NEAR(ClockMinutes(civil.substr(16)), 278.0, 1.0) << civil;
+    EXPECT_EQ(DayPartTip(s, 5.0 * Units, true), " Civil Twilight 04:38 AM "); // 278.0 minutes
     const std::string day = DayPartTip(s, 12.0 * Units, true);
     EXPECT_EQ(day.substr(0, 9), " Sunrise ");
     EXPECT_NE(day.find(", Sunset "), std::string::npos);
