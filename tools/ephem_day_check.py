@@ -60,23 +60,18 @@ def check_sky(rows, args, check):
         check.measure('moon altitude', abs(malt - math.degrees(moon.alt)), m, where)
 
 
-def next_event(o, body, kind, start):
-    """ephem's next rise, transit or set after start, or None."""
-    o.date = start
-    try:
-        return {'rise': o.next_rising, 'transit': o.next_transit, 'set': o.next_setting}[kind](body)
-    except (ephem.AlwaysUpError, ephem.NeverUpError):
-        return None
-
-
 def check_azimuths(rows, args, check):
     o = observer(args.lat, args.lon_west, '-0:34')
     for r in rows:
         start = day_start(r[0], args.zone)
         for body, kind, column in ((ephem.Sun(), 'rise', 11), (ephem.Sun(), 'set', 12),
                                    (ephem.Moon(), 'rise', 7), (ephem.Moon(), 'set', 8)):
-            t = next_event(o, body, kind, start)
-            if t is None or t >= start + 1:
+            o.date = start
+            try:
+                t = (o.next_rising if kind == 'rise' else o.next_setting)(body)
+            except (ephem.AlwaysUpError, ephem.NeverUpError):
+                continue
+            if t >= start + 1:
                 continue
             o.date = t
             body.compute(o)
@@ -87,8 +82,7 @@ def check_azimuths(rows, args, check):
 def main():
     ap = argparse.ArgumentParser(description='A year of daysky_dump output against PyEphem.')
     for name, kw in (('--lat', dict(required=True)), ('--lon-west', dict(required=True)),
-                     ('--zone', dict(required=True)), ('--sky', dict(nargs=2)),
-                     ('--azimuth', {})):
+                     ('--zone', dict(required=True)), ('--sky', dict(nargs=2)), ('--azimuth', {})):
         ap.add_argument(name, type=float, **kw)
     args = ap.parse_args()
     events, sky = [], []

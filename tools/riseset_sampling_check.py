@@ -13,8 +13,8 @@
 #
 # The reference: ephem's altitude every 10 minutes through the year (and two days either side);
 # every local extreme among the samples found to a second, every sign change bisected to
-# a second. Every event must lie within --minutes of ephem's, none missing, none invented, every
-# state right; a difference is excused only where ephem puts the body within --graze degrees of
+# a second. Every event must lie within MINUTES of ephem's, none missing, none invented, every
+# state right; a difference is excused only where ephem puts the body within GRAZE_DEGREES of
 # the altitude at that instant, where the two ephemerides' differences decide. Exit 1 otherwise.
 import argparse
 import math
@@ -24,6 +24,7 @@ import ephem
 
 STEP = 10.0 / 1440.0
 SECOND = 1.0 / 86400.0
+MINUTES, GRAZE_DEGREES = 1.0, 0.005  # the agreement asked; a grazing body's excuse
 # row -> (body, degrees of the event altitude, measured at the upper limb)
 ROWS = {'sun': ('sun', -34.0 / 60.0, True), 'civil': ('sun', -6.0, False),
         'nautical': ('sun', -12.0, False), 'astronomical': ('sun', -18.0, False),
@@ -100,11 +101,11 @@ def pair_up(ours, theirs, minutes):
     return pairs, ours, theirs
 
 
-def judge(tally, where, g, start, extremes, args, ours, ref):
+def judge(tally, where, g, start, extremes, ours, ref):
     """Counts one day's row: our (state, rises, sets) against ephem's (rises, sets)."""
     state, rises, sets = ours
     ref_rises, ref_sets = ref
-    grazing = lambda t: abs(g(t)) <= math.radians(args.graze)
+    grazing = lambda t: abs(g(t)) <= math.radians(GRAZE_DEGREES)
     # Ours: ephem has the body at the altitude there. Ephem's: the turn of the body's altitude
     # next to the crossing comes that close to the altitude.
     near = lambda h: grazing(start + h / 24.0)
@@ -116,7 +117,7 @@ def judge(tally, where, g, start, extremes, args, ours, ref):
         tally['excused' if excused else 'failures'].append(
             f'{where} state {state} ephem {ref_state} (ours {rises}/{sets}, ephem {ref_rises}/{ref_sets})')
     for kind, mine, theirs in (('rise', rises, ref_rises), ('set', sets, ref_sets)):
-        pairs, extra, missing = pair_up(mine, theirs, args.minutes)
+        pairs, extra, missing = pair_up(mine, theirs, MINUTES)
         tally['errors'] += [(a - b) * 60.0 for a, b in pairs]
         for h in extra:
             tally['excused' if near(h) else 'failures'].append(f'{where} {kind} {h:.4f} h not in ephem {theirs}')
@@ -129,9 +130,6 @@ def main():
     ap = argparse.ArgumentParser(description='A year of riseset_dump output against PyEphem.')
     ap.add_argument('--lat', type=float, required=True)
     ap.add_argument('--lon-west', type=float, required=True)
-    ap.add_argument('--minutes', type=float, default=1.0)
-    ap.add_argument('--graze', type=float, default=0.005,
-                    help='degrees within which a grazing body excuses a difference')
     args = ap.parse_args()
     days = list(read_dump(sys.stdin))
     first, last = (ephem.Date(days[i][0].replace('-', '/')) for i in (0, -1))
@@ -145,7 +143,7 @@ def main():
             start = ephem.Date(date.replace('-', '/')) + offset / 24.0
             local = lambda ts: [(t - start) * 24.0 for t in ts if start <= t < start + 1.0]
             for name, g in rows.items():
-                judge(tallies[name], f'{date} {name}', g, start, extremes, args, ours[name],
+                judge(tallies[name], f'{date} {name}', g, start, extremes, ours[name],
                       [local(ts) for ts in found[name]])
     failed = False
     for name, t in tallies.items():

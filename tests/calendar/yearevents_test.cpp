@@ -81,17 +81,13 @@ TEST(YearEvents, CaptionsAndCodesOf2024)
     EXPECT_NEAR(full.PhaseJD, 2460335.24580, 2.0 / 1440.0);
     EXPECT_EQ(full.MoonAge, 14);
     EXPECT_EQ(full.Rating, 4);
-    int captions = 0;
-    for (const DayMarks& r : cal.YearDays) {
+    for (const DayMarks& r : cal.YearDays)
         for (const auto& [marked, caption] :
              {std::pair{r.Perigee == 1, " Moon at Perigee "},
               {r.Perigee == 2, " Moon at Apogee "},
               {r.Declination == 1, " Moon at Max North Declination "},
               {r.Declination == 2, " Moon at Max South Declination "}})
             EXPECT_EQ(r.Text.find(caption) != std::string::npos, marked) << r.Text;
-        captions += (r.Perigee > 0) + (r.Declination > 0) + (r.Season > 0);
-    }
-    EXPECT_GE(captions, 4 + 26 + 26);
 }
 
 // Sydney (zone -10), 2029: the full moon of 1 January at 02:48 local time (31 December 2028,

@@ -34,13 +34,11 @@ MoonLook Look(int percent, int waxing, int south = 0)
 double LitShare(const QImage& image)
 {
     int lit = 0, disc = 0;
-    for (int y = 0; y < image.height(); ++y) {
+    for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x) {
-            const QRgb p = image.pixel(x, y);
-            disc += p != Back ? 1 : 0;
-            lit += p == Lit ? 1 : 0;
+            disc += image.pixel(x, y) != Back ? 1 : 0;
+            lit += image.pixel(x, y) == Lit ? 1 : 0;
         }
-    }
     return 100.0 * lit / disc;
 }
 
