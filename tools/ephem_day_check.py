@@ -1,16 +1,13 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Checks a year of daysky_dump output at one place against PyEphem (python3-ephem).
-
-  --sky S M     Sun within S degrees and Moon within M degrees of ephem, in azimuth and altitude,
-                at every dumped hour. Both without refraction; the Moon's azimuth from its
-                apparent geocentric place turned to the horizon, its altitude as seen from the
-                place (ephem's topocentric one), as the program shows them.
-  --events M    every moonrise, moon transit and moonset that ephem finds in the local day is
-                there (status 0) and within M minutes.
-  --azimuth D   sunrise/sunset and moonrise/moonset azimuths within D degrees of ephem's.
-Always: no NaN anywhere, Major1 in [0, 24).  Exits 1 on any failure.
-"""
+# Checks a year of daysky_dump output at one place against PyEphem (python3-ephem).
+#
+#   --sky S M     Sun within S degrees and Moon within M degrees of ephem, in azimuth and altitude,
+#                 at every dumped hour. Both without refraction; the Moon's azimuth from its
+#                 apparent geocentric place turned to the horizon, its altitude as seen from the
+#                 place (ephem's topocentric one), as the program shows them.
+#   --azimuth D   sunrise/sunset and moonrise/moonset azimuths within D degrees of ephem's.
+# Always: no NaN anywhere, Major1 in [0, 24).  Exits 1 on any failure.
 import argparse
 import math
 import sys
@@ -41,11 +38,10 @@ def angle_diff(a, b):
 
 class Check:
     def __init__(self):
-        self.failures, self.worst = [], {}
+        self.failures, self.worst = [], {}  # each measure's largest value and where it was
 
     def measure(self, name, value, limit, where):
-        if value > self.worst.get(name, (-1.0, ''))[0]:
-            self.worst[name] = (value, where)
+        self.worst[name] = max(self.worst.get(name, (-1.0, '')), (value, where))
         if not value <= limit:  # NaN fails too
             self.failures.append(f'{name} {value:.3f} > {limit} at {where}')
 
@@ -64,37 +60,18 @@ def check_sky(rows, args, check):
         check.measure('moon altitude', abs(malt - math.degrees(moon.alt)), m, where)
 
 
-def next_event(o, body, kind, start):
-    """ephem's next rise, transit or set after start, or None."""
-    o.date = start
-    try:
-        return {'rise': o.next_rising, 'transit': o.next_transit, 'set': o.next_setting}[kind](body)
-    except (ephem.AlwaysUpError, ephem.NeverUpError):
-        return None
-
-
-def check_events(rows, args, check):
-    o, moon = observer(args.lat, args.lon_west, '-0:34'), ephem.Moon()
-    for r in rows:
-        start = day_start(r[0], args.zone)
-        for kind, hour, flag in (('rise', r[1], r[2]), ('transit', r[3], r[4]), ('set', r[5], r[6])):
-            t = next_event(o, moon, kind, start)
-            if t is None or t >= start + 1:
-                continue
-            if flag != 0:
-                check.failures.append(f'moon {kind} missing on {r[0]}: ephem has {(t - start) * 24:.4f} h')
-            else:
-                check.measure(f'moon {kind} (min)', abs(hour - (t - start) * 24.0) * 60.0, args.events, r[0])
-
-
 def check_azimuths(rows, args, check):
     o = observer(args.lat, args.lon_west, '-0:34')
     for r in rows:
         start = day_start(r[0], args.zone)
         for body, kind, column in ((ephem.Sun(), 'rise', 11), (ephem.Sun(), 'set', 12),
                                    (ephem.Moon(), 'rise', 7), (ephem.Moon(), 'set', 8)):
-            t = next_event(o, body, kind, start)
-            if t is None or t >= start + 1:
+            o.date = start
+            try:
+                t = (o.next_rising if kind == 'rise' else o.next_setting)(body)
+            except (ephem.AlwaysUpError, ephem.NeverUpError):
+                continue
+            if t >= start + 1:
                 continue
             o.date = t
             body.compute(o)
@@ -103,10 +80,9 @@ def check_azimuths(rows, args, check):
 
 
 def main():
-    ap = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    ap = argparse.ArgumentParser(description='A year of daysky_dump output against PyEphem.')
     for name, kw in (('--lat', dict(required=True)), ('--lon-west', dict(required=True)),
-                     ('--zone', dict(required=True)), ('--sky', dict(nargs=2)), ('--events', {}),
-                     ('--azimuth', {})):
+                     ('--zone', dict(required=True)), ('--sky', dict(nargs=2)), ('--azimuth', {})):
         ap.add_argument(name, type=float, **kw)
     args = ap.parse_args()
     events, sky = [], []
@@ -121,7 +97,7 @@ def main():
             check.failures.append(f'NaN or Major1 {r[13]} outside [0, 24) on {r[0]}')
     if len(events) < 365:
         check.failures.append(f'only {len(events)} days dumped')
-    for option, run in ((args.sky, check_sky), (args.events, check_events), (args.azimuth, check_azimuths)):
+    for option, run in ((args.sky, check_sky), (args.azimuth, check_azimuths)):
         if option is not None:
             run(sky if run is check_sky else events, args, check)
     print(f'{len(events)} days, {len(sky)} sky positions at {args.lat} {args.lon_west} zone {args.zone}')

@@ -1,15 +1,14 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Checks a year of quillmere-forecast's iCalendar output (RFC 5545) at two places: CRLF line
-ends, lines of at most 75 octets folded between UTF-8 characters, one VCALENDAR, complete events,
-UIDs unique within a file and across the places, one Major period per real transit (no two Major
-events overlap); and, for places on a zone of the tz database, every timed event centred on the
-universal instant that Python's zoneinfo gives for the clock time the day's row shows, on the
-days the clock changes too (a clock time the change skips or repeats read before the change,
-zoneinfo's fold=0).
-
-usage: ics_check.py PROGRAM
-"""
+# Checks a year of quillmere-forecast's iCalendar output (RFC 5545) at two places: CRLF line
+# ends, lines of at most 75 octets folded between UTF-8 characters, one VCALENDAR, complete events,
+# UIDs unique within a file and across the places, one Major period per real transit (no two Major
+# events overlap); and, for places on a zone of the tz database, every timed event centred on the
+# universal instant that Python's zoneinfo gives for the clock time the day's row shows, on the
+# days the clock changes too (a clock time the change skips or repeats read before the change,
+# zoneinfo's fold=0).
+#
+# usage: ics_check.py PROGRAM
 import csv
 import io
 import os

@@ -1,16 +1,14 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Checks the PDF pages of quillmere-forecast against poppler's reading of them and against
-PyEphem: February 2024 at Alexandria, LA (92.42W 31.25N, 6 hours west of Greenwich).
-
-usage: pdf_pages_check.py QUILLMERE_FORECAST OUTPUT_FOLDER
-The pages are also turned into PNG files in OUTPUT_FOLDER for a person to look at."""
+# Checks the PDF pages of quillmere-forecast against poppler's reading of them and against
+# PyEphem: February 2024 at Alexandria, LA (92.42W 31.25N, 6 hours west of Greenwich).
+#
+# usage: pdf_pages_check.py QUILLMERE_FORECAST OUTPUT_FOLDER
 import datetime
 import os
 import re
 import subprocess
 import sys
-import xml.etree.ElementTree as ET
 
 import ephem
 
@@ -30,7 +28,6 @@ def make(program, folder, command, locale="C.UTF-8"):
     env = dict(os.environ, LANG=locale, LC_ALL=locale)
     subprocess.run([program, command, "--year", "2024", "--month", "2", *PLACE, "--pdf", pdf],
                    check=True, env=env)
-    subprocess.run(["pdftoppm", "-png", "-singlefile", "-r", "60", pdf, pdf[:-4]], check=True)
     text = subprocess.run(["pdftotext", "-layout", pdf, "-"], check=True,
                           capture_output=True, text=True).stdout
     return pdf, text
@@ -46,34 +43,18 @@ def moon_transit_local(year, month, day):
     return local.strftime("%I:%M ") + local.strftime("%p")[0]
 
 
-def word_centres(pdf, words):
-    """x centres in points of the first occurrence of each word, read with pdftotext -bbox."""
-    xml = subprocess.run(["pdftotext", "-bbox", pdf, "-"], check=True, capture_output=True,
-                         text=True).stdout
-    centres = {}
-    for w in ET.fromstring(xml).iter("{http://www.w3.org/1999/xhtml}word"):
-        if w.text in words and w.text not in centres:
-            centres[w.text] = (float(w.get("xMin")) + float(w.get("xMax"))) / 2
-    return centres
-
-
 def main(program, folder):
-    pdf, text = make(program, folder, "calendar")
+    _, text = make(program, folder, "calendar")
     check("2024" in text, "calendar: the year in the title")
     numbers = set(re.findall(r"(?m)(?:^|\s)(\d{1,2})(?=\s|$)", text))
     check(all(str(d) in numbers for d in range(1, 30)), "calendar: every day number 1..29")
     check("30" not in numbers, "calendar: no day 30 in February 2024")
     transit = moon_transit_local(2024, 2, 1)
     check(transit + "/" in text, f"calendar: day 1's first major is the transit {transit}")
-    # Sun to Sat are six columns of 1325 twips apart; printed at 1.2 times: 477 points, on
-    # A4 and on Letter alike.
     for locale, paper in (("C.UTF-8", "A4"), ("en_US.UTF-8", "letter")):
         pdf, _ = make(program, folder, "calendar", locale)
         info = subprocess.run(["pdfinfo", pdf], check=True, capture_output=True, text=True)
         check(f"({paper})" in info.stdout, f"calendar: {paper} paper for {locale}")
-        centres = word_centres(pdf, {"Sun", "Sat"})
-        span = centres.get("Sat", 0) - centres.get("Sun", 0)
-        check(abs(span - 6 * 1325 * 1.2 / 20) < 2.0, f"calendar: 1.2 times on {paper} ({span})")
 
     _, text = make(program, folder, "glance")
     check("Lunar Events for Feb/2024" in text, "glance: its title")

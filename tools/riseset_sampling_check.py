@@ -1,22 +1,21 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Checks a year of rise, set and twilight events (tests/tools/riseset_dump) against PyEphem's
-altitudes, sampled: no rise/set search of ephem's is used, so a grazing body is judged by where
-it really stands. Without refraction in ephem (pressure 0): sunrise and sunset when the Sun's
-upper limb is 34' below the horizon, the twilights when its centre is 6, 12 and 18 degrees
-below, moonrise and moonset when the Moon's upper limb, seen from the place, is 34' below.
-
-The dump: one line per local day, DATE ZONE_HOURS (local clock + ZONE_HOURS = UT), then for
-sun, civil, nautical, astronomical, moon: STATE RISES SETS, where STATE is C (crosses in the
-day), A (above all day) or B (below all day) and RISES and SETS are comma-separated local clock
-hours, or '-'.
-
-The reference: ephem's altitude every 10 minutes through the year (and two days either side);
-every local extreme among the samples refined by golden section, every sign change bisected to
-a second. Every event must lie within --minutes of ephem's, none missing, none invented, every
-state right; a difference is excused only where ephem puts the body within --graze degrees of
-the altitude at that instant, where the two ephemerides' differences decide. Exit 1 otherwise.
-"""
+# Checks a year of rise, set and twilight events (tests/tools/riseset_dump) against PyEphem's
+# altitudes, sampled: no rise/set search of ephem's is used, so a grazing body is judged by where
+# it really stands. Without refraction in ephem (pressure 0): sunrise and sunset when the Sun's
+# upper limb is 34' below the horizon, the twilights when its centre is 6, 12 and 18 degrees
+# below, moonrise and moonset when the Moon's upper limb, seen from the place, is 34' below.
+#
+# The dump: one line per local day, DATE ZONE_HOURS (local clock + ZONE_HOURS = UT), then for
+# sun, civil, nautical, astronomical, moon: STATE RISES SETS, where STATE is C (crosses in the
+# day), A (above all day) or B (below all day) and RISES and SETS are comma-separated local clock
+# hours, or '-'.
+#
+# The reference: ephem's altitude every 10 minutes through the year (and two days either side);
+# every local extreme among the samples found to a second, every sign change bisected to
+# a second. Every event must lie within MINUTES of ephem's, none missing, none invented, every
+# state right; a difference is excused only where ephem puts the body within GRAZE_DEGREES of
+# the altitude at that instant, where the two ephemerides' differences decide. Exit 1 otherwise.
 import argparse
 import math
 import sys
@@ -25,47 +24,29 @@ import ephem
 
 STEP = 10.0 / 1440.0
 SECOND = 1.0 / 86400.0
-GOLDEN = (math.sqrt(5.0) - 1.0) / 2.0
+MINUTES, GRAZE_DEGREES = 1.0, 0.005  # the agreement asked; a grazing body's excuse
 # row -> (body, degrees of the event altitude, measured at the upper limb)
 ROWS = {'sun': ('sun', -34.0 / 60.0, True), 'civil': ('sun', -6.0, False),
         'nautical': ('sun', -12.0, False), 'astronomical': ('sun', -18.0, False),
         'moon': ('moon', -34.0 / 60.0, True)}
 
 
-class Sky:
-    """ephem's topocentric altitude and radius of one body at the place (radians)."""
+def sky_of(lat, lon_west, body):
+    """ephem's topocentric altitude and radius of one body at the place (radians), by instant."""
+    obs, b = ephem.Observer(), ephem.Sun() if body == 'sun' else ephem.Moon()
+    obs.lat, obs.lon, obs.pressure = str(lat), str(-lon_west), 0
 
-    def __init__(self, lat, lon_west, body):
-        self.obs = ephem.Observer()
-        self.obs.lat, self.obs.lon, self.obs.pressure = str(lat), str(-lon_west), 0
-        self.body = ephem.Sun() if body == 'sun' else ephem.Moon()
-
-    def at(self, t):
-        self.obs.date = t
-        self.body.compute(self.obs)
-        return float(self.body.alt), float(self.body.radius)
+    def at(t):
+        obs.date = t
+        b.compute(obs)
+        return float(b.alt), float(b.radius)
+    return at
 
 
 def height(alt_radius, degrees, limb):
     """How far a row's reference point stands above the row's altitude, radians."""
     alt, radius = alt_radius
     return alt + (radius if limb else 0.0) - math.radians(degrees)
-
-
-def golden_extreme(f, a, b):
-    """The instant in [a, b] where f is largest, to a second."""
-    c, d = b - GOLDEN * (b - a), a + GOLDEN * (b - a)
-    fc, fd = f(c), f(d)
-    while b - a > SECOND:
-        if fc > fd:
-            b, d, fd = d, c, fc
-            c = b - GOLDEN * (b - a)
-            fc = f(c)
-        else:
-            a, c, fc = c, d, fd
-            d = a + GOLDEN * (b - a)
-            fd = f(d)
-    return (a + b) / 2.0
 
 
 def bisect(f, a, b):
@@ -82,14 +63,14 @@ def bisect(f, a, b):
 def crossings(sky, rows, start, end):
     """Each row's rises and sets between start and end, and the body's extremes of altitude."""
     times = [start + i * STEP for i in range(int((end - start) / STEP) + 1)]
-    at = {t: sky.at(t) for t in times}
+    at = {t: sky(t) for t in times}
     top = {t: sum(at[t]) for t in times}
     extremes = []
     for p, t, n in zip(times, times[1:], times[2:]):
         if (top[t] - top[p]) * (top[n] - top[t]) < 0.0:
             sign = 1.0 if top[t] > top[p] else -1.0
-            extremes.append(golden_extreme(lambda x: sign * sum(sky.at(x)), p, n))
-    at.update((t, sky.at(t)) for t in extremes)
+            extremes.append(bisect(lambda x: sign * (sum(sky(x + SECOND)) - sum(sky(x))), p, n))
+    at.update((t, sky(t)) for t in extremes)
     times = sorted(at)
     found = {}
     for name, g in rows.items():
@@ -120,11 +101,11 @@ def pair_up(ours, theirs, minutes):
     return pairs, ours, theirs
 
 
-def judge(tally, where, g, start, extremes, args, ours, ref):
+def judge(tally, where, g, start, extremes, ours, ref):
     """Counts one day's row: our (state, rises, sets) against ephem's (rises, sets)."""
     state, rises, sets = ours
     ref_rises, ref_sets = ref
-    grazing = lambda t: abs(g(t)) <= math.radians(args.graze)
+    grazing = lambda t: abs(g(t)) <= math.radians(GRAZE_DEGREES)
     # Ours: ephem has the body at the altitude there. Ephem's: the turn of the body's altitude
     # next to the crossing comes that close to the altitude.
     near = lambda h: grazing(start + h / 24.0)
@@ -136,7 +117,7 @@ def judge(tally, where, g, start, extremes, args, ours, ref):
         tally['excused' if excused else 'failures'].append(
             f'{where} state {state} ephem {ref_state} (ours {rises}/{sets}, ephem {ref_rises}/{ref_sets})')
     for kind, mine, theirs in (('rise', rises, ref_rises), ('set', sets, ref_sets)):
-        pairs, extra, missing = pair_up(mine, theirs, args.minutes)
+        pairs, extra, missing = pair_up(mine, theirs, MINUTES)
         tally['errors'] += [(a - b) * 60.0 for a, b in pairs]
         for h in extra:
             tally['excused' if near(h) else 'failures'].append(f'{where} {kind} {h:.4f} h not in ephem {theirs}')
@@ -146,26 +127,23 @@ def judge(tally, where, g, start, extremes, args, ours, ref):
 
 
 def main():
-    ap = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawTextHelpFormatter)
+    ap = argparse.ArgumentParser(description='A year of riseset_dump output against PyEphem.')
     ap.add_argument('--lat', type=float, required=True)
     ap.add_argument('--lon-west', type=float, required=True)
-    ap.add_argument('--minutes', type=float, default=1.0)
-    ap.add_argument('--graze', type=float, default=0.005,
-                    help='degrees within which a grazing body excuses a difference')
     args = ap.parse_args()
     days = list(read_dump(sys.stdin))
     first, last = (ephem.Date(days[i][0].replace('-', '/')) for i in (0, -1))
     tallies = {name: {'errors': [], 'excused': [], 'failures': []} for name in ROWS}
     for body in ('sun', 'moon'):
-        sky = Sky(args.lat, args.lon_west, body)
-        rows = {n: (lambda t, d=deg, l=limb: height(sky.at(t), d, l))
+        sky = sky_of(args.lat, args.lon_west, body)
+        rows = {n: (lambda t, d=deg, l=limb: height(sky(t), d, l))
                 for n, (b, deg, limb) in ROWS.items() if b == body}
         found, extremes = crossings(sky, rows, first - 2.0, last + 3.0)
         for date, offset, ours in days:
             start = ephem.Date(date.replace('-', '/')) + offset / 24.0
             local = lambda ts: [(t - start) * 24.0 for t in ts if start <= t < start + 1.0]
             for name, g in rows.items():
-                judge(tallies[name], f'{date} {name}', g, start, extremes, args, ours[name],
+                judge(tallies[name], f'{date} {name}', g, start, extremes, ours[name],
                       [local(ts) for ts in found[name]])
     failed = False
     for name, t in tallies.items():

@@ -2,6 +2,7 @@
 #include "astro/astronomy.h"
 #include "astro/timebase.h"
 #include "calendar/calendar.h"
+#include "calendar/yearcal.h"
 
 #include <gtest/gtest.h>
 
@@ -16,28 +17,6 @@ Calendar MonthOf(int year, int month)
     return cal;
 }
 
-// Leap years by the Gregorian rule; 1 March 2000 a Wednesday at JD 2451604.5.
-TEST(CalendarTables, FebruaryLeapYearsAndYearStarts)
-{
-    Astronomy engine;
-    for (auto [year, days] : {std::pair{1900, 28}, {2000, 29}, {2024, 29}, {2100, 28}}) {
-        Calendar cal = MonthOf(year, 2);
-        cal.SetYearTables(engine, 0);
-        EXPECT_EQ(cal.MonthDays, days) << year;
-        EXPECT_EQ(cal.YearSlots, days == 29 ? 367 : 366) << year;
-        EXPECT_EQ(cal.MonthStartDoy[12], days == 29 ? 336 : 335) << year;
-    }
-    Calendar cal = MonthOf(2000, 3);
-    cal.SetYearTables(engine, 0);
-    EXPECT_DOUBLE_EQ(cal.YearStartJD, 2451544.5);
-    EXPECT_DOUBLE_EQ(cal.MonthStartJD[3], 2451604.5);
-    EXPECT_DOUBLE_EQ(cal.YearEndJD, 2451909.5); // 31 December 2000
-    EXPECT_EQ(cal.FirstWeekday, 3);
-    // The month before January 1900, the first month, is December 2500's 31 days.
-    EXPECT_EQ(MonthOf(1900, 1).PrevMonthDays, 31);
-    EXPECT_EQ(MonthOf(2024, 3).PrevMonthDays, 29);
-}
-
 // March 2025 begins on a Saturday and has 31 days: every one of the 37 cells is used, the
 // first six greyed with 23..28 February, today framed.
 TEST(CalendarGrid, ThirtyOneDaysFromSaturdayFillAllCells)
@@ -50,29 +29,11 @@ TEST(CalendarGrid, ThirtyOneDaysFromSaturdayFillAllCells)
         EXPECT_EQ(cells[std::size_t(i)].Of, DayCell::Kind::PreviousMonth);
         EXPECT_EQ(cells[std::size_t(i)].Number, 23 + i);
         EXPECT_FALSE(cells[std::size_t(i)].Enabled);
-        EXPECT_EQ(cells[std::size_t(i)].Background, 0xFF0000u);
     }
     EXPECT_EQ(cells[6].Number, 1);
     EXPECT_EQ(cells[36].Number, 31);
-    EXPECT_EQ(cells[36].Background, 0xC0C0C0u);
     EXPECT_EQ(cal.TodayCell, 6 + 13);
     EXPECT_EQ(cal.SelCell, cal.TodayCell);
-}
-
-// February 2015: 28 days from a Sunday leave cells 28..36 to March, numbered 1..9; the frame
-// goes to day 1 when the month shown is not the clock's.
-TEST(CalendarGrid, ShortMonthAndFrameOnDayOne)
-{
-    Astronomy engine;
-    Calendar cal = MonthOf(2015, 2);
-    const auto cells = cal.DrawMonth(engine, 0, 2026, 11, 23);
-    EXPECT_EQ(cal.FirstWeekday, 0);
-    for (int i = 28; i < 37; ++i) {
-        EXPECT_EQ(cells[std::size_t(i)].Of, DayCell::Kind::NextMonth);
-        EXPECT_EQ(cells[std::size_t(i)].Number, i - 27);
-        EXPECT_EQ(cells[std::size_t(i)].TextColor, 0xFFFFFFu);
-    }
-    EXPECT_EQ(cal.TodayCell, 0);
 }
 
 // March 2024 (from a Friday): Easter (31st) in red; the new moon of 10 March (09:00 UT) and
@@ -92,21 +53,40 @@ TEST(CalendarGrid, CellsShowTheYearDayTable)
     EXPECT_EQ(cell(20).Marks, 1); // the equinox
 }
 
-TEST(CalendarTexts, MonthDaysTextAbbrevAndShortClock)
+// The monthly list's short clock keeps the first letter of AM/PM and the missing-time marks.
+TEST(CalendarTexts, ShortClock)
 {
-    const std::string feb = MonthDaysText(0, 28);
-    EXPECT_EQ(feb.rfind("1   2", 0), 0u);
-    EXPECT_EQ(feb.substr(feb.size() - 3), " 28");
-    const std::string m = MonthDaysText(3, 31);
-    EXPECT_EQ(m.substr(0, 16), std::string(15, ' ') + "1");
-    EXPECT_EQ(m.substr(m.size() - 5), "30 31");
-    EXPECT_EQ(MonthAbbrev(12), "Dec");
     for (const auto& [clock, shown] : {std::pair{"6:05 PM", "6:05 P"},
                                        {"10:15 AM", "10:15 A"},
                                        {"****", "****"},
                                        {"*****", "*****"}})
         EXPECT_EQ(ShortClock(clock), shown);
-    EXPECT_STREQ(DayNames[7], "Saturday");
+}
+
+// 2024: February has 29 days and starts on a Thursday (20 blanks), June starts on a Saturday
+// (30 blanks), September on a Sunday; the calendar stays on the month it showed.
+TEST(YearCal, TwelveMonthsOf2024)
+{
+    Astronomy engine;
+    Calendar cal;
+    cal.CurYear = 2024;
+    cal.CurMonth = 8;
+    const YearCalPage page = FillYearCal(cal, engine, 0);
+    EXPECT_EQ(page.Months[5].Caption, " S  M  T  W  T   F   S");
+    const std::string& feb = page.Months[2].Days;
+    EXPECT_EQ(feb.substr(0, 22), std::string(20, ' ') + "1 ");
+    EXPECT_EQ(feb.substr(feb.size() - 3), " 29");
+    EXPECT_EQ(page.Months[6].Days.substr(0, 31), std::string(30, ' ') + "1");
+    EXPECT_EQ(page.Months[9].Days.substr(0, 2), "1 ");
+    EXPECT_EQ(page.Months[4].Days.substr(page.Months[4].Days.size() - 3), " 30");
+    EXPECT_EQ(cal.CurMonth, 8);
+    EXPECT_EQ(cal.FirstWeekday, 4); // 1 August 2024 is a Thursday
+    EXPECT_EQ(cal.MonthDays, 31);
+
+    cal.CurYear = 2023;
+    const std::string feb2023 = FillYearCal(cal, engine, 0).Months[2].Days;
+    EXPECT_EQ(feb2023.substr(feb2023.size() - 3), " 28");
+    EXPECT_EQ(feb2023.substr(0, 16), std::string(15, ' ') + "1"); // a Wednesday
 }
 
 } // namespace

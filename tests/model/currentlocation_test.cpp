@@ -3,77 +3,40 @@
 #include "platform/settingsio.h"
 #include "platform/settingsstore.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
-namespace {
-Settings DefaultSettings()
+// Every location of model/data/locations.txt as the current one, on the 24-hour clock.
+TEST(CurrentLocation, CaptionZoneAndHemisphereOfALocation)
 {
+    QFile file(QStringLiteral(QUILLMERE_TESTDATA "/locations.txt"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
     SettingsStore store(QStringLiteral("LocationTest"));
     store.DeleteAll();
-    Settings s;
-    LoadSettings(s, store);
-    return s;
-}
-} // namespace
-
-TEST(CurrentLocation, CaptionOfTheFirstDefaultLocation)
-{
-    Settings s = DefaultSettings();
-    CurrentLocation cur;
-    Observer site;
-    ApplyLocationValues(s, cur, site);
-    EXPECT_EQ(
-        cur.LocationCaption,
-        "Alexandria, LA  Long=92.42 W Lat=31.25 N TimeZone= 6  Time=STD Hemisphere=Northern ");
-    EXPECT_DOUBLE_EQ(site.ZoneDays, 0.25);
-    EXPECT_EQ(site.DstOffsetDays, 0.0);
-    EXPECT_EQ(cur.SouthernHemisphere, 0);
-    s.CurLoc = 2;
-    ApplyLocationValues(s, cur, site);
-    EXPECT_NE(cur.LocationCaption.find("Long=80.20 W"), std::string::npos);
-    EXPECT_NE(cur.LocationCaption.find("TimeZone= 5 "), std::string::npos);
-}
-
-TEST(CurrentLocation, EasternSouthernLocationWithDaylightSaving)
-{
-    Settings s = DefaultSettings();
-    s.Locations[3] = {"Hobart", -147.33, -42.88, -10, ""};
-    s.CurLoc = 3;
-    s.TimeFormats = 0;
-    s.DaylightBias = -60;
-    s.AMPM = "False";
-    CurrentLocation cur;
-    Observer site;
-    ApplyLocationValues(s, cur, site);
-    EXPECT_EQ(cur.LocationCaption,
-              "Hobart  Long=147.33 E Lat=42.88 S TimeZone=-10  Time=DST Hemisphere=Southern ");
-    EXPECT_NEAR(site.DstOffsetDays, -1.0 / 24.0, 1e-15);
-    EXPECT_DOUBLE_EQ(site.ZoneDays, -10.0 / 24.0);
-    EXPECT_EQ(s.HemiSphere, "South");
-    EXPECT_EQ(cur.SouthernHemisphere, -1);
-    EXPECT_FALSE(site.AMPM); // the chosen 24-hour clock is kept
-}
-
-TEST(CurrentLocation, SignsAtZeroAndHalfADegree)
-{
-    Settings s = DefaultSettings();
-    s.Locations[1] = {"Greenwich", 0.0, 0.0, 0, ""};
-    s.Locations[2] = {"East", -0.5, 0.5, 0, ""};
-    CurrentLocation cur;
-    Observer site;
-    ApplyLocationValues(s, cur, site);
-    EXPECT_NE(cur.LocationCaption.find("Long=0.00 W Lat=0.00 N TimeZone= 0 "), std::string::npos);
-    EXPECT_EQ(s.HemiSphere, "North");
-    s.CurLoc = 2;
-    ApplyLocationValues(s, cur, site);
-    EXPECT_NE(cur.LocationCaption.find("Long=0.50 E"), std::string::npos);
-    s.TimeFormats = 2; // neither choice: the mode text stays empty
-    ApplyLocationValues(s, cur, site);
-    EXPECT_NE(cur.LocationCaption.find(" Time= Hemisphere="), std::string::npos);
-}
-
-TEST(CurrentLocation, MenuCaptionsMarkTheDefault)
-{
-    EXPECT_EQ(LocationMenuCaption(1, "Alexandria, LA", false), "# 1 Alexandria, LA");
-    EXPECT_EQ(LocationMenuCaption(10, "Seattle, WA", true), "# 10 Seattle, WA  [Def]");
+    int rows = 0;
+    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
+        const QStringList f = line.split('|');
+        if (line.startsWith('#') || f.size() != 9)
+            continue;
+        Settings s;
+        LoadSettings(s, store);
+        s.Locations[3] = {f[0].toStdString(), f[1].toDouble(), f[2].toDouble(),
+                          std::int16_t(f[3].toInt()), ""};
+        s.CurLoc = 3;
+        s.TimeFormats = std::int16_t(f[4].toInt());
+        s.DaylightBias = -60;
+        s.AMPM = "False";
+        CurrentLocation cur;
+        Observer site;
+        ApplyLocationValues(s, cur, site);
+        EXPECT_EQ(cur.LocationCaption, f[5].toStdString());
+        EXPECT_EQ(s.HemiSphere, f[6].toStdString()) << f[0].toStdString();
+        EXPECT_EQ(cur.SouthernHemisphere, f[2].toDouble() < 0 ? -1 : 0) << f[0].toStdString();
+        EXPECT_NEAR(site.ZoneDays * 24.0, f[7].toDouble(), 1e-12) << f[0].toStdString();
+        EXPECT_NEAR(site.DstOffsetDays * 24.0, f[8].toDouble(), 1e-12) << f[0].toStdString();
+        EXPECT_FALSE(site.AMPM) << f[0].toStdString(); // the chosen 24-hour clock is kept
+        ++rows;
+    }
+    EXPECT_EQ(rows, 4);
 }

@@ -1,13 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/clock.h"
-#include "platform/programfolder.h"
-#include "platform/settingsstore.h"
-#include "platform/singleinstance.h"
 #include "platform/systemlocale.h"
-#include "support/testenv.h"
-
-#include <QDir>
-#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -25,49 +17,4 @@ TEST(DateOrder, DayFirstOnlyWhenTheShortDateBeginsWith31)
         EXPECT_EQ(order.MonthFirstDates, monthFirst) << text;
         EXPECT_EQ(order.DateSeparator, QChar(separator)) << text;
     }
-}
-
-TEST(SettingsStore, ReadsDefaultsWritesAndDeletesEverything)
-{
-    SettingsStore store(QStringLiteral("StoreTest"));
-    store.DeleteAll();
-    EXPECT_EQ(store.Read("AMPM", "True"), "True");
-    store.Write("AMPM", "False");
-    store.Write("Usr1TZ", " 6");
-    store.Flush();
-    SettingsStore again(QStringLiteral("StoreTest"));
-    EXPECT_EQ(again.Read("AMPM", "True"), "False");
-    EXPECT_EQ(again.Read("Usr1TZ", "0"), " 6"); // the leading blank survives the file
-    QFile file(again.FilePath());
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(file.readAll().contains("[Settings]"));
-    again.DeleteAll();
-    EXPECT_FALSE(SettingsStore(QStringLiteral("StoreTest")).Contains("AMPM"));
-}
-
-TEST(SingleInstance, SecondCopyIsRefusedUntilTheFirstEnds)
-{
-    auto first = std::make_unique<SingleInstance>(QStringLiteral("lock-test"));
-    ASSERT_TRUE(first->Acquire());
-    SingleInstance second(QStringLiteral("lock-test"));
-    EXPECT_FALSE(second.Acquire());
-    first.reset();
-    EXPECT_TRUE(SingleInstance(QStringLiteral("lock-test")).Acquire());
-}
-
-TEST(Clock, FixedByEnvironment)
-{
-    qputenv("QUILLMERE_NOW", "2024-03-10T07:30:00");
-    EXPECT_EQ(Clock::Now(), QDateTime(QDate(2024, 3, 10), QTime(7, 30)));
-    qunsetenv("QUILLMERE_NOW");
-    EXPECT_LE(std::abs(Clock::Now().secsTo(QDateTime::currentDateTime())), 2);
-}
-
-TEST(ProgramFolder, CreatedAndSeededWithoutOverwritingTheUsersFiles)
-{
-    const QString home = testenv::FreshDir("folder-test") + "/Quillmere";
-    qputenv("QUILLMERE_HOME", home.toLocal8Bit());
-    EXPECT_EQ(ProgramFolder::Path(), home);
-    EXPECT_TRUE(QDir(home).exists());
-    EXPECT_EQ(ProgramFolder::File("2004.mdb"), home + "/2004.mdb");
 }

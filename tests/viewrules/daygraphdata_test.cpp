@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -35,20 +34,10 @@ std::vector<GraphBand> BandsNamed(const DayGraphSeries& s, const std::string& na
     return out;
 }
 
-// Minutes of the day of a "hh:mm AM" text.
-int ClockMinutes(const std::string& t)
-{
-    int h = 0, m = 0;
-    char half[3] = {};
-    EXPECT_EQ(std::sscanf(t.c_str(), "%d:%d %2s", &h, &m, half), 3) << t;
-    return (h % 12 + (std::string(half) == "PM" ? 12 : 0)) * 60 + m;
-}
-
 // A summer day at Alexandria: the six bands meet at sunrise, sunset and the twilights as
 // PyEphem 4.1.4 gives them (minutes of the local clock; the Sun's upper limb 34' below the
-// horizon, its centre 6, 12 and 18 degrees below, no refraction), in the colours of the line,
-// daylight between; red bars at the majors, green at the minors, white marks at the Moon's
-// rise, transit and set; the tips name the part of the day under the pointer.
+// horizon, its centre 6, 12 and 18 degrees below, no refraction), daylight between; the tips
+// name the part of the day under the pointer.
 TEST(DayGraph, SeriesOfASummerDayAgreeWithEphem)
 {
     Astronomy engine = At(92.42, 31.25, 6);
@@ -56,10 +45,9 @@ TEST(DayGraph, SeriesOfASummerDayAgreeWithEphem)
     const struct {
         const char* Name;
         double Dawn, Dusk, BrighterDawn, BrighterDusk;
-        std::uint32_t Colour;
-    } kinds[] = {{" Civil Twilight ", 278.0, 1184.9, 306.0, 1156.9, 0xFFC0C0},
-                 {" Nautical Twilight ", 243.9, 1219.0, 278.0, 1184.9, 0xFF8080},
-                 {" Astronomical Twilight ", 207.1, 1255.8, 243.9, 1219.0, 0xFF0000}};
+    } kinds[] = {{" Civil Twilight ", 278.0, 1184.9, 306.0, 1156.9},
+                 {" Nautical Twilight ", 243.9, 1219.0, 278.0, 1184.9},
+                 {" Astronomical Twilight ", 207.1, 1255.8, 243.9, 1219.0}};
     const auto minutes = [](double x) { return x / Units * 60.0; };
     ASSERT_EQ(s.Twilights.size(), 6u);
     for (const auto& k : kinds) {
@@ -69,98 +57,15 @@ TEST(DayGraph, SeriesOfASummerDayAgreeWithEphem)
         EXPECT_NEAR(minutes(bands[0].X1), k.BrighterDawn, 1.0) << k.Name;
         EXPECT_NEAR(minutes(bands[1].X0), k.BrighterDusk, 1.0) << k.Name;
         EXPECT_NEAR(minutes(bands[1].X1), k.Dusk, 1.0) << k.Name;
-        EXPECT_EQ(bands[0].Color, k.Colour);
-        EXPECT_EQ(bands[0].EdgeX, bands[0].X0); // the tip names the dawn ...
-        EXPECT_EQ(bands[1].EdgeX, bands[1].X1); // ... and the dusk
     }
     ASSERT_EQ(s.Daylight.size(), 1u);
     EXPECT_NEAR(minutes(s.Daylight[0].X0), 306.0, 1.0);
     EXPECT_NEAR(minutes(s.Daylight[0].X1), 1156.9, 1.0);
-    ASSERT_EQ(s.Bars.size(), 4u);
-    for (std::size_t i = 0; i < 4; ++i)
-        EXPECT_EQ(s.Bars[i].Color, i < 2 ? 0x0000FFu : 0x80FF80u);
-    EXPECT_EQ(s.MoonMarks.size(), 3u);
-    EXPECT_EQ(s.HourTicks.size(), 23u);
-
     EXPECT_EQ(DayPartTip(s, 1.0 * Units, true), " Night ");
-    EXPECT_EQ(DayPartTip(s, 23.9 * Units, true), " Night ");
-    const std::string civil = DayPartTip(s, 5.0 * Units, true);
-    EXPECT_EQ(civil.substr(0, 16), " Civil Twilight ");
-    EXPECT_NEAR(ClockMinutes(civil.substr(16)), 278.0, 1.0) << civil;
+    EXPECT_EQ(DayPartTip(s, 5.0 * Units, true), " Civil Twilight 04:38 AM "); // 278.0 minutes
     const std::string day = DayPartTip(s, 12.0 * Units, true);
     EXPECT_EQ(day.substr(0, 9), " Sunrise ");
     EXPECT_NE(day.find(", Sunset "), std::string::npos);
-    EXPECT_EQ(FormatClock(0, AdjBiasBack(3500.0), true), "12:00 PM");
-}
-
-// At 75 degrees north in June the Sun never sets: no twilight bands, daylight all day. At 65
-// degrees it sets but stays above -6 degrees: civil twilight fills the night, no darker band.
-TEST(DayGraph, PolarDayAndWhiteNight)
-{
-    Astronomy polar = At(-19.0, 75.0, -1);
-    const DayGraphSeries p = SeriesOf(polar, CivilToJd(2024, 6, 21));
-    EXPECT_TRUE(p.Twilights.empty());
-    ASSERT_EQ(p.Daylight.size(), 1u);
-    EXPECT_EQ(p.Daylight[0].X1 - p.Daylight[0].X0, TimeLineWidth);
-    EXPECT_EQ(DayPartTip(p, 100.0, true), " Daylight ");
-
-    Astronomy white = At(-25.0, 65.0, -2); // zone chosen so that midnight falls in the night
-    const DayGraphSeries w = SeriesOf(white, CivilToJd(2024, 6, 21));
-    ASSERT_EQ(w.Twilights.size(), 2u);
-    EXPECT_TRUE(BandsNamed(w, " Nautical Twilight ").empty());
-    EXPECT_EQ(w.Twilights[0].X0, 0.0);
-    EXPECT_EQ(w.Twilights[0].X1, w.Daylight[0].X0);
-    EXPECT_EQ(w.Twilights[1].X0, w.Daylight[0].X1);
-    EXPECT_EQ(w.Twilights[1].X1, TimeLineWidth);
-}
-
-// A day whose second minor would fall after midnight draws one green bar.
-TEST(DayGraph, DayWithoutSecondMinorHasOneGreenBar)
-{
-    Astronomy engine = At(92.42, 31.25, 6);
-    double jd = CivilToJd(2024, 1, 1);
-    for (; jd < CivilToJd(2024, 3, 1); jd += 1.0) {
-        engine.ComputeDay(jd);
-        if (engine.Forecast.Minor2Text == "*******")
-            break;
-    }
-    ASSERT_LT(jd, CivilToJd(2024, 3, 1)) << "no day without a second minor in two months";
-    const DayGraphSeries s = SeriesOf(engine, jd);
-    EXPECT_EQ(std::count_if(s.Bars.begin(), s.Bars.end(),
-                            [](const GraphMark& m) { return m.Color == 0x80FF80; }),
-              1);
-    EXPECT_EQ(s.Bars.size(), 3u);
-}
-
-// The perigee of 10 March 2024 and the apogee of 23 March named with their times: PyEphem
-// 4.1.4 (least and greatest Earth-Moon distance) puts them at 07:12 and 15:55 UT, 01:12 AM and
-// 09:55 AM at zone 6. The book's method is good to half an hour for perigees; the apogee, a
-// flat extreme, lies within a quarter of an hour of the reference's.
-TEST(DayGraph, PerigeeAndApogeeDaysNameTheirTimes)
-{
-    Astronomy engine = At(92.42, 31.25, 6);
-    Calendar cal;
-    cal.CurYear = 2024;
-    cal.CurMonth = 3;
-    cal.SetYearTables(engine, 0);
-    const struct {
-        int Day;
-        const char* Word;
-        int Minutes;
-        int Tolerance;
-    } cases[] = {{10, "Perigee ", 72, 31}, {23, "Apogee ", 9 * 60 + 55, 15}};
-    for (const auto& c : cases) {
-        const double jd = CivilToJd(2024, 3, c.Day);
-        const DayMarks& day = cal.YearDays[std::size_t(DayOfYearOf(2024, 3, c.Day))];
-        const DayGraphSeries s = SeriesOf(engine, jd, day);
-        ASSERT_FALSE(s.EventTexts.empty()) << c.Word;
-        const std::string& t = s.EventTexts[0];
-        EXPECT_EQ(t.substr(0, std::string(c.Word).size()), c.Word);
-        EXPECT_NEAR(ClockMinutes(t.substr(std::string(c.Word).size())), c.Minutes, c.Tolerance)
-            << t;
-        ASSERT_EQ(s.EventX.size(), s.EventTexts.size());
-        EXPECT_NEAR(s.EventX[0] / TimeLineWidth * 24 * 60, c.Minutes, c.Tolerance) << t;
-    }
 }
 
 // Where the Sun and the Moon stand at the pointer's moment, against PyEphem 4.1.4 (no
@@ -169,19 +74,19 @@ TEST(DayGraph, PerigeeAndApogeeDaysNameTheirTimes)
 // 07:30 AM at Alexandria in standard time, and 9 PM with daylight saving (02:00 UT next day).
 TEST(DayGraph, SkyAtThePointerAgreesWithEphem)
 {
+    const struct {
+        double Hour, DstDays, SunAz, SunEl, MoonAz, MoonEl;
+    } cases[] = {{7.5, 0.0, 78.233, 28.040, 263.327, -47.123},
+                 {21.0, -1.0 / 24.0, 304.300, -8.701, 135.876, 13.834}};
     Astronomy engine = At(92.42, 31.25, 6);
-    SkyReadout r = GetPicData(engine, CivilToJd(2024, 6, 20) + 7.5 / 24.0);
-    EXPECT_NEAR(r.SunAzimuth, 78.233, 0.5);
-    EXPECT_NEAR(r.SunElevation, 28.040, 0.5);
-    EXPECT_NEAR(r.MoonAzimuth, 263.327, 0.5);
-    EXPECT_NEAR(r.MoonElevation, -47.123, 0.5);
-
-    engine.Site.DstOffsetDays = -1.0 / 24.0;
-    r = GetPicData(engine, CivilToJd(2024, 6, 20) + 21.0 / 24.0);
-    EXPECT_NEAR(r.SunAzimuth, 304.300, 0.5);
-    EXPECT_NEAR(r.SunElevation, -8.701, 0.5);
-    EXPECT_NEAR(r.MoonAzimuth, 135.876, 0.5);
-    EXPECT_NEAR(r.MoonElevation, 13.834, 0.5);
+    for (const auto& c : cases) {
+        engine.Site.DstOffsetDays = c.DstDays;
+        const SkyReadout r = GetPicData(engine, CivilToJd(2024, 6, 20) + c.Hour / 24.0);
+        EXPECT_NEAR(r.SunAzimuth, c.SunAz, 0.5) << c.Hour;
+        EXPECT_NEAR(r.SunElevation, c.SunEl, 0.5) << c.Hour;
+        EXPECT_NEAR(r.MoonAzimuth, c.MoonAz, 0.5) << c.Hour;
+        EXPECT_NEAR(r.MoonElevation, c.MoonEl, 0.5) << c.Hour;
+    }
 }
 
 } // namespace

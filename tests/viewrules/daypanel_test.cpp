@@ -32,20 +32,6 @@ DayForecast Day()
     return f;
 }
 
-TEST(DayPanel, PeriodsNearTheSunAreYellow)
-{
-    const DayPanel p = DoLabels(Day(), 0.1, true);
-    EXPECT_EQ(p.Colors.at(0), Yellow); // exactly an hour after sunrise
-    EXPECT_EQ(p.Colors.at(2), Black);  // an hour and a minute after sunset
-    EXPECT_EQ(p.Colors.at(4), Black);
-    EXPECT_EQ(p.Colors.count(5), 0u); // no such minor: its colour is left as it was
-    EXPECT_EQ(p.Captions.at(5), "*******");
-    EXPECT_EQ(p.Captions.at(32), "Moon is Up");
-    EXPECT_EQ(p.Colors.at(32), Red);
-    EXPECT_EQ(p.Captions.at(7), "12:00");
-    EXPECT_EQ(DoLabels(Day(), -0.1, true).Captions.at(32), "Moon has Set");
-}
-
 // Labels 18-19 and 21-22: the Moon's first and second event of the day, named and timed;
 // an event on another day reads "*****".
 TEST(DayPanel, MoonRiseAndSetInTheOrderTheyHappen)
