@@ -51,12 +51,3 @@ TEST(JetSql, NamesAndTextsAreRequotedAndOneStatementIsAllowed)
                             "select * from t where a @ 1", ""})
         EXPECT_FALSE(Translate(bad).Ok()) << bad;
 }
-
-TEST(JetSql, ScriptsSplitIntoStatementsWithoutComments)
-{
-    const auto statements = SplitSqlScript("-- the log\nCREATE TABLE a (x TEXT); -- first\n"
-                                           "INSERT INTO a VALUES ('a;b');\n\n");
-    ASSERT_EQ(statements.size(), 2u);
-    EXPECT_EQ(statements[0], "\nCREATE TABLE a (x TEXT)");
-    EXPECT_EQ(statements[1], " \nINSERT INTO a VALUES ('a;b')");
-}
