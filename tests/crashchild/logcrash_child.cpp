@@ -3,8 +3,8 @@
 // edit-save code and dies by SIGKILL at the step it is told, as a power cut or a killed
 // process would stop the program.
 //
-//   logcrash_child create FOLDER YEAR KILL_DAY KILL_STEP
-//   logcrash_child compact PATH KILL_STEP
+//   logcrash_child create FOLDER YEAR KILL_DAY KILL_STEP   (prints "ready", then creates)
+//   logcrash_child compact PATH KILL_STEP                  (prints "ready", then compacts)
 //   logcrash_child edit PATH          (saves Notes "catch N" on day N, prints "saved N")
 //   logcrash_child save PATH TAG      (as edit, through the browser's locked save, with
 //                                      Notes "TAG N"; other programs change the file meanwhile)
@@ -33,6 +33,13 @@
 namespace {
 
 void Die() { std::raise(SIGKILL); }
+
+// Tells the test that the work starts: it times its kills from here.
+void Ready()
+{
+    std::printf("ready\n");
+    std::fflush(stdout);
+}
 
 // The real file steps, counted; the program dies before the chosen one.
 class DyingOps : public FileOps {
@@ -74,6 +81,7 @@ int Create(const QString& folder, int year, int killDay, int killStep)
     const Calendar cal = YearCalendar(run.Engine, year, run.SouthernHemisphere);
     DataControl data0;
     DyingOps ops(killStep);
+    Ready();
     const auto progress = [killDay](int day, int) {
         if (day == killDay)
             Die();
@@ -90,6 +98,7 @@ int Create(const QString& folder, int year, int killDay, int killStep)
 int Compact(const QString& path, int killStep)
 {
     DyingOps ops(killStep);
+    Ready();
     return CompactDB(path, {}, ops) ? 0 : 3;
 }
 
@@ -124,8 +133,7 @@ int AddOneCatch(const QString& path)
     c.Time = QStringLiteral("06:30:00");
     c.Species = QStringLiteral("Walleye");
     c.Count = 3;
-    std::printf("ready\n"); // the test times its kill from here
-    std::fflush(stdout);
+    Ready();
     return AddCatch(path, c, QDateTime::currentDateTime()) ? 0 : 3;
 }
 

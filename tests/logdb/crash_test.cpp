@@ -18,7 +18,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <csignal>
+#include <functional>
 #include <iostream>
 
 using namespace logtest;
@@ -28,25 +28,40 @@ namespace {
 struct ChildEnd {
     bool Killed = false; // died by SIGKILL, not by finishing
     int ExitCode = 0;
+    qint64 TookUs = 0; // from its "ready" to its end
 };
 
-// Runs the child to its end or kills it after the given time; the run's length in ms.
-ChildEnd RunChild(const QStringList& args, int killAfterMs = -1, qint64* took = nullptr)
+// Runs the child to its end, or kills it `killAfterUs` microseconds after it said "ready".
+ChildEnd RunChild(const QStringList& args, qint64 killAfterUs = -1)
 {
-    QElapsedTimer clock;
-    clock.start();
     QProcess child;
     child.start(QStringLiteral(LOGCRASH_CHILD), args);
     EXPECT_TRUE(child.waitForStarted());
-    if (killAfterMs < 0) {
-        EXPECT_TRUE(child.waitForFinished(120000));
-    } else if (!child.waitForFinished(killAfterMs)) {
+    EXPECT_TRUE(child.waitForReadyRead(30000));
+    QElapsedTimer clock;
+    clock.start();
+    if (killAfterUs >= 0) {
+        while (clock.nsecsElapsed() / 1000 < killAfterUs && child.state() == QProcess::Running) {
+        }
         child.kill();
-        child.waitForFinished();
     }
-    if (took)
-        *took = clock.elapsed();
-    return {child.exitStatus() == QProcess::CrashExit, child.exitCode()};
+    EXPECT_TRUE(child.waitForFinished(120000));
+    return {child.exitStatus() == QProcess::CrashExit, child.exitCode(),
+            clock.nsecsElapsed() / 1000};
+}
+
+// Runs the child once to its end, then `kills` times killed at moments nobody chose within
+// that run's length, checking what it left after each run.
+void KilledAtRandomMoments(int kills, const std::function<QStringList()>& args,
+                           const std::function<void(const ChildEnd&, const std::string&)>& check)
+{
+    qint64 whole = 0;
+    for (int i = 0; i <= kills; ++i) {
+        const qint64 us = i == 0 ? -1 : QRandomGenerator::global()->bounded(whole + 1);
+        const ChildEnd end = RunChild(args(), us);
+        whole = i == 0 ? end.TookUs : whole;
+        check(end, i == 0 ? "unkilled" : "killed after " + std::to_string(us) + " us");
+    }
 }
 
 // The year file, when there is one, is whole: sound, every day in it, and it opens in the
@@ -96,74 +111,68 @@ void ExpectEveryOriginalNote(const QString& path, const std::string& where)
 TEST(CrashSafety, CreateKilledAtAnyPointLeavesNoYearFileOrAWholeOne)
 {
     const QString folder = testenv::FreshDir("crash-create");
+    const QString path = QDir(folder).filePath("2024.mdb");
     ASSERT_TRUE(CreateTemplateFile(QDir(folder).filePath("Default.mdb")));
-    const auto afterKill = [&folder](const ChildEnd& end, const std::string& where) {
-        EXPECT_TRUE(end.Killed) << where << " ran to its end";
-        if (CheckYearFileWholeOrAbsent(folder, where))
-            DeleteYearFile(QDir(folder).filePath("2024.mdb"));
+    const auto afterRun = [&](const ChildEnd& end, const std::string& where) {
+        const bool whole = CheckYearFileWholeOrAbsent(folder, where);
+        EXPECT_TRUE(end.Killed || (whole && end.ExitCode == 0)) << where;
+        DeleteYearFile(path);
         CleanLeftovers(folder);
         EXPECT_EQ(QDir(folder).entryList(QDir::Files), QStringList({"Default.mdb"})) << where;
     };
-    // 21 days spread over the fill, from its first day to its last.
+    // 21 days spread over the fill, from its first day to its last; each file step: clearing
+    // leftovers, copying the template, syncing, renaming into place.
+    std::vector<QStringList> dying;
     for (int day = 1; day <= DaysInYear; day += 18)
-        afterKill(RunChild({"create", folder, "2024", QString::number(day), "0"}),
-                  "day " + std::to_string(day));
-    // Each file step: clearing leftovers, copying the template, syncing, renaming into place.
+        dying.push_back({"create", folder, "2024", QString::number(day), "0"});
     for (int step = 1; step <= 7; ++step)
-        afterKill(RunChild({"create", folder, "2024", "0", QString::number(step)}),
-                  "step " + std::to_string(step));
-    // And at moments nobody chose over a whole run, the engine's commit included.
-    qint64 whole = 0;
-    RunChild({"create", folder, "2024", "0", "0"}, -1, &whole);
-    DeleteYearFile(QDir(folder).filePath("2024.mdb"));
-    for (int i = 0; i < 10; ++i) {
-        const int ms = int(QRandomGenerator::global()->bounded(qint64(1), whole + 1));
-        RunChild({"create", folder, "2024", "0", "0"}, ms);
-        const std::string where = "after " + std::to_string(ms) + " ms";
-        CheckYearFileWholeOrAbsent(folder, where);
-        DeleteYearFile(QDir(folder).filePath("2024.mdb"));
-        CleanLeftovers(folder);
+        dying.push_back({"create", folder, "2024", "0", QString::number(step)});
+    for (const QStringList& args : dying) {
+        const ChildEnd end = RunChild(args);
+        EXPECT_TRUE(end.Killed) << args.join(' ').toStdString();
+        afterRun(end, args.join(' ').toStdString());
     }
-    // Unkilled, the same program makes the whole year, and a later Create is not blocked.
-    const ChildEnd done = RunChild({"create", folder, "2024", "0", "0"});
-    EXPECT_FALSE(done.Killed);
-    EXPECT_EQ(done.ExitCode, 0);
-    EXPECT_TRUE(CheckYearFileWholeOrAbsent(folder, "unkilled"));
+    KilledAtRandomMoments(
+        10,
+        [&] {
+            return QStringList{"create", folder, "2024", "0", "0"};
+        },
+        afterRun);
 }
 
 TEST(CrashSafety, CompactKilledAtAnyPointKeepsTheYearFileWithEveryEntry)
 {
     const QString made = MakeYearFile("crash-compact-source");
-    // Syncing the compacted copy, copying the file to .BAK, syncing that, renaming it over the
-    // old .BAK, renaming the compacted copy over the file.
-    for (int step = 1; step <= 5; ++step) {
-        const std::string where = "step " + std::to_string(step);
-        const QString folder = testenv::FreshDir("crash-compact");
-        const QString path = QDir(folder).filePath("2024.mdb");
-        ASSERT_TRUE(QFile::copy(made, path));
-        EXPECT_TRUE(RunChild({"compact", path, QString::number(step)}).Killed) << where;
+    const QString folder = testenv::FreshDir("crash-compact");
+    const QString path = QDir(folder).filePath("2024.mdb");
+    const auto fresh = [&] {
+        for (const QString& file : QDir(folder).entryList(QDir::Files))
+            QFile::remove(QDir(folder).filePath(file));
+        EXPECT_TRUE(QFile::copy(made, path));
+    };
+    const auto afterRun = [&](const ChildEnd&, const std::string& where) {
         ASSERT_TRUE(CheckYearFileWholeOrAbsent(folder, where));
         ExpectEveryOriginalNote(path, where);
         CleanLeftovers(folder);
         EXPECT_FALSE(QFile::exists(QDir(folder).filePath("New2024.mdb"))) << where;
         EXPECT_TRUE(CompactDB(path)) << where; // the next compaction is not blocked
         ExpectEveryOriginalNote(path, where);
+    };
+    // Syncing the compacted copy, copying the file to .BAK, syncing that, renaming it over the
+    // old .BAK, renaming the compacted copy over the file.
+    for (int step = 1; step <= 5; ++step) {
+        fresh();
+        const ChildEnd end = RunChild({"compact", path, QString::number(step)});
+        EXPECT_TRUE(end.Killed) << step;
+        afterRun(end, "step " + std::to_string(step));
     }
-    qint64 whole = 0;
-    for (int i = 0; i < 8; ++i) {
-        const QString folder = testenv::FreshDir("crash-compact");
-        const QString path = QDir(folder).filePath("2024.mdb");
-        ASSERT_TRUE(QFile::copy(made, path));
-        if (i == 0) { // the length of a whole run, to kill the others within it
-            RunChild({"compact", path, "0"}, -1, &whole);
-            continue;
-        }
-        const int ms = int(QRandomGenerator::global()->bounded(qint64(1), whole + 1));
-        RunChild({"compact", path, "0"}, int(ms));
-        const std::string where = "after " + std::to_string(ms) + " ms";
-        ASSERT_TRUE(CheckYearFileWholeOrAbsent(folder, where));
-        ExpectEveryOriginalNote(path, where);
-    }
+    KilledAtRandomMoments(
+        8,
+        [&] {
+            fresh();
+            return QStringList{"compact", path, "0"};
+        },
+        afterRun);
 }
 
 TEST(CrashSafety, SavingEntriesKilledMidwayKeepsEverySavedEntry)
@@ -224,58 +233,35 @@ TEST(CrashSafety, AYearLeftBehindAsCopiesIsOfferedBackNotDeleted)
     EXPECT_TRUE(RestorableYears(folder).empty());
 }
 
-namespace {
-
-// Starts the child's catch and kills it `killAfterUs` microseconds after it said "ready"
-// (never when negative); the microseconds from "ready" to its end.
-qint64 AddCatchKilledAfter(const QString& path, qint64 killAfterUs)
-{
-    QProcess child;
-    child.start(QStringLiteral(LOGCRASH_CHILD), {"catch", path});
-    EXPECT_TRUE(child.waitForStarted());
-    EXPECT_TRUE(child.waitForReadyRead(30000));
-    QElapsedTimer clock;
-    clock.start();
-    if (killAfterUs >= 0) {
-        while (clock.nsecsElapsed() / 1000 < killAfterUs) {
-        }
-        child.kill();
-    }
-    child.waitForFinished(30000);
-    return clock.nsecsElapsed() / 1000;
-}
-
-} // namespace
-
 TEST(CrashSafety, UpgradeKilledAtAnyMomentLeavesTheOldFileOrTheNewOneWithEveryEntry)
 {
     const QString made = MakeYearFile("crash-upgrade-source"); // without the catches' tables
-    qint64 whole = 0;
+    const QString folder = testenv::FreshDir("crash-upgrade");
+    const QString path = QDir(folder).filePath("2024.mdb");
     std::array<int, 2> seen{}; // files found old, upgraded
-    for (int i = 0; i < 20; ++i) {
-        const QString folder = testenv::FreshDir("crash-upgrade");
-        const QString path = QDir(folder).filePath("2024.mdb");
-        ASSERT_TRUE(QFile::copy(made, path));
-        const qint64 us = i == 0 ? -1 : QRandomGenerator::global()->bounded(whole + 1);
-        const qint64 took = AddCatchKilledAfter(path, us);
-        whole = i == 0 ? took : whole;
-        const std::string where = "killed after " + std::to_string(us) + " us";
-        ASSERT_TRUE(CheckYearFileWholeOrAbsent(folder, where));
-        ExpectEveryOriginalNote(path, where);
-        int version = -1;
-        ASSERT_TRUE(CatchSchemaOf(path, version)) << where;
-        ++seen[version == 0 ? 0 : 1];
-        const QVariant total =
-            PlainColumn(path, "SELECT TotalTaken FROM table1 WHERE JulianDate = '2024-07-04'")[0];
-        if (version == 0) {
-            EXPECT_TRUE(total.isNull()) << where;
-            continue;
-        }
-        EXPECT_EQ(version, CatchSchemaVersion) << where;
-        EXPECT_EQ(PlainColumn(path, "SELECT SUM(FishCount) FROM Catches")[0], 3) << where;
-        EXPECT_EQ(total.toInt(), 3) << where;
-    }
-    std::cout << "upgrade runs " << whole << " us; files found old " << seen[0] << ", upgraded "
-              << seen[1] << "\n";
+    KilledAtRandomMoments(
+        19,
+        [&] {
+            for (const QString& file : QDir(folder).entryList(QDir::Files))
+                QFile::remove(QDir(folder).filePath(file));
+            EXPECT_TRUE(QFile::copy(made, path));
+            return QStringList{"catch", path};
+        },
+        [&](const ChildEnd&, const std::string& where) {
+            ASSERT_TRUE(CheckYearFileWholeOrAbsent(folder, where));
+            ExpectEveryOriginalNote(path, where);
+            int version = -1;
+            ASSERT_TRUE(CatchSchemaOf(path, version)) << where;
+            ++seen[version == 0 ? 0 : 1];
+            const QVariant total = PlainColumn(
+                path, "SELECT TotalTaken FROM table1 WHERE JulianDate = '2024-07-04'")[0];
+            EXPECT_EQ(total.isNull(), version == 0) << where;
+            if (version != 0) {
+                EXPECT_EQ(version, CatchSchemaVersion) << where;
+                EXPECT_EQ(PlainColumn(path, "SELECT SUM(FishCount) FROM Catches")[0], 3) << where;
+                EXPECT_EQ(total.toInt(), 3) << where;
+            }
+        });
+    std::cout << "files found old " << seen[0] << ", upgraded " << seen[1] << "\n";
     EXPECT_GE(seen[1], 1); // the unkilled first run at least
 }
