@@ -56,24 +56,7 @@ void ExpectGroups(const CatchGrouping& grouping, const std::vector<Expected>& ex
 } // namespace
 
 // A filled total (nought too), peak time or note makes a day fished; the peak time's distance
-// is to the nearest period, over midnight too, to the minute.
-TEST(CatchStatistics, WhichDaysAreFishedAndThePeakTimesDistanceFromTheNearestPeriod)
-{
-    const std::vector<CatchDay> days = HandBuiltYear();
-    const std::vector<std::pair<bool, double>> expected = {// fished; minutes (-1: none)
-                                                           {true, 30}, {true, 15},  {true, 75},
-                                                           {true, -1}, {true, 60},  {true, 360},
-                                                           {true, -1}, {false, -1}, {true, -1}};
-    for (size_t i = 0; i < days.size(); ++i) {
-        EXPECT_EQ(IsFished(days[i]), expected[i].first) << "day " << i;
-        EXPECT_DOUBLE_EQ(PeakDistanceMinutes(days[i]).value_or(-1), expected[i].second) << i;
-    }
-    EXPECT_FALSE(IsFished(Day(3, 1, 4, 1, {})));
-    EXPECT_TRUE(IsFished(Day(3, 1, 4, 1, 0)));
-    EXPECT_FALSE(PeakDistanceMinutes(Day(3, 1, 0, 1, 1, "noonish", {12.0})));
-    EXPECT_DOUBLE_EQ(*PeakDistanceMinutes(Day(3, 1, 0, 1, 1, "1:00 PM", {12.0 + 59.0 / 60})), 1.0);
-}
-
+// is to the nearest period, over midnight too.
 TEST(CatchStatistics, GroupsAHandBuiltYearByRatingPhaseAgeWeekdayAndPeakDistance)
 {
     const CatchStatistics stats = ComputeCatchStatistics(HandBuiltYear());

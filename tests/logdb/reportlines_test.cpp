@@ -54,13 +54,6 @@ TEST(ReportLines, PiecesAndBlanksOfOneRecord)
                   "\r\n");
 }
 
-TEST(ReportLines, TitleHeadingAndDashes)
-{
-    EXPECT_EQ(ReportTitleLine(2), "Quillmere DataBase Report - Page # 2");
-    EXPECT_EQ(ReportDashLine(), std::string(76, '-'));
-    EXPECT_EQ(ReportHeading.size(), 79u); // as wide as a report line
-}
-
 TEST(ReportPaging, FiftyEightLinesAPageAfterTheThreeTitleLines)
 {
     // No text: one page with its title lines only.
