@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The per-catch records of a year file, checked past the program's own layer with plain SQL:
 // several species on one day, a night trip across midnight, released and kept fish, photos,
-// the day's total following its catches, the upgrade of a file made before catches were kept,
-// and the unit conversions against their defined factors.
+// the day's total following its catches, and the unit conversions against their defined
+// factors. The upgrade of an older file is checked by the crash tests, the password by
+// logfiles_test.cpp.
 #include "logdb/backups.h"
 #include "logdb/catches.h"
 #include "logdb/catchphotos.h"
@@ -117,36 +118,6 @@ TEST(Catches, WhatCannotBeKeptIsRefusedAndNothingIsWritten)
     EXPECT_EQ(testenv::FileBytes(path), before);
 }
 
-TEST(Catches, AnOlderYearFileOpensUnchangedAndGainsTheTablesWithItsFirstCatch)
-{
-    const QString path = MakeYearFile("catches-upgrade");
-    const auto rowsBefore = PlainRows(path, "SELECT * FROM table1 ORDER BY DBID");
-    const QByteArray old = testenv::FileBytes(path);
-    int version = -1;
-    ASSERT_TRUE(CatchSchemaOf(path, version));
-    EXPECT_EQ(version, 0);
-    std::vector<Catch> none;
-    ASSERT_TRUE(ReadDayCatches(path, "2024-07-04", none));
-    EXPECT_TRUE(none.empty());
-    EXPECT_EQ(testenv::FileBytes(path), old);
-
-    Catch bass = MakeCatch("2024-07-04", "19:30:00", "Bass", 2, false);
-    ASSERT_TRUE(AddCatch(path, bass, Now));
-    ASSERT_TRUE(CatchSchemaOf(path, version));
-    EXPECT_EQ(version, CatchSchemaVersion);
-    EXPECT_EQ(PlainColumn(path, "PRAGMA user_version")[0], CatchSchemaVersion);
-    const QStringList backups = ListBackups(path);
-    ASSERT_EQ(backups.size(), 1);
-    EXPECT_EQ(testenv::FileBytes(backups[0]), old);
-    // Every record as it was, but the day's total, which now follows its catch.
-    auto rowsAfter = PlainRows(path, "SELECT * FROM table1 ORDER BY DBID");
-    const int total = 21; // TotalTaken's column
-    const int july4 = 185;
-    EXPECT_EQ(rowsAfter[july4][total].toInt(), 2);
-    rowsAfter[july4][total] = rowsBefore[july4][total];
-    EXPECT_EQ(rowsAfter, rowsBefore);
-}
-
 // A picture's copy keeps its name, another picture of that name gets its own, the same one is
 // not copied twice; removing a catch removes the photos no other catch shows.
 TEST(CatchPhotos, CopiesKeepTheirNamesGoWithTheirLastCatchAndAMissingOneIsReported)
@@ -188,33 +159,6 @@ TEST(CatchPhotos, CopiesKeepTheirNamesGoWithTheirLastCatchAndAMissingOneIsReport
         EXPECT_TRUE(missing.Missing) << gone.toStdString();
         EXPECT_EQ(missing.Message, "The photo " + gone + " is missing.");
     }
-}
-
-TEST(Catches, AProtectedYearFileNeedsItsPasswordForEveryCatchOperation)
-{
-    const QString path = MakeYearFile("catches-password");
-    {
-        Database db;
-        ASSERT_TRUE(db.Open(path));
-        ASSERT_TRUE(db.SetPassword("Mayfly"));
-    }
-    const QString connect = ";pwd=Mayfly";
-    Catch c = MakeCatch("2024-06-01", "09:30:00", "Trout", 2, true);
-    EXPECT_FALSE(AddCatch(path, c, Now, ";pwd=mayfly"));
-    ASSERT_TRUE(AddCatch(path, c, Now, connect));
-    c.Count = 3;
-    EXPECT_FALSE(UpdateCatch(path, c, Now));
-    ASSERT_TRUE(UpdateCatch(path, c, Now, connect));
-    std::vector<Catch> read;
-    EXPECT_FALSE(ReadDayCatches(path, c.Date, read));
-    ASSERT_TRUE(ReadDayCatches(path, c.Date, read, connect));
-    EXPECT_EQ(read, std::vector<Catch>{c});
-    std::map<QString, DayCatchSummary> days;
-    EXPECT_FALSE(ReadCatchSummaries(path, {c.Date}, days));
-    ASSERT_TRUE(ReadCatchSummaries(path, {c.Date}, days, connect));
-    EXPECT_EQ(days[c.Date].Released, 3);
-    EXPECT_FALSE(RemoveCatch(path, c.Id, Now));
-    ASSERT_TRUE(RemoveCatch(path, c.Id, Now, connect));
 }
 
 // The inch and the pound as defined (25.4 mm, 453.59237 g); typed values in either system.

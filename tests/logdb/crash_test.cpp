@@ -3,6 +3,7 @@
 // code and is killed with SIGKILL at many points; the folder must then hold no year file or a
 // whole one with every saved entry, and the program must open it.
 #include "db/datacontrol.h"
+#include "logdb/backups.h"
 #include "logdb/catches.h"
 #include "logdb/logfiles.h"
 #include "support/filledyear.h"
@@ -260,6 +261,8 @@ TEST(CrashSafety, UpgradeKilledAtAnyMomentLeavesTheOldFileOrTheNewOneWithEveryEn
                 EXPECT_EQ(version, CatchSchemaVersion) << where;
                 EXPECT_EQ(PlainColumn(path, "SELECT SUM(FishCount) FROM Catches")[0], 3) << where;
                 EXPECT_EQ(total.toInt(), 3) << where;
+                // The file as it was before the upgrade is kept as a backup.
+                EXPECT_EQ(testenv::FileBytes(ListBackups(path).value(0)), testenv::FileBytes(made));
             }
         });
     std::cout << "files found old " << seen[0] << ", upgraded " << seen[1] << "\n";

@@ -2,6 +2,7 @@
 // The year files on disk: listing, creating, compacting, protecting them, and the order of
 // the file steps that makes each replacement survive a power cut.
 #include "db/datacontrol.h"
+#include "logdb/catches.h"
 #include "logdb/logfiles.h"
 #include "support/logfixture.h"
 #include "support/testenv.h"
@@ -167,10 +168,8 @@ TEST(Compaction, KeepsALinkALinkAndTheFilesPermissions)
         bool Linked;
         QFileDevice::Permissions Mode;
     } cases[] = {
-        {true, P::ReadOwner | P::WriteOwner | P::ReadGroup | P::ReadOther},
-        {false, P::ReadOwner | P::ReadGroup | P::ReadOther},
-        {false, P::ReadOwner | P::WriteOwner},
         {true, P::ReadOwner | P::ReadGroup},
+        {false, P::ReadOwner | P::WriteOwner},
     };
     const std::vector<std::pair<const char*, std::function<bool(const QString&)>>> operations = {
         {"2024.BAK", [](const QString& path) { return bool(CompactDB(path)); }},
@@ -233,31 +232,47 @@ TEST(Compaction, AFailureOrAFileThatIsNotAWholeLogLeavesTheFilesAsTheyAre)
     }
 }
 
-TEST(Password, AProtectedFileOpensOnlyWithItsPasswordAndStaysProtectedWhenCompacted)
+// A protected year file opens only with its password, stays protected when compacted, and
+// every catch operation needs it.
+TEST(Password, AProtectedFileNeedsItsPasswordForEveryOperation)
 {
     const QString path = MakeYearFile("password", 10);
+    const QString connect = ";pwd=Trout7";
     Database db;
     ASSERT_TRUE(db.Open(path));
     ASSERT_TRUE(db.SetPassword("Trout7"));
     db.Close();
-    const DbResult refused = db.Open(path);
-    EXPECT_EQ(refused.Message, "Not a valid password.");
-    EXPECT_FALSE(db.IsOpen());
+    EXPECT_EQ(db.Open(path).Message, "Not a valid password.");
     EXPECT_FALSE(db.Open(path, ";pwd=trout7"));
-
     DataControl data;
     data.SetDatabaseName(path);
     data.SetRecordSource("select * from table1");
     EXPECT_FALSE(data.Refresh());
-    data.SetConnect(";pwd=Trout7");
+    data.SetConnect(connect);
     ASSERT_TRUE(data.Refresh());
     EXPECT_EQ(data.RecordCount(), 10);
     data.Close();
-
     EXPECT_FALSE(CompactDB(path));
-    ASSERT_TRUE(CompactDB(path, ";pwd=Trout7"));
+    ASSERT_TRUE(CompactDB(path, connect));
     EXPECT_FALSE(db.Open(path));
-    ASSERT_TRUE(db.Open(path, ";pwd=Trout7"));
+
+    const QDateTime now = QDateTime::currentDateTime();
+    Catch c{.Date = "2024-01-05", .Time = "09:30:00", .Species = "Trout", .Count = 2};
+    EXPECT_FALSE(AddCatch(path, c, now));
+    ASSERT_TRUE(AddCatch(path, c, now, connect));
+    c.Count = 3;
+    EXPECT_FALSE(UpdateCatch(path, c, now));
+    ASSERT_TRUE(UpdateCatch(path, c, now, connect));
+    std::vector<Catch> read;
+    EXPECT_FALSE(ReadDayCatches(path, c.Date, read));
+    ASSERT_TRUE(ReadDayCatches(path, c.Date, read, connect));
+    EXPECT_EQ(read, std::vector<Catch>{c});
+    std::map<QString, DayCatchSummary> days;
+    EXPECT_FALSE(ReadCatchSummaries(path, {c.Date}, days));
+    ASSERT_TRUE(ReadCatchSummaries(path, {c.Date}, days, connect));
+    EXPECT_FALSE(RemoveCatch(path, c.Id, now));
+    ASSERT_TRUE(RemoveCatch(path, c.Id, now, connect));
+    ASSERT_TRUE(db.Open(path, connect));
     ASSERT_TRUE(db.SetPassword({}));
     EXPECT_TRUE(db.Open(path));
 }
