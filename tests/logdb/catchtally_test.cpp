@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The per-catch breakdown of a year filled with the engine's forecasts, each grouping compared
-// with a small plain-SQL count over the same file (periods by the day's stored Major, Minor,
-// SunRise and SunSet), past the program's own reading and arithmetic.
+// with a plain-SQL count over the same file (the periods' query in data/catch_periods.sql),
+// past the program's own reading and arithmetic.
 #include "logdb/catchdays.h"
 #include "logdb/catches.h"
 #include "logdb/catchtally.h"
 #include "support/filledyear.h"
+#include "support/testenv.h"
 
 #include <QDate>
 #include <QTime>
@@ -76,18 +77,6 @@ std::string Lower(std::string s)
 
 const QString Sums = "COUNT(*), SUM(FishCount), SUM(CASE WHEN Released THEN FishCount END)";
 
-// Hours between a clock time and a centre over midnight, in SQL.
-QString Distance(const QString& centre)
-{
-    return QString("min(abs(t - %1), 24 - abs(t - %1))").arg(centre);
-}
-
-QString Hours(const QString& column)
-{
-    return QString("(strftime('%s', '2000-01-01 ' || %1) - strftime('%s', '2000-01-01')) / 3600.0")
-        .arg(column);
-}
-
 } // namespace
 
 TEST(CatchBreakdown, EveryGroupingAgreesWithPlainSqlOverTheFile)
@@ -118,21 +107,8 @@ TEST(CatchBreakdown, EveryGroupingAgreesWithPlainSqlOverTheFile)
               SqlCounts(path, "SELECT CAST(WaterTemp / 5 AS INT) * 5, " + Sums +
                                   " FROM Catches GROUP BY 1"));
 
-    const QString periods = "WITH h AS (SELECT FishCount, Released, " + Hours("CatchTime") +
-                            " AS t, " + Hours("Major1") + " AS ma1, " + Hours("Major2") +
-                            " AS ma2, nullif(Minor1, -1) AS mi1, nullif(Minor2, -1) AS mi2, " +
-                            Hours("SunRise") + " AS sr, " + Hours("SunSet") +
-                            " AS ss FROM Catches JOIN table1 USING (JulianDate)) "
-                            "SELECT CASE WHEN t IS NULL THEN 4 "
-                            "WHEN " +
-                            Distance("ma1") + " <= 1 OR " + Distance("ma2") +
-                            " <= 1 THEN 0 "
-                            "WHEN " +
-                            Distance("mi1") + " <= 0.58 OR " + Distance("mi2") +
-                            " <= 0.58 THEN 1 "
-                            "WHEN " +
-                            Distance("sr") + " <= 1 OR " + Distance("ss") +
-                            " <= 1 THEN 2 ELSE 3 END, " + Sums + " FROM h GROUP BY 1";
+    const QString periods =
+        QString::fromUtf8(testenv::FileBytes(QUILLMERE_TESTDATA "/catch_periods.sql"));
     Counts program;
     for (int p = 0; p < CatchPeriodCount; ++p)
         if (b.ByPeriod[p].Catches > 0)
