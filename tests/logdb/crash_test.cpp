@@ -51,18 +51,35 @@ ChildEnd RunChild(const QStringList& args, qint64 killAfterUs = -1)
             clock.nsecsElapsed() / 1000};
 }
 
-// Runs the child once to its end, then `kills` times killed at moments nobody chose within
-// that run's length, checking what it left after each run.
-void KilledAtRandomMoments(int kills, const std::function<QStringList()>& args,
-                           const std::function<void(const ChildEnd&, const std::string&)>& check)
+// Runs the child dying by itself at each of its kill points (`args(kill)` gives its arguments),
+// then once to its end without one, then `randomKills` times killed at moments nobody chose
+// within that run's length; `check` looks at what each run left.
+void KilledAtEveryPoint(const std::vector<QStringList>& kills, const QStringList& noKill,
+                        int randomKills, const std::function<QStringList(const QStringList&)>& args,
+                        const std::function<void(const ChildEnd&, const std::string&)>& check)
 {
+    for (const QStringList& kill : kills) {
+        const ChildEnd end = RunChild(args(kill));
+        EXPECT_TRUE(end.Killed) << kill.join(' ').toStdString();
+        check(end, "at " + kill.join(' ').toStdString());
+    }
     qint64 whole = 0;
-    for (int i = 0; i <= kills; ++i) {
+    for (int i = 0; i <= randomKills; ++i) {
         const qint64 us = i == 0 ? -1 : QRandomGenerator::global()->bounded(whole + 1);
-        const ChildEnd end = RunChild(args(), us);
+        const ChildEnd end = RunChild(args(noKill), us);
         whole = i == 0 ? end.TookUs : whole;
         check(end, i == 0 ? "unkilled" : "killed after " + std::to_string(us) + " us");
     }
+}
+
+// Empties the folder but for a copy of `made` as its year file.
+QString FreshCopy(const QString& made, const QString& folder)
+{
+    for (const QString& file : QDir(folder).entryList(QDir::Files))
+        QFile::remove(QDir(folder).filePath(file));
+    const QString path = QDir(folder).filePath("2024.mdb");
+    EXPECT_TRUE(QFile::copy(made, path));
+    return path;
 }
 
 // The year file, when there is one, is whole: sound, every day in it, and it opens in the
@@ -117,20 +134,15 @@ TEST(CrashSafety, CreateKilledAtAnyPointLeavesNoYearFileOrAWholeOne)
     };
     // 21 days spread over the fill, from its first day to its last; each file step: clearing
     // leftovers, copying the template, syncing, renaming into place.
-    std::vector<QStringList> dying;
+    std::vector<QStringList> kills;
     for (int day = 1; day <= DaysInYear; day += 18)
-        dying.push_back({"create", folder, "2024", QString::number(day), "0"});
+        kills.push_back({QString::number(day), "0"});
     for (int step = 1; step <= 7; ++step)
-        dying.push_back({"create", folder, "2024", "0", QString::number(step)});
-    for (const QStringList& args : dying) {
-        const ChildEnd end = RunChild(args);
-        EXPECT_TRUE(end.Killed) << args.join(' ').toStdString();
-        afterRun(end, args.join(' ').toStdString());
-    }
-    KilledAtRandomMoments(
-        10,
-        [&] {
-            return QStringList{"create", folder, "2024", "0", "0"};
+        kills.push_back({"0", QString::number(step)});
+    KilledAtEveryPoint(
+        kills, {"0", "0"}, 10,
+        [&](const QStringList& kill) {
+            return QStringList{"create", folder, "2024"} + kill;
         },
         afterRun);
 }
@@ -140,34 +152,21 @@ TEST(CrashSafety, CompactKilledAtAnyPointKeepsTheYearFileWithEveryEntry)
     const QString made = MakeYearFile("crash-compact-source");
     const QString folder = testenv::FreshDir("crash-compact");
     const QString path = QDir(folder).filePath("2024.mdb");
-    const auto fresh = [&] {
-        for (const QString& file : QDir(folder).entryList(QDir::Files))
-            QFile::remove(QDir(folder).filePath(file));
-        EXPECT_TRUE(QFile::copy(made, path));
-    };
-    const auto afterRun = [&](const ChildEnd&, const std::string& where) {
-        ASSERT_TRUE(CheckYearFileWholeOrAbsent(folder, where));
-        ExpectEveryOriginalNote(path, where);
-        CleanLeftovers(folder);
-        EXPECT_FALSE(QFile::exists(QDir(folder).filePath("New2024.mdb"))) << where;
-        EXPECT_TRUE(CompactDB(path)) << where; // the next compaction is not blocked
-        ExpectEveryOriginalNote(path, where);
-    };
     // Syncing the compacted copy, copying the file to .BAK, syncing that, renaming it over the
     // old .BAK, renaming the compacted copy over the file.
-    for (int step = 1; step <= 5; ++step) {
-        fresh();
-        const ChildEnd end = RunChild({"compact", path, QString::number(step)});
-        EXPECT_TRUE(end.Killed) << step;
-        afterRun(end, "step " + std::to_string(step));
-    }
-    KilledAtRandomMoments(
-        8,
-        [&] {
-            fresh();
-            return QStringList{"compact", path, "0"};
+    KilledAtEveryPoint(
+        {{"1"}, {"2"}, {"3"}, {"4"}, {"5"}}, {"0"}, 8,
+        [&](const QStringList& kill) {
+            return QStringList{"compact", FreshCopy(made, folder)} + kill;
         },
-        afterRun);
+        [&](const ChildEnd&, const std::string& where) {
+            ASSERT_TRUE(CheckYearFileWholeOrAbsent(folder, where));
+            ExpectEveryOriginalNote(path, where);
+            CleanLeftovers(folder);
+            EXPECT_FALSE(QFile::exists(QDir(folder).filePath("New2024.mdb"))) << where;
+            EXPECT_TRUE(CompactDB(path)) << where; // the next compaction is not blocked
+            ExpectEveryOriginalNote(path, where);
+        });
 }
 
 TEST(CrashSafety, SavingEntriesKilledMidwayKeepsEverySavedEntry)
@@ -206,13 +205,10 @@ TEST(CrashSafety, UpgradeKilledAtAnyMomentLeavesTheOldFileOrTheNewOneWithEveryEn
     const QString folder = testenv::FreshDir("crash-upgrade");
     const QString path = QDir(folder).filePath("2024.mdb");
     std::array<int, 2> seen{}; // files found old, upgraded
-    KilledAtRandomMoments(
-        19,
-        [&] {
-            for (const QString& file : QDir(folder).entryList(QDir::Files))
-                QFile::remove(QDir(folder).filePath(file));
-            EXPECT_TRUE(QFile::copy(made, path));
-            return QStringList{"catch", path};
+    KilledAtEveryPoint(
+        {}, {}, 19,
+        [&](const QStringList&) {
+            return QStringList{"catch", FreshCopy(made, folder)};
         },
         [&](const ChildEnd&, const std::string& where) {
             ASSERT_TRUE(CheckYearFileWholeOrAbsent(folder, where));
