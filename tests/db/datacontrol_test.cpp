@@ -6,6 +6,7 @@
 #include "db/datacontrol.h"
 #include "support/filledyear.h"
 #include "support/logfixture.h"
+#include "support/testenv.h"
 
 #include <QFileInfo>
 
@@ -32,7 +33,7 @@ protected:
 
 } // namespace
 
-TEST_F(DataControlTest, MovesThroughTheRecordsWithExactCountAndPosition)
+TEST_F(DataControlTest, MovesThroughTheRecordsAndRefusesWhatItCannotRead)
 {
     DataControl data;
     int repositions = 0;
@@ -59,32 +60,28 @@ TEST_F(DataControlTest, MovesThroughTheRecordsWithExactCountAndPosition)
     ASSERT_TRUE(data.Refresh());
     EXPECT_TRUE(data.IsBOF() && data.IsEOF());
     EXPECT_FALSE(data.MoveLast());
+
+    // Read-only sources, bad statements and a missing file are refused.
+    Open(data, "select JulianDate, Notes from table1");
+    EXPECT_FALSE(data.Edit() || data.AddNew() || data.Delete());
+    for (const char* source : {"DROP TABLE table1", "select * from nosuch"}) {
+        data.SetRecordSource(source);
+        EXPECT_FALSE(data.Refresh()) << source;
+    }
+    EXPECT_EQ(CountRows(path_, "table1"), DaysInYear);
+    data.SetDatabaseName(path_ + ".gone");
+    EXPECT_TRUE(data.Refresh().Message.contains("Could not find file"));
+    EXPECT_FALSE(QFileInfo::exists(path_ + ".gone"));
 }
 
-// Each condition, with BETWEEN and the comparisons met at their lower or their upper end,
-// finds the first record plain SQLite finds for the same question.
+// Each condition of data/find_first.txt finds the first record plain SQLite finds.
 TEST_F(DataControlTest, FindFirstFindsWhatPlainSqlFindsAtBothEndsOfARange)
 {
     DataControl data;
     Open(data);
-    const std::vector<std::pair<QString, QString>> cases = {
-        {"dbid = 12", "DBID = 12"},
-        {"dbid between 12 and 20", "DBID BETWEEN 12 AND 20"},
-        {"dbid between 1 and 12 and dbid >= 12", "DBID = 12"},
-        {"month between 2 and 3 and dbid > 59", "DBID = 60"}, // the upper month
-        {"month between 3 and 4 and dayofweek_ = 1", "Month BETWEEN 3 AND 4 AND DayOfWeek_ = 1"},
-        {"JulianDate between #06/01/2024# and #07/04/2024# and dbid >= 186",
-         "JulianDate = '2024-07-04'"},
-        {"JulianDate >= #07/04/2024# and (graphictype = 4 or waxing = 1)",
-         "JulianDate >= '2024-07-04' AND (GraphicType = 4 OR Waxing = 1)"},
-        {"major1 between #1:00 AM# and #1:46 AM#", "Major1 BETWEEN '01:00:00' AND '01:46:00'"},
-        {"major1 between #1:46 AM# and #2:00 AM#", "Major1 BETWEEN '01:46:00' AND '02:00:00'"},
-        {"notes between 'row-010' and 'ROW-012' and dbid > 11", "DBID = 12"},
-        {"dbid > ? and dbid < 14", "DBID = 13"},
-        {"dbid = 9999", "0"},
-    };
     int current = 1;
-    for (const auto& [condition, plain] : cases) {
+    for (const QStringList& row : testenv::DataRows(QUILLMERE_TESTDATA "/find_first.txt")) {
+        const QString &condition = row[0], &plain = row[1];
         const QVariantList values = condition.contains('?') ? QVariantList{12} : QVariantList{};
         ASSERT_TRUE(data.FindFirst(condition, values)) << condition.toStdString();
         const std::vector<int> first =
@@ -152,20 +149,4 @@ TEST_F(DataControlTest, EditAddAndDeleteReachTheFileWhollyOrNotAtAll)
     EXPECT_EQ(PlainColumn(path_, "select Notes from table1 where dbid in (2, 3, 4) order by dbid"),
               (std::vector<QVariant>{"two", "three", "row-004"}));
     EXPECT_EQ(data.RecordCount(), DaysInYear);
-}
-
-TEST_F(DataControlTest, ReadOnlySourcesBadStatementsAndAMissingFileAreRefused)
-{
-    DataControl data;
-    Open(data, "select JulianDate, Notes from table1");
-    EXPECT_FALSE(data.Edit() || data.AddNew() || data.Delete());
-    for (const char* source : {"DROP TABLE table1", "select * from nosuch"}) {
-        data.SetRecordSource(source);
-        EXPECT_FALSE(data.Refresh()) << source;
-    }
-    EXPECT_EQ(CountRows(path_, "table1"), DaysInYear);
-    data.SetDatabaseName(path_ + ".gone");
-    data.SetRecordSource("select * from table1");
-    EXPECT_TRUE(data.Refresh().Message.contains("Could not find file"));
-    EXPECT_FALSE(QFileInfo::exists(path_ + ".gone"));
 }
