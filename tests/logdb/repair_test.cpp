@@ -25,25 +25,17 @@ constexpr int LongNoteDay = 150;
 constexpr int MarkedDay = 250;
 constexpr std::size_t NotesColumn = 24; // the last of table1's columns
 
-const QString LongNote = [] {
-    QString note;
-    for (int i = 0; i < 900; ++i)
-        note += QString("cast %1 ").arg(i, 4, 10, QChar('0'));
-    return note; // about 9900 characters: three overflow pages
-}();
-
-QString MakeYearWithEntries(const QString& name)
+// A year with the angler's entries on four days, one of them a note of 9000 characters
+// (three overflow pages), and a value to be damaged.
+QString MakeYearWithEntries()
 {
-    const QString path = MakeYearFile(name);
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    for (const int day : {3, LongNoteDay, 200, 301})
-        EXPECT_TRUE(db.UpdateRecord(
-            {"table1"}, "DBID", day,
-            {{"TotalTaken", day % 7 + 1},
-             {"TakenWith", QString("spoon %1").arg(day)},
-             {"Notes", day == LongNoteDay ? LongNote : QString("entry %1").arg(day)}}));
-    EXPECT_TRUE(db.UpdateRecord({"table1"}, "DBID", MarkedDay, {{"DaylightHours", 12.345}}));
+    const QString path = MakeYearFile("repair");
+    PlainExec(path, "UPDATE table1 SET TotalTaken = DBID % 7 + 1, TakenWith = 'spoon ' || DBID, "
+                    "Notes = 'entry ' || DBID WHERE DBID IN (3, 150, 200, 301)");
+    PlainExec(path, "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 899) "
+                    "UPDATE table1 SET Notes = (SELECT group_concat(printf('cast %04d ', i), '') "
+                    "FROM n) WHERE DBID = 150");
+    PlainExec(path, "UPDATE table1 SET DaylightHours = 12.345 WHERE DBID = 250");
     return path;
 }
 
@@ -150,8 +142,10 @@ TEST(Repair, EveryRecordOfAnIntactPageComesBackByteExact)
     const QString remark = " [repair: the rest of this note could not be read]";
     for (const Damage& damage : Damages) {
         const std::string where = damage.Name;
-        const QString path = MakeYearWithEntries("repair");
+        const QString path = MakeYearWithEntries();
         const auto original = PlainRows(path, "select * from table1 order by DBID");
+        const QString longNote = original[LongNoteDay - 1][NotesColumn].toString();
+        ASSERT_EQ(longNote.size(), 9000);
         const QByteArray intact = testenv::FileBytes(path);
         const int page = PageSize(intact);
         QByteArray bytes = intact;
@@ -201,13 +195,13 @@ TEST(Repair, EveryRecordOfAnIntactPageComesBackByteExact)
         }
         const QString note = repaired.at(LongNoteDay)[NotesColumn].toString();
         if (damage.Note == 'w') {
-            EXPECT_EQ(note, LongNote) << where;
+            EXPECT_EQ(note, longNote) << where;
         } else if (damage.Note == 'c') {
             ASSERT_TRUE(note.endsWith(remark)) << note.right(80).toStdString();
             const QString kept = note.chopped(remark.size());
-            EXPECT_TRUE(LongNote.startsWith(kept)) << kept.right(40).toStdString();
+            EXPECT_TRUE(longNote.startsWith(kept)) << kept.right(40).toStdString();
             EXPECT_GE(kept.size(), 400); // at least what the record's own page holds
-            EXPECT_LT(kept.size(), LongNote.size());
+            EXPECT_LT(kept.size(), longNote.size());
         }
     }
 }
