@@ -43,22 +43,15 @@ void Ready()
 
 // The real file steps, counted; the program dies before the chosen one.
 class DyingOps : public FileOps {
+    using Path = const QString&;
+
 public:
     explicit DyingOps(int killStep) : killStep_(killStep) {}
-    bool Remove(const QString& path) override { return Step() && FileOps::Remove(path); }
-    bool Rename(const QString& from, const QString& to) override
-    {
-        return Step() && FileOps::Rename(from, to);
-    }
-    bool Replace(const QString& from, const QString& to) override
-    {
-        return Step() && FileOps::Replace(from, to);
-    }
-    bool Copy(const QString& from, const QString& to) override
-    {
-        return Step() && FileOps::Copy(from, to);
-    }
-    bool Sync(const QString& path) override { return Step() && FileOps::Sync(path); }
+    bool Remove(Path path) override { return Step() && FileOps::Remove(path); }
+    bool Rename(Path from, Path to) override { return Step() && FileOps::Rename(from, to); }
+    bool Replace(Path from, Path to) override { return Step() && FileOps::Replace(from, to); }
+    bool Copy(Path from, Path to) override { return Step() && FileOps::Copy(from, to); }
+    bool Sync(Path path) override { return Step() && FileOps::Sync(path); }
 
 private:
     bool Step()
@@ -73,11 +66,7 @@ private:
 
 int Create(const QString& folder, int year, int killDay, int killStep)
 {
-    ForecastPlace place;
-    place.Longitude = 92.42;
-    place.Latitude = 31.25;
-    place.TimeZone = 6;
-    ForecastRun run(place);
+    ForecastRun run(ForecastPlace{.Longitude = 92.42, .Latitude = 31.25, .TimeZone = 6});
     const Calendar cal = YearCalendar(run.Engine, year, run.SouthernHemisphere);
     DataControl data0;
     DyingOps ops(killStep);

@@ -119,7 +119,6 @@ TEST_F(DataControlTest, EditAddAndDeleteReachTheFileWhollyOrNotAtAll)
     ASSERT_TRUE(data.Update());
     EXPECT_EQ(data.LastModified().toInt(), 40);
     EXPECT_EQ(data.AbsolutePosition(), 39);
-    EXPECT_FALSE(data.Update());
     EXPECT_EQ(PlainRows(path_, "select TotalTaken, Notes, PeakTime from table1 where dbid = 40")[0],
               (std::vector<QVariant>{7, note, "6:00 AM"}));
     data.SetRecordSource("select * from table1 where Notes = ? and Month = ?", {note, 2});

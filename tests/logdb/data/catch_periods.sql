@@ -1,6 +1,6 @@
 -- Each catch's period from the day's stored Major, Minor, SunRise and SunSet, over midnight:
--- 0 within an hour of a major, 1 within 35 minutes of a minor, 2 within an hour of sunrise or
--- sunset, 3 other hours, 4 untimed. Gives the period, catches, fish and released fish.
+-- within an hour of a major, within 35 minutes of a minor, within an hour of sunrise or
+-- sunset, other hours, untimed. Gives the period, catches, fish and released fish.
 WITH h AS (
   SELECT FishCount, Released,
          (julianday('2000-01-01 ' || CatchTime) - julianday('2000-01-01')) * 24 AS t,
@@ -16,7 +16,10 @@ d AS (
          min(abs(t - mi1), 24 - abs(t - mi1)) AS mi1, min(abs(t - mi2), 24 - abs(t - mi2)) AS mi2,
          min(abs(t - sr), 24 - abs(t - sr)) AS sr, min(abs(t - ss), 24 - abs(t - ss)) AS ss
   FROM h)
-SELECT CASE WHEN t IS NULL THEN 4 WHEN ma1 <= 1 OR ma2 <= 1 THEN 0
-            WHEN mi1 <= 0.58 OR mi2 <= 0.58 THEN 1 WHEN sr <= 1 OR ss <= 1 THEN 2 ELSE 3 END,
+SELECT CASE WHEN t IS NULL THEN 'Time not recorded'
+            WHEN ma1 <= 1 OR ma2 <= 1 THEN 'In a major period'
+            WHEN mi1 <= 0.58 OR mi2 <= 0.58 THEN 'In a minor period'
+            WHEN sr <= 1 OR ss <= 1 THEN 'Within an hour of sunrise or sunset'
+            ELSE 'At other times' END,
        COUNT(*), SUM(FishCount), SUM(CASE WHEN Released THEN FishCount END)
 FROM d GROUP BY 1
