@@ -71,16 +71,13 @@ int Create(const QString& folder, int year, int killDay, int killStep)
     DataControl data0;
     DyingOps ops(killStep);
     Ready();
-    const auto progress = [killDay](int day, int) {
-        if (day == killDay)
-            Die();
+    const auto fill = [&](const QString& path) {
+        return FillYearFile(data0, path, run.Engine, cal, -60, [killDay](int day, int) {
+            if (day == killDay)
+                Die();
+        });
     };
-    const CreateYearResult created = CreateYearFile(
-        folder, year,
-        [&](const QString& path) {
-            return FillYearFile(data0, path, run.Engine, cal, -60, progress);
-        },
-        ops);
+    const CreateYearResult created = CreateYearFile(folder, year, fill, ops);
     return created.Outcome == CreateYearResult::Status::Created ? 0 : 3;
 }
 
@@ -117,11 +114,7 @@ int EditEveryDay(const QString& path, const QString& tag,
 
 int AddOneCatch(const QString& path)
 {
-    Catch c;
-    c.Date = QStringLiteral("2024-07-04");
-    c.Time = QStringLiteral("06:30:00");
-    c.Species = QStringLiteral("Walleye");
-    c.Count = 3;
+    Catch c{.Date = "2024-07-04", .Time = "06:30:00", .Species = "Walleye", .Count = 3};
     Ready();
     return AddCatch(path, c, QDateTime::currentDateTime()) ? 0 : 3;
 }

@@ -44,7 +44,6 @@ TEST(QueryInjection, ValueBoxesRefuseWhatTheirConditionCannotHold)
                                       "12:00 AM" + std::string(4000, ' ') + "X"};
     for (const QStringList& row : testenv::DataRows(QUILLMERE_TESTDATA "/refused_values.txt"))
         worst.push_back(row.join('|').toStdString());
-    ASSERT_EQ(worst.size(), 20u);
     // A valid value for each box, so only the box under test is wrong.
     const std::array<std::string, ValueBoxCount> good = {
         "10", "1",   "12", "2",       "6",       "1",       "29",
