@@ -3,8 +3,8 @@
 // edit-save code and dies by SIGKILL at the step it is told, as a power cut or a killed
 // process would stop the program.
 //
-//   logcrash_child create FOLDER YEAR KILL_DAY KILL_STEP
-//   logcrash_child compact PATH KILL_STEP
+//   logcrash_child create FOLDER YEAR KILL_DAY KILL_STEP   (prints "ready", then creates)
+//   logcrash_child compact PATH KILL_STEP                  (prints "ready", then compacts)
 //   logcrash_child edit PATH          (saves Notes "catch N" on day N, prints "saved N")
 //   logcrash_child save PATH TAG      (as edit, through the browser's locked save, with
 //                                      Notes "TAG N"; other programs change the file meanwhile)
@@ -34,24 +34,24 @@ namespace {
 
 void Die() { std::raise(SIGKILL); }
 
+// Tells the test that the work starts: it times its kills from here.
+void Ready()
+{
+    std::printf("ready\n");
+    std::fflush(stdout);
+}
+
 // The real file steps, counted; the program dies before the chosen one.
 class DyingOps : public FileOps {
+    using Path = const QString&;
+
 public:
     explicit DyingOps(int killStep) : killStep_(killStep) {}
-    bool Remove(const QString& path) override { return Step() && FileOps::Remove(path); }
-    bool Rename(const QString& from, const QString& to) override
-    {
-        return Step() && FileOps::Rename(from, to);
-    }
-    bool Replace(const QString& from, const QString& to) override
-    {
-        return Step() && FileOps::Replace(from, to);
-    }
-    bool Copy(const QString& from, const QString& to) override
-    {
-        return Step() && FileOps::Copy(from, to);
-    }
-    bool Sync(const QString& path) override { return Step() && FileOps::Sync(path); }
+    bool Remove(Path path) override { return Step() && FileOps::Remove(path); }
+    bool Rename(Path from, Path to) override { return Step() && FileOps::Rename(from, to); }
+    bool Replace(Path from, Path to) override { return Step() && FileOps::Replace(from, to); }
+    bool Copy(Path from, Path to) override { return Step() && FileOps::Copy(from, to); }
+    bool Sync(Path path) override { return Step() && FileOps::Sync(path); }
 
 private:
     bool Step()
@@ -66,30 +66,25 @@ private:
 
 int Create(const QString& folder, int year, int killDay, int killStep)
 {
-    ForecastPlace place;
-    place.Longitude = 92.42;
-    place.Latitude = 31.25;
-    place.TimeZone = 6;
-    ForecastRun run(place);
+    ForecastRun run(ForecastPlace{.Longitude = 92.42, .Latitude = 31.25, .TimeZone = 6});
     const Calendar cal = YearCalendar(run.Engine, year, run.SouthernHemisphere);
     DataControl data0;
     DyingOps ops(killStep);
-    const auto progress = [killDay](int day, int) {
-        if (day == killDay)
-            Die();
+    Ready();
+    const auto fill = [&](const QString& path) {
+        return FillYearFile(data0, path, run.Engine, cal, -60, [killDay](int day, int) {
+            if (day == killDay)
+                Die();
+        });
     };
-    const CreateYearResult created = CreateYearFile(
-        folder, year,
-        [&](const QString& path) {
-            return FillYearFile(data0, path, run.Engine, cal, -60, progress);
-        },
-        ops);
+    const CreateYearResult created = CreateYearFile(folder, year, fill, ops);
     return created.Outcome == CreateYearResult::Status::Created ? 0 : 3;
 }
 
 int Compact(const QString& path, int killStep)
 {
     DyingOps ops(killStep);
+    Ready();
     return CompactDB(path, {}, ops) ? 0 : 3;
 }
 
@@ -119,13 +114,8 @@ int EditEveryDay(const QString& path, const QString& tag,
 
 int AddOneCatch(const QString& path)
 {
-    Catch c;
-    c.Date = QStringLiteral("2024-07-04");
-    c.Time = QStringLiteral("06:30:00");
-    c.Species = QStringLiteral("Walleye");
-    c.Count = 3;
-    std::printf("ready\n"); // the test times its kill from here
-    std::fflush(stdout);
+    Catch c{.Date = "2024-07-04", .Time = "06:30:00", .Species = "Walleye", .Count = 3};
+    Ready();
     return AddCatch(path, c, QDateTime::currentDateTime()) ? 0 : 3;
 }
 

@@ -13,71 +13,42 @@
 
 #include <functional>
 
-namespace {
-
-// A database with one table and one row, open.
-QString MadeDatabase(const QString& folder)
-{
-    const QString path = QDir(folder).filePath("log.mdb");
-    testenv::WriteFile(path);
-    Database db;
-    EXPECT_TRUE(db.Open(path));
-    EXPECT_TRUE(db.Execute("CREATE TABLE t (x INTEGER)"));
-    EXPECT_TRUE(db.Execute("INSERT INTO t VALUES (1)"));
-    return path;
-}
-
-} // namespace
-
+// Each condition is made around an open database holding one row; the insert after it must
+// fail naming its cause in one line.
 TEST(DatabaseErrors, NameTheirCauseInOneLine)
 {
-    const struct {
-        const char* Name;
-        // Makes the condition around the open database; gives back what it holds.
-        std::function<std::shared_ptr<void>(const QString& path)> Condition;
-        const char* Cause;
-    } cases[] = {
-        {"locked by another connection",
-         [](const QString& path) {
-             auto holder = std::make_shared<Database>();
-             EXPECT_TRUE(holder->Open(path));
-             EXPECT_TRUE(QSqlQuery(holder->Connection()).exec("BEGIN EXCLUSIVE"));
-             return std::shared_ptr<void>(holder);
+    Database holder;
+    const std::pair<std::function<void(const QString&)>, const char*> cases[] = {
+        {[&holder](const QString& path) {
+             ASSERT_TRUE(holder.Open(path));
+             ASSERT_TRUE(QSqlQuery(holder.Connection()).exec("BEGIN EXCLUSIVE"));
          },
          "the file is locked: another program is writing it"},
-        {"a folder where the journal goes",
-         [](const QString& path) {
-             EXPECT_TRUE(QDir().mkpath(path + "-journal"));
-             return std::shared_ptr<void>();
-         },
+        {[](const QString& path) { ASSERT_TRUE(QDir().mkpath(path + "-journal")); },
          "a folder named log.mdb-journal stands where the engine writes its journal"},
-        {"replaced while open",
-         [](const QString& path) {
-             EXPECT_TRUE(QFile::remove(path));
-             EXPECT_TRUE(QFile::copy(path + ".copy", path));
-             return std::shared_ptr<void>();
+        {[](const QString& path) {
+             ASSERT_TRUE(QFile::remove(path));
+             ASSERT_TRUE(QFile::copy(path + ".copy", path));
          },
          "the file was moved, deleted or replaced while it was open"},
     };
-    for (const auto& c : cases) {
-        const QString path = MadeDatabase(testenv::FreshDir("db-errors"));
-        ASSERT_TRUE(QFile::copy(path, path + ".copy"));
+    for (const auto& [condition, cause] : cases) {
+        const QString path = QDir(testenv::FreshDir("db-errors")).filePath("log.mdb");
+        testenv::WriteFile(path);
         Database db;
         ASSERT_TRUE(db.Open(path));
-        const auto held = c.Condition(path);
+        ASSERT_TRUE(db.Execute("CREATE TABLE t (x INTEGER)"));
+        ASSERT_TRUE(QFile::copy(path, path + ".copy"));
+        condition(path);
         const DbResult failed = db.Execute("INSERT INTO t VALUES (2)");
-        ASSERT_FALSE(failed) << c.Name;
-        EXPECT_TRUE(failed.Message.startsWith(c.Cause))
-            << c.Name << ": " << failed.Message.toStdString();
-        EXPECT_FALSE(failed.Message.contains('\n')) << c.Name;
+        EXPECT_TRUE(!failed && failed.Message.startsWith(cause) && !failed.Message.contains('\n'))
+            << failed.Message.toStdString();
+        holder.Close();
     }
 
     // A file that is no database does not open, and says so.
     const QString text = QDir(testenv::FreshDir("db-errors")).filePath("notes.mdb");
     testenv::WriteFile(text, QByteArray(4096, 'x'));
     Database db;
-    const DbResult opened = db.Open(text);
-    ASSERT_FALSE(opened);
-    EXPECT_TRUE(opened.Message.contains(": it is not a database file"))
-        << opened.Message.toStdString();
+    EXPECT_TRUE(db.Open(text).Message.contains(": it is not a database file"));
 }

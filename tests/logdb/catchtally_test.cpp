@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The per-catch breakdown of a year filled with the engine's forecasts, each grouping compared
-// with a small plain-SQL count over the same file (periods by the day's stored Major, Minor,
-// SunRise and SunSet), past the program's own reading and arithmetic.
+// with a plain-SQL count over the same file (the periods' query in data/catch_periods.sql),
+// past the program's own reading and arithmetic.
 #include "logdb/catchdays.h"
 #include "logdb/catches.h"
 #include "logdb/catchtally.h"
 #include "support/filledyear.h"
+#include "support/testenv.h"
 
 #include <QDate>
 #include <QTime>
@@ -67,26 +68,7 @@ Counts ProgramCounts(const Tallies& tallies,
     return counts;
 }
 
-std::string Lower(std::string s)
-{
-    for (char& ch : s)
-        ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
-    return s;
-}
-
 const QString Sums = "COUNT(*), SUM(FishCount), SUM(CASE WHEN Released THEN FishCount END)";
-
-// Hours between a clock time and a centre over midnight, in SQL.
-QString Distance(const QString& centre)
-{
-    return QString("min(abs(t - %1), 24 - abs(t - %1))").arg(centre);
-}
-
-QString Hours(const QString& column)
-{
-    return QString("(strftime('%s', '2000-01-01 ' || %1) - strftime('%s', '2000-01-01')) / 3600.0")
-        .arg(column);
-}
 
 } // namespace
 
@@ -99,15 +81,15 @@ TEST(CatchBreakdown, EveryGroupingAgreesWithPlainSqlOverTheFile)
     ASSERT_TRUE(CatchBreakdownOf({path}, b));
     EXPECT_EQ(b.All.Catches, CatchCount);
 
-    const auto byName = [](const char* blank) {
-        return [blank](const CatchTally& t) { return t.Name == blank ? "" : Lower(t.Name); };
+    const auto lower = [](const CatchTally& t) {
+        return QString::fromStdString(t.Name).toLower().toStdString();
     };
-    EXPECT_EQ(ProgramCounts(b.BySpecies, byName("(no species)")),
-              SqlCounts(path, "SELECT lower(coalesce(Species, '')), " + Sums +
+    EXPECT_EQ(ProgramCounts(b.BySpecies, lower),
+              SqlCounts(path, "SELECT coalesce(nullif(lower(Species), ''), '(no species)'), " +
+                                  Sums + " FROM Catches GROUP BY 1"));
+    EXPECT_EQ(ProgramCounts(b.BySpot, lower),
+              SqlCounts(path, "SELECT coalesce(nullif(lower(Spot), ''), '(no spot)'), " + Sums +
                                   " FROM Catches GROUP BY 1"));
-    EXPECT_EQ(
-        ProgramCounts(b.BySpot, byName("(no spot)")),
-        SqlCounts(path, "SELECT lower(coalesce(Spot, '')), " + Sums + " FROM Catches GROUP BY 1"));
     EXPECT_EQ(ProgramCounts(b.ByHour, [](const CatchTally& t) { return t.Name.substr(0, 2); }),
               SqlCounts(path, "SELECT substr(CatchTime, 1, 2), " + Sums +
                                   " FROM Catches WHERE CatchTime IS NOT NULL GROUP BY 1"));
@@ -118,27 +100,9 @@ TEST(CatchBreakdown, EveryGroupingAgreesWithPlainSqlOverTheFile)
               SqlCounts(path, "SELECT CAST(WaterTemp / 5 AS INT) * 5, " + Sums +
                                   " FROM Catches GROUP BY 1"));
 
-    const QString periods = "WITH h AS (SELECT FishCount, Released, " + Hours("CatchTime") +
-                            " AS t, " + Hours("Major1") + " AS ma1, " + Hours("Major2") +
-                            " AS ma2, nullif(Minor1, -1) AS mi1, nullif(Minor2, -1) AS mi2, " +
-                            Hours("SunRise") + " AS sr, " + Hours("SunSet") +
-                            " AS ss FROM Catches JOIN table1 USING (JulianDate)) "
-                            "SELECT CASE WHEN t IS NULL THEN 4 "
-                            "WHEN " +
-                            Distance("ma1") + " <= 1 OR " + Distance("ma2") +
-                            " <= 1 THEN 0 "
-                            "WHEN " +
-                            Distance("mi1") + " <= 0.58 OR " + Distance("mi2") +
-                            " <= 0.58 THEN 1 "
-                            "WHEN " +
-                            Distance("sr") + " <= 1 OR " + Distance("ss") +
-                            " <= 1 THEN 2 ELSE 3 END, " + Sums + " FROM h GROUP BY 1";
-    Counts program;
-    for (int p = 0; p < CatchPeriodCount; ++p)
-        if (b.ByPeriod[p].Catches > 0)
-            program[std::to_string(p)] = {b.ByPeriod[p].Catches, b.ByPeriod[p].Fish,
-                                          b.ByPeriod[p].Released};
+    const QString periods =
+        QString::fromUtf8(testenv::FileBytes(QUILLMERE_TESTDATA "/catch_periods.sql"));
     const Counts sql = SqlCounts(path, periods);
-    EXPECT_EQ(program, sql);
+    EXPECT_EQ(ProgramCounts(b.ByPeriod, [](const CatchTally& t) { return t.Name; }), sql);
     EXPECT_GE(sql.size(), 4u); // the catches fall in every kind of hour
 }

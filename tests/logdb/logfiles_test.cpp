@@ -2,7 +2,9 @@
 // The year files on disk: listing, creating, compacting, protecting them, and the order of
 // the file steps that makes each replacement survive a power cut.
 #include "db/datacontrol.h"
+#include "logdb/catches.h"
 #include "logdb/logfiles.h"
+#include "support/filledyear.h"
 #include "support/logfixture.h"
 #include "support/testenv.h"
 
@@ -21,67 +23,45 @@ namespace {
 
 QString FolderOf(const QString& path) { return QFileInfo(path).absolutePath(); }
 
-void Exec(const QString& path, const QString& sql)
-{
-    Database db;
-    ASSERT_TRUE(db.Open(path));
-    ASSERT_TRUE(db.Execute(sql));
-}
-
 // A value no day can have, so that repair rebuilds the file.
 void Spoil(const QString& path)
 {
-    Exec(path, "update table1 set IllumPercent = 500 where DBID = 3");
+    PlainExec(path, "update table1 set IllumPercent = 500 where DBID = 3");
 }
 
 bool Repaired(const RepairReport& report) { return report.Result && report.Damaged; }
 
-// Real file operations, except that the n-th atomic replacement fails.
-class FailingReplace : public FileOps {
-public:
-    explicit FailingReplace(int failing) : failing_(failing) {}
-    bool Replace(const QString& from, const QString& to) override
-    {
-        return ++renames_ != failing_ && FileOps::Replace(from, to);
-    }
-
-private:
-    int failing_;
-    int renames_ = 0;
-};
-
-// Real file operations, each recorded with its paths; a folder sync records the folder.
+// Real file operations, each recorded with its paths (a folder sync records the folder);
+// the n-th atomic replacement fails when asked.
 struct Step {
     QString Kind, From, To;
 };
 class RecordingOps : public FileOps {
+    using Path = const QString&;
+
 public:
+    explicit RecordingOps(int failingReplace = 0) : failing_(failingReplace) {}
     std::vector<Step> Steps;
-    bool Copy(const QString& from, const QString& to) override
+    bool Copy(Path f, Path t) override { return Note("copy", f, t) && FileOps::Copy(f, t); }
+    bool Sync(Path f) override { return Note("sync", f) && FileOps::Sync(f); }
+    bool Rename(Path f, Path t) override { return Note("rename", f, t) && FileOps::Rename(f, t); }
+    bool Replace(Path f, Path t) override
     {
-        Steps.push_back({"copy", from, to});
-        return FileOps::Copy(from, to);
+        return ++replaces_ != failing_ && Note("rename", f, t) && FileOps::Replace(f, t);
     }
-    bool Sync(const QString& path) override
+    bool SyncFolderOf(Path f) override
     {
-        Steps.push_back({"sync", path, {}});
-        return FileOps::Sync(path);
+        return Note("dir", FolderOf(f)) && FileOps::SyncFolderOf(f);
     }
-    bool Rename(const QString& from, const QString& to) override
+
+private:
+    bool Note(const char* kind, const QString& from, const QString& to = {})
     {
-        Steps.push_back({"rename", from, to});
-        return FileOps::Rename(from, to);
+        Steps.push_back({kind, from, to});
+        return true;
     }
-    bool Replace(const QString& from, const QString& to) override
-    {
-        Steps.push_back({"rename", from, to});
-        return FileOps::Replace(from, to);
-    }
-    bool SyncFolderOf(const QString& path) override
-    {
-        Steps.push_back({"folder", FolderOf(path), {}});
-        return FileOps::SyncFolderOf(path);
-    }
+    int failing_;
+    int replaces_ = 0;
 };
 
 // What in the recorded steps a power cut could undo; empty when nothing.
@@ -92,7 +72,7 @@ std::string PowerCutRisks(const std::vector<Step>& steps)
     for (std::size_t i = 0; i < steps.size(); ++i) {
         const Step& s = steps[i];
         const std::string name = QFileInfo(s.From).fileName().toStdString();
-        if (s.Kind == "sync" && !(at(i + 1).Kind == "folder" && at(i + 1).From == FolderOf(s.From)))
+        if (s.Kind == "sync" && !(at(i + 1).Kind == "dir" && at(i + 1).From == FolderOf(s.From)))
             risks += name + " synced without its folder; ";
         if (s.Kind != "rename")
             continue;
@@ -111,7 +91,7 @@ std::string PowerCutRisks(const std::vector<Step>& steps)
         std::size_t next = i + 1;
         while (at(next).Kind == "rename" && at(next).From == s.From && at(next).To == s.To)
             ++next;
-        if (at(next).Kind != "folder" || at(next).From != FolderOf(s.To))
+        if (at(next).Kind != "dir" || at(next).From != FolderOf(s.To))
             risks += "no folder sync after " + name + " is renamed; ";
     }
     return risks;
@@ -142,6 +122,7 @@ TEST(YearFiles, EveryFileAndFolderIsSyncedAroundEachRename)
          [](const QString& path, FileOps& o) {
              CompactDB(path);
              QFile::remove(path);
+             CleanLeftovers(FolderOf(path)); // which must not take the year's only copy
              const auto kept = RestorableYears(FolderOf(path));
              return kept.size() == 1 && RestoreYearFile(FolderOf(path), kept[0], o);
          }},
@@ -159,48 +140,31 @@ TEST(YearFiles, EveryFileAndFolderIsSyncedAroundEachRename)
 }
 
 // A year file kept elsewhere behind a link stays a link to the compacted or repaired file, and
-// a file the angler made read-only (or private) keeps its permissions.
+// a file the angler made read-only keeps its permissions.
 TEST(Compaction, KeepsALinkALinkAndTheFilesPermissions)
 {
     using P = QFileDevice;
-    const struct {
-        bool Linked;
-        QFileDevice::Permissions Mode;
-    } cases[] = {
-        {true, P::ReadOwner | P::WriteOwner | P::ReadGroup | P::ReadOther},
-        {false, P::ReadOwner | P::ReadGroup | P::ReadOther},
-        {false, P::ReadOwner | P::WriteOwner},
-        {true, P::ReadOwner | P::ReadGroup},
-    };
-    const std::vector<std::pair<const char*, std::function<bool(const QString&)>>> operations = {
+    const QFileDevice::Permissions mode = P::ReadOwner | P::ReadGroup;
+    const std::pair<const char*, std::function<bool(const QString&)>> operations[] = {
         {"2024.BAK", [](const QString& path) { return bool(CompactDB(path)); }},
-        {"2024.BAD", [](const QString& path) { return Repaired(RepairYearFile(path, {})); }},
-    };
-    for (const auto& [kept, run] : operations)
-        for (const auto& c : cases) {
-            const std::string name = std::string(kept) + " " + std::to_string(c.Mode.toInt());
-            const QString path = MakeYearFile("keeps-shape", 30);
-            const QString folder = FolderOf(path);
-            Spoil(path);
-            QString file = path;
-            if (c.Linked) {
-                QDir().mkpath(folder + "/elsewhere");
-                file = folder + "/elsewhere/fishing-2024.sqlite";
-                ASSERT_TRUE(QFile::rename(path, file));
-                ASSERT_TRUE(QFile::link(file, path));
-            }
-            ASSERT_TRUE(QFile::setPermissions(file, c.Mode));
-            ASSERT_TRUE(run(path)) << name;
-            EXPECT_EQ(QFileInfo(path).isSymLink(), c.Linked) << name;
-            EXPECT_EQ(QFileInfo(path).canonicalFilePath(), QFileInfo(file).canonicalFilePath());
-            // The owner's, group's and others' permissions; the User ones are this process's.
-            EXPECT_EQ(QFileInfo(file).permissions() & ~(P::ReadUser | P::WriteUser | P::ExeUser),
-                      c.Mode)
-                << name;
-            EXPECT_EQ(CountRows(path, "table1"), 30) << name;
-            EXPECT_TRUE(QFile::exists(folder + "/" + kept)) << name;
-            EXPECT_EQ(QDir(FolderOf(file)).entryList({"New*", "Rep*"}, QDir::Files), QStringList());
-        }
+        {"2024.BAD", [](const QString& path) { return Repaired(RepairYearFile(path, {})); }}};
+    for (const auto& [kept, run] : operations) {
+        const QString path = MakeYearFile("keeps-shape", 30);
+        const QString folder = FolderOf(path);
+        const QString file = folder + "/elsewhere/fishing-2024.sqlite";
+        Spoil(path);
+        QDir().mkpath(folder + "/elsewhere");
+        ASSERT_TRUE(QFile::rename(path, file));
+        ASSERT_TRUE(QFile::link(file, path));
+        ASSERT_TRUE(QFile::setPermissions(file, mode));
+        ASSERT_TRUE(run(path)) << kept;
+        EXPECT_EQ(QFileInfo(path).symLinkTarget(), QFileInfo(file).canonicalFilePath()) << kept;
+        // The owner's, group's and others' permissions; the User ones are this process's.
+        EXPECT_EQ(QFileInfo(file).permissions() & ~(P::ReadUser | P::WriteUser | P::ExeUser), mode);
+        EXPECT_EQ(CountRows(path, "table1"), 30) << kept;
+        EXPECT_TRUE(QFile::exists(folder + "/" + kept)) << kept;
+        EXPECT_EQ(QDir(FolderOf(file)).entryList({"New*", "Rep*"}, QDir::Files), QStringList());
+    }
 }
 
 TEST(Compaction, AFailureOrAFileThatIsNotAWholeLogLeavesTheFilesAsTheyAre)
@@ -208,7 +172,7 @@ TEST(Compaction, AFailureOrAFileThatIsNotAWholeLogLeavesTheFilesAsTheyAre)
     const QString path = MakeYearFile("compact-fail");
     const QString folder = FolderOf(path);
     for (const int failing : {1, 2}) { // the copy to .BAK, the new copy to the file's name
-        FailingReplace ops(failing);
+        RecordingOps ops(failing);
         EXPECT_FALSE(CompactDB(path, {}, ops));
         EXPECT_EQ(CountRows(path, "table1"), DaysInYear) << "rename " << failing;
         EXPECT_FALSE(QFileInfo::exists(QDir(folder).filePath("New2024.mdb")));
@@ -233,31 +197,37 @@ TEST(Compaction, AFailureOrAFileThatIsNotAWholeLogLeavesTheFilesAsTheyAre)
     }
 }
 
-TEST(Password, AProtectedFileOpensOnlyWithItsPasswordAndStaysProtectedWhenCompacted)
+// A protected year file opens only with its password, stays protected when compacted, and
+// every catch operation needs it.
+TEST(Password, AProtectedFileNeedsItsPasswordForEveryOperation)
 {
     const QString path = MakeYearFile("password", 10);
+    const QString connect = ";pwd=Trout7";
     Database db;
     ASSERT_TRUE(db.Open(path));
     ASSERT_TRUE(db.SetPassword("Trout7"));
     db.Close();
-    const DbResult refused = db.Open(path);
-    EXPECT_EQ(refused.Message, "Not a valid password.");
-    EXPECT_FALSE(db.IsOpen());
+    EXPECT_EQ(db.Open(path).Message, "Not a valid password.");
     EXPECT_FALSE(db.Open(path, ";pwd=trout7"));
-
-    DataControl data;
-    data.SetDatabaseName(path);
-    data.SetRecordSource("select * from table1");
-    EXPECT_FALSE(data.Refresh());
-    data.SetConnect(";pwd=Trout7");
-    ASSERT_TRUE(data.Refresh());
-    EXPECT_EQ(data.RecordCount(), 10);
-    data.Close();
-
+    EXPECT_EQ(CountRows(path, "table1", connect), 10);
     EXPECT_FALSE(CompactDB(path));
-    ASSERT_TRUE(CompactDB(path, ";pwd=Trout7"));
+    ASSERT_TRUE(CompactDB(path, connect));
     EXPECT_FALSE(db.Open(path));
-    ASSERT_TRUE(db.Open(path, ";pwd=Trout7"));
+
+    const QDateTime now = QDateTime::currentDateTime();
+    Catch c{.Date = "2024-01-05", .Time = "09:30:00", .Species = "Trout", .Count = 2};
+    EXPECT_FALSE(AddCatch(path, c, now));
+    ASSERT_TRUE(AddCatch(path, c, now, connect));
+    c.Count = 3;
+    EXPECT_FALSE(UpdateCatch(path, c, now));
+    ASSERT_TRUE(UpdateCatch(path, c, now, connect));
+    std::vector<Catch> read;
+    EXPECT_FALSE(ReadDayCatches(path, c.Date, read));
+    ASSERT_TRUE(ReadDayCatches(path, c.Date, read, connect));
+    EXPECT_EQ(read, std::vector<Catch>{c});
+    EXPECT_FALSE(RemoveCatch(path, c.Id, now));
+    ASSERT_TRUE(RemoveCatch(path, c.Id, now, connect));
+    ASSERT_TRUE(db.Open(path, connect));
     ASSERT_TRUE(db.SetPassword({}));
     EXPECT_TRUE(db.Open(path));
 }
