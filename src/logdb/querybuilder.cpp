@@ -184,7 +184,7 @@ std::string ConditionText(const QueryForm& form, int i, std::string& error, bool
     case 8:
         return Between("major1", v, true) + " or major2 between #" + v.A + "# AND #" + v.B + "#";
     case 9:
-        return " where totaltaken > " + v.A;
+        return " where totaltaken >= " + v.A;
     case 10:
         return " where waxing = 1";
     case 11:
