@@ -8,17 +8,31 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <functional>
+#include <utility>
 
 #include <sys/stat.h>
 
 namespace {
 
 const QString TimeFormat = QStringLiteral("yyyy-MM-dd_HH-mm-ss");
+const QString Extension = QStringLiteral(".mdb");
+constexpr qsizetype YearPrefix = 5;    // "2024_"
 constexpr mode_t NewFolderMode = 0777; // narrowed by the user's umask
 
 QString YearOf(const QString& yearFile) { return QFileInfo(yearFile).fileName().left(4); }
+
+// The n of a copy named "..._n.mdb" (the n-th made within one second); 1 for the first copy.
+int CopyNumber(const QString& name)
+{
+    const qsizetype stem = YearPrefix + TimeFormat.size();
+    return name.size() > stem + Extension.size()
+               ? name.mid(stem + 1).chopped(Extension.size()).toInt()
+               : 1;
+}
 
 DbResult ReadAll(const QString& path, QByteArray& bytes)
 {
@@ -40,15 +54,20 @@ DbResult WriteWhole(const QString& path, const QByteArray& bytes)
     return DbResult::Success();
 }
 
-// A name no other backup has, even for two copies made within one second.
+// A name no other backup has, even for two copies made within one second: the copy number
+// goes on from the highest of that second, since a pruned first copy's name would otherwise be
+// taken again and the newest copy sorted as the oldest.
 QString FreeBackupPath(const QString& yearFile, const QDateTime& now)
 {
-    const QDir folder(BackupFolder(yearFile));
     const QString name = BackupFileName(yearFile, now);
-    QString path = folder.filePath(name);
-    for (int n = 2; QFileInfo::exists(path); ++n)
-        path = folder.filePath(name.chopped(4) + QStringLiteral("_%1.mdb").arg(n));
-    return path;
+    int last = 0;
+    for (const QString& backup : ListBackups(yearFile))
+        if (BackupTime(backup) == BackupTime(name))
+            last = std::max(last, CopyNumber(QFileInfo(backup).fileName()));
+    const QDir folder(BackupFolder(yearFile));
+    return folder.filePath(last == 0 ? name
+                                     : name.chopped(Extension.size()) +
+                                           QStringLiteral("_%1").arg(last + 1) + Extension);
 }
 
 DbResult Prune(const QString& yearFile)
@@ -87,9 +106,14 @@ QString BackupFileName(const QString& yearFile, const QDateTime& taken)
 QStringList ListBackups(const QString& yearFile)
 {
     const QDir folder(BackupFolder(yearFile));
-    QStringList names = folder.entryList({YearOf(yearFile) + QStringLiteral("_*.mdb")}, QDir::Files,
-                                         QDir::Name | QDir::Reversed);
+    QStringList names =
+        folder.entryList({YearOf(yearFile) + QStringLiteral("_*.mdb")}, QDir::Files);
     names.removeIf([](const QString& name) { return !BackupTime(name).isValid(); });
+    // Newest first by time and copy number: by name, a tenth copy within one second ("_10")
+    // would sort before the second ("_2") and be pruned first.
+    std::ranges::sort(names, std::greater<>(), [](const QString& name) {
+        return std::pair(BackupTime(name), CopyNumber(name));
+    });
     for (QString& name : names)
         name = folder.filePath(name);
     return names;
@@ -98,7 +122,7 @@ QStringList ListBackups(const QString& yearFile)
 QDateTime BackupTime(const QString& backup)
 {
     const QString name = QFileInfo(backup).fileName();
-    return QDateTime::fromString(name.mid(5, TimeFormat.size()), TimeFormat);
+    return QDateTime::fromString(name.mid(YearPrefix, TimeFormat.size()), TimeFormat);
 }
 
 DbResult BackUpHoldingLock(const QString& yearFile, const QDateTime& now)

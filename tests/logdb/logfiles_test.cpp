@@ -2,6 +2,7 @@
 // The year files on disk: listing, creating, compacting, protecting them, and the order of
 // the file steps that makes each replacement survive a power cut.
 #include "db/datacontrol.h"
+#include "logdb/backups.h"
 #include "logdb/catches.h"
 #include "logdb/logfiles.h"
 #include "support/filledyear.h"
@@ -230,4 +231,29 @@ TEST(Password, AProtectedFileNeedsItsPasswordForEveryOperation)
     ASSERT_TRUE(db.Open(path, connect));
     ASSERT_TRUE(db.SetPassword({}));
     EXPECT_TRUE(db.Open(path));
+}
+
+// Twelve changed copies within one second: the ten newest stay, newest first, and a restore
+// keeps the file it replaces even when that prunes the very copy being restored.
+TEST(Backups, KeepTheTenNewestWithinOneSecondAndARestoreKeepsTheReplacedFile)
+{
+    const QString year = testenv::FreshDir("backups") + "/2024.mdb";
+    const QDateTime second(QDate(2024, 6, 1), QTime(10, 0));
+    const auto version = [](int n) { return QByteArray("version ") + QByteArray::number(n); };
+    for (int n = 1; n <= 12; ++n) {
+        testenv::WriteFile(year, version(n));
+        ASSERT_TRUE(BackUpIfChanged(year, second));
+        ASSERT_TRUE(BackUpIfChanged(year, second)); // unchanged: no second copy
+    }
+    QStringList backups = ListBackups(year);
+    ASSERT_EQ(backups.size(), BackupsKeptPerYear);
+    for (int i = 0; i < BackupsKeptPerYear; ++i)
+        EXPECT_EQ(testenv::FileBytes(backups[i]), version(12 - i)) << backups[i].toStdString();
+
+    testenv::WriteFile(year, version(13));
+    ASSERT_TRUE(RestoreBackup(year, backups.back(), second));
+    EXPECT_EQ(testenv::FileBytes(year), version(3));
+    backups = ListBackups(year);
+    ASSERT_EQ(backups.size(), BackupsKeptPerYear);
+    EXPECT_EQ(testenv::FileBytes(backups.front()), version(13));
 }
