@@ -147,6 +147,8 @@ std::optional<OutputFormat> ParseFormat(const std::string& text)
     return it == names.end() ? std::nullopt : std::optional(it->second);
 }
 
+constexpr unsigned char FirstPrintable = 0x20, Delete = 0x7f;
+
 using Options = std::map<std::string, std::string>;
 
 // Collects "--name value" pairs and the flags; an unknown option is an error.
@@ -352,4 +354,18 @@ ParsedArguments ParseArguments(const std::vector<std::string>& args, int todayYe
         r.Format = *f;
     }
     return r;
+}
+
+std::string OneLine(std::string_view message)
+{
+    static constexpr std::string_view Hex = "0123456789abcdef";
+    std::string line;
+    for (const char c : message) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < FirstPrintable || byte == Delete)
+            line += std::string{'\\', 'x', Hex[byte >> 4], Hex[byte & 0xf]};
+        else
+            line += c;
+    }
+    return line;
 }

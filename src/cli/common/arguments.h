@@ -37,6 +37,10 @@ struct UsageError {
     std::string Message;
 };
 
+// The message as one line for the terminal: a control character typed into a name (a line
+// break, a tab) is shown as its escape, "\\x0a", so an error never spans two lines.
+std::string OneLine(std::string_view message);
+
 struct HelpRequested {};
 struct VersionRequested {};
 

@@ -224,14 +224,14 @@ int Run(int argc, char** argv)
     if (std::holds_alternative<VersionRequested>(parsed))
         return WriteText(VersionLine("quillmere-forecast"));
     if (const auto* e = std::get_if<UsageError>(&parsed)) {
-        std::cerr << "quillmere-forecast: " << e->Message << "\n";
+        std::cerr << "quillmere-forecast: " << OneLine(e->Message) << "\n";
         return 2;
     }
     const ForecastRequest& r = std::get<ForecastRequest>(parsed);
     if (r.AtCoordinates && !r.AtCoordinates->TzName.empty())
         if (const std::string unknown = UnknownZoneOption(r.AtCoordinates->TzName);
             !unknown.empty()) {
-            std::cerr << "quillmere-forecast: " << unknown << "\n";
+            std::cerr << "quillmere-forecast: " << OneLine(unknown) << "\n";
             return 2;
         }
     const NamedPlace place = PlaceOf(r);

@@ -676,7 +676,7 @@ std::optional<std::string> CheckRequest(const LogCommand& command, LogRequest& r
 int RunLogCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
 {
     const auto usage = [&err](const std::string& message) {
-        err << "quillmere-log: " << message << "\n";
+        err << "quillmere-log: " << OneLine(message) << "\n";
         return 2;
     };
     if (args.empty())
