@@ -104,6 +104,16 @@ TEST(CatchPhotos, CopiesKeepTheirNamesAndGoWithTheirLastCatch)
     ASSERT_EQ(photoFiles(), QStringList({"pike.jpg", "pike_2.jpg"})); // and no temporaries
     ASSERT_TRUE(RemoveCatch(path, both.Id, Now));
     EXPECT_EQ(photoFiles(), QStringList({"pike.jpg"}));
+    // A photo is shown only from the log's own folder: one gone, or named outside it, is missing.
+    const std::pair<QString, bool> looked[] = {{one.Photos[0], false},
+                                               {"photos/2024/gone.jpg", true},
+                                               {"../camera/pike.jpg", true},
+                                               {source + "/pike.jpg", true}};
+    for (const auto& [relative, missing] : looked) {
+        const PhotoFile photo = LookUpPhoto(path, relative);
+        EXPECT_EQ(photo.Missing, missing) << relative.toStdString();
+        EXPECT_EQ(photo.Message.contains(relative), missing) << photo.Message.toStdString();
+    }
     ASSERT_TRUE(RemoveCatch(path, one.Id, Now));
     EXPECT_EQ(photoFiles(), QStringList());
 }
