@@ -254,3 +254,29 @@ TEST(LocationMenu, EditsReachTheMainWindowOnlyThroughDone)
     EXPECT_NE(app.Config.Locations[4].Name, "Not kept");
     EXPECT_TRUE(w.Loc[4]->text().startsWith("# 4 "));
 }
+
+// Settings that cannot be saved (a folder stands where the file goes, which stops root too) are
+// reported with the file's name; No keeps the window open, Yes closes it without saving.
+TEST(FrmCalendar, ClosingSaysWhenTheSettingsCannotBeSaved)
+{
+    NeverStarted();
+    AppState app;
+    ASSERT_EQ(Start(app, true), StartOutcome::Run);
+    const QString path = app.Store.FilePath();
+    QFile::remove(path);
+    ASSERT_TRUE(QDir().mkpath(path));
+    MsgResult answer = MsgResult::No;
+    app.Messages.Script([&answer](const ShownMessage&) { return answer; });
+    {
+        FrmCalendar w(app);
+        w.show();
+        w.close();
+        ASSERT_EQ(app.Messages.Shown().size(), 1u);
+        EXPECT_TRUE(app.Messages.Shown()[0].Text.contains(path));
+        EXPECT_TRUE(w.isVisible());
+        answer = MsgResult::Yes;
+        w.close();
+        EXPECT_FALSE(w.isVisible());
+    }
+    QDir(path).removeRecursively();
+}
