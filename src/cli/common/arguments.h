@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -38,7 +39,7 @@ struct UsageError {
 };
 
 // The message as one line for the terminal: a control character typed into a name (a line
-// break, a tab) is shown as its escape, "\\x0a", so an error never spans two lines.
+// break, a tab) is shown as its escape, "\x0a", so an error never spans two lines.
 std::string OneLine(std::string_view message);
 
 struct HelpRequested {};
