@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "astro/timebase.h"
 #include "calendar/calendar.h"
+#include "support/textrows.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
 #include <string>
 
 namespace {
@@ -25,21 +24,13 @@ Calendar HolidaysOf(int year)
 // two on 14 February).
 TEST(Holidays, CaptionsOnTheirDaysAcrossYears)
 {
-    std::ifstream file(QUILLMERE_HOLIDAYS);
-    ASSERT_TRUE(file) << QUILLMERE_HOLIDAYS;
-    int rows = 0;
-    for (std::string line; std::getline(file, line);) {
-        std::istringstream fields(line);
-        std::string year, month, day, caption;
-        if (line.starts_with('#') || !std::getline(fields, year, '|') ||
-            !std::getline(fields, month, '|') || !std::getline(fields, day, '|'))
-            continue;
-        std::getline(fields, caption);
-        const int y = std::stoi(year), doy = DayOfYearOf(y, std::stoi(month), std::stoi(day));
-        EXPECT_EQ(HolidaysOf(y).YearDays[std::size_t(doy)].Text, caption) << line;
-        ++rows;
+    const auto rows = textrows::Read(QUILLMERE_HOLIDAYS, '|');
+    for (const auto& [line, f] : rows) {
+        const int y = std::stoi(f.at(0)),
+                  doy = DayOfYearOf(y, std::stoi(f.at(1)), std::stoi(f.at(2)));
+        EXPECT_EQ(HolidaysOf(y).YearDays[std::size_t(doy)].Text, f.at(3)) << line;
     }
-    EXPECT_GE(rows, 25);
+    EXPECT_GE(rows.size(), 25u);
     const Calendar cal = HolidaysOf(2024);
     int holidays = 0;
     for (int d = 1; d <= cal.YearSlots; ++d)

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/common/arguments.h"
+#include "support/textrows.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
 
 namespace {
 using Args = std::vector<std::string>;
@@ -60,22 +58,12 @@ TEST(ForecastArguments, OptionsFillTheRequest)
 // string and an iCalendar value alike).
 TEST(ForecastArguments, EveryRangeTakesBothEndsAndNothingBeyond)
 {
-    std::ifstream table(QUILLMERE_ARGUMENT_RANGES);
-    ASSERT_TRUE(table) << QUILLMERE_ARGUMENT_RANGES;
-    int rows = 0;
-    for (std::string line; std::getline(table, line);) {
-        std::istringstream words(line);
-        std::string taken;
-        words >> taken;
-        if (taken.empty() || taken[0] == '#')
-            continue;
-        Args given;
-        for (std::string word; words >> word;)
-            given.push_back(word);
-        EXPECT_EQ(Error(given).empty(), taken == "yes") << line << ": " << Error(given);
-        ++rows;
+    const auto rows = textrows::Read(QUILLMERE_ARGUMENT_RANGES, ' ');
+    for (const auto& [line, words] : rows) {
+        const Args given(words.begin() + 1, words.end());
+        EXPECT_EQ(Error(given).empty(), words[0] == "yes") << line << ": " << Error(given);
     }
-    EXPECT_GT(rows, 55);
+    EXPECT_GT(rows.size(), 55u);
     EXPECT_NE(Error({"days", "--from", "1899-12-31"}).find("1900..2500"), std::string::npos);
     EXPECT_NE(Error({"days", "--from", "2500-12-25", "--days", "100"}).find("2500-12-31"),
               std::string::npos);
