@@ -124,7 +124,8 @@ public:
     // Each takes the cycle number k of its chapter (whole k: the cycle's first event).
     void MoonPhases(double k);
     // Perigee, apogee and the greatest declinations are the extremes of this engine's own
-    // Moon (MoonPosition's distance and declination) next to the instants of Meeus ch. 50, 52.
+    // Moon (MoonGeometricDistance, MoonPosition's declination) next to the instants of Meeus
+    // ch. 50, 52.
     void PerigeeApogee(double k);
     void MaxDeclinations(double k);
     enum class MoonExtreme { Apsis, North, South };
@@ -196,6 +197,9 @@ private:
 
 // The Earth's distance from the Sun in astronomical units (VSOP87 R series, Meeus ch. 32).
 double EarthSunDistance(double jde);
+// The Moon's geometric distance from the Earth's centre in kilometres, good to about half a
+// kilometre where Table 47.A's is off by up to eight.
+double MoonGeometricDistance(double jde);
 
 // The altitude of a body as seen from the place, from its altitude h at the Earth's centre and
 // its horizontal parallax (Meeus ch. 40, on a spherical Earth): the Moon's stands up to a

@@ -144,8 +144,7 @@ double Astronomy::RefinedMoonExtreme(MoonExtreme kind, double k)
     constexpr std::array<double, 2> Steps = {0.05, 0.005}; // days
     double jde = 0.0;
     if (kind == MoonExtreme::Apsis)
-        jde = ParabolicExtremum([this](double t) { return MoonPosition(t).Distance; },
-                                PerigeeApogeeJDE(k), Steps);
+        jde = ParabolicExtremum(MoonGeometricDistance, PerigeeApogeeJDE(k), Steps);
     else
         jde = ParabolicExtremum([this](double t) { return MoonPosition(t).Delta; },
                                 DeclinationJDE(k, kind == MoonExtreme::North), Steps);

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Moon's apparent position (Meeus ch. 47, mean elements of the first edition), its
-// parallax, and the illuminated fraction and bright limb (ch. 48).
+// parallax, and the illuminated fraction and bright limb (ch. 48); its distance to tens of
+// metres for the perigees and apogees (the main problem of ELP 2000-82).
 #include "astro/astronomy.h"
 #include "astro/mathutil.h"
+#include "astro/moon_distance_terms.h"
 #include "astro/moon_terms.h"
 
 #include <cmath>
+#include <cstdlib>
 
 namespace {
 // Mean elements, degrees, as polynomials in T (first edition, eqs. 45.1-45.5).
@@ -19,6 +22,15 @@ constexpr std::array<double, 5> Mm = {134.9634114, 477198.8676313, 0.0089970, 1.
                                       -1.0 / 14712000.0};
 constexpr std::array<double, 5> Fm = {93.2720993, 483202.0175273, -0.0034029, -1.0 / 3526000.0,
                                       1.0 / 863310000.0};
+// The second edition's D, M' and F (eqs. 47.2, 47.4, 47.5), from the lunar constants fitted to
+// laser ranging, for the distance's extremes: with the first edition's they drift to 1.4 minutes
+// off by 2500.
+constexpr std::array<double, 5> Dm2 = {297.8501921, 445267.1114034, -0.0018819, 1.0 / 545868.0,
+                                       -1.0 / 113065000.0};
+constexpr std::array<double, 5> Mm2 = {134.9633964, 477198.8675055, 0.0087414, 1.0 / 69699.0,
+                                       -1.0 / 14712000.0};
+constexpr std::array<double, 5> Fm2 = {93.2720950, 483202.0175233, -0.0036539, -1.0 / 3526000.0,
+                                       1.0 / 863310000.0};
 constexpr std::array<double, 5> A1 = {119.75, 131.849, 0, 0, 0};
 constexpr std::array<double, 5> A2 = {53.09, 479264.29, 0, 0, 0};
 constexpr std::array<double, 5> A3 = {313.45, 481266.484, 0, 0, 0};
@@ -32,9 +44,28 @@ double Radians(const std::array<double, 5>& c, double T)
     return WrapInto(Poly4(c, T), 360.0) * DegToRad;
 }
 
-// Terms with M are scaled by E, with 2M by E squared (the Earth's shrinking eccentricity).
-double EFactor(int m, double E) { return m == 0 ? 1.0 : (m == 1 || m == -1) ? E : E * E; }
+// Terms with M are scaled by E, with 2M by E squared and so on (the Earth's shrinking
+// eccentricity).
+double EFactor(int m, double E)
+{
+    double e = 1.0;
+    for (int i = 0; i < std::abs(m); ++i)
+        e *= E;
+    return e;
+}
 } // namespace
+
+double MoonGeometricDistance(double jde)
+{
+    const double T = CenturiesSinceJ2000(jde);
+    const double E = Poly2(Ecc, T);
+    const MultipleAngles<4, 6> args(
+        {Radians(Dm2, T), Radians(Ms, T), Radians(Mm2, T), Radians(Fm2, T)});
+    double r = MoonMeanDistanceKm;
+    for (const MoonDistanceTerm& t : MoonDistanceTerms)
+        r += EFactor(t.M, E) * t.R * args.Of({t.D, t.M, t.Mp, t.F}).Cos;
+    return r;
+}
 
 MoonPlace Astronomy::MoonPosition(double jd)
 {
