@@ -49,14 +49,15 @@ double PhaseJDE(double k)
     Arguments a;
     a.T = T;
     a.E = Eccentricity(T);
-    // Elements as in the first edition of the book (eq. 47.x rates per lunation).
-    a.M = Radians(2.5534 + 29.10535669 * k - 0.0000218 * T2 - 0.00000011 * T3);
+    // The polynomials of the book's second edition, from the lunar constants fitted to laser
+    // ranging: the first edition's tidal acceleration puts the phases a minute early by 2500.
+    a.M = Radians(2.5534 + 29.10535670 * k - 0.0000014 * T2 - 0.00000011 * T3);
     a.Mp =
-        Radians(201.5643 + 385.81693528 * k + 0.0107438 * T2 + 0.00001239 * T3 - 0.000000058 * T4);
+        Radians(201.5643 + 385.81693528 * k + 0.0107582 * T2 + 0.00001238 * T3 - 0.000000058 * T4);
     a.F =
-        Radians(160.7108 + 390.67050274 * k - 0.0016341 * T2 - 0.00000227 * T3 + 0.000000011 * T4);
-    a.Om = Radians(124.7746 - 1.5637558 * k + 0.0020691 * T2 + 0.00000215 * T3);
-    double jde = 2451550.09765 + 29.530588853 * k + 0.0001337 * T2 - 0.000000150 * T3 +
+        Radians(160.7108 + 390.67050284 * k - 0.0016118 * T2 - 0.00000227 * T3 + 0.000000011 * T4);
+    a.Om = Radians(124.7746 - 1.56375588 * k + 0.0020672 * T2 + 0.00000215 * T3);
+    double jde = 2451550.09766 + 29.530588861 * k + 0.00015437 * T2 - 0.000000150 * T3 +
                  0.00000000073 * T4; // eq. 49.1
     const double quarter = k - std::floor(k);
     if (quarter < 0.125)
@@ -120,7 +121,7 @@ double SeasonJDE(int year, int season)
     return jde0 + 0.00001 * S / dLambda; // Meeus ch. 27
 }
 
-double FirstPhaseCycle(double jd) { return std::floor((jd - 2451550.09765) / 29.530588853) - 1.0; }
+double FirstPhaseCycle(double jd) { return std::floor((jd - 2451550.09766) / 29.530588861) - 1.0; }
 
 double FirstApsisCycle(double jd) { return std::floor((jd - 2451534.6698) / 27.55454988) - 1.0; }
 

@@ -27,17 +27,13 @@ TEST(LunarEvents, WorkedExamplesOfTheBook)
     EXPECT_NEAR(SeasonJDE(1962, 2), 2437837.39245, 0.00001);
 }
 
+// Phases and seasons within a minute; perigee, apogee and the greatest declinations, the
+// extremes of slow curves, within two.
 double ToleranceMinutes(const std::string& type)
 {
-    if (type == "perigee")
-        return 9.0;
-    if (type == "apogee")
-        return 3.5;
-    if (type.find("declination") != std::string::npos)
-        return 2.0;
-    return type.find("moon") != std::string::npos || type.find("quarter") != std::string::npos
-               ? 1.1
-               : 1.0;
+    const bool extreme =
+        type == "perigee" || type == "apogee" || type.find("declination") != std::string::npos;
+    return extreme ? 2.0 : 1.0;
 }
 
 // The engine's dynamical instant of one kind of event nearest a reference instant.
@@ -77,10 +73,7 @@ double NearestEngineInstant(Astronomy& engine, const std::string& type, double t
 
 // Thirteen years from 1900 to 2500 of every phase and season against PyEphem and every perigee,
 // apogee and greatest declination against the Swiss Ephemeris (tools/year_events_reference.py),
-// in dynamical time. Seasons within a minute and the greatest declinations within two; the
-// phases of Meeus ch. 49 reach 1.03 minutes. Perigee and apogee are as good as the engine's
-// distance (Table 47.A leaves out terms of a few kilometres, which move the flat extremes by
-// minutes): 9 and 3.5 minutes at worst, where the ch. 50 series alone is 20 minutes off.
+// in dynamical time.
 TEST(LunarEvents, ThirteenYearsAgreeWithEphemAndTheSwissEphemeris)
 {
     std::ifstream file(QUILLMERE_YEAR_EVENTS);
