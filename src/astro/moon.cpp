@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Moon's apparent position (Meeus ch. 47, mean elements of the first edition), its
-// parallax, and the illuminated fraction and bright limb (ch. 48); its distance to tens of
-// metres for the perigees and apogees (the main problem of ELP 2000-82).
+// parallax, and the illuminated fraction and bright limb (ch. 48); its distance to half a
+// kilometre for the perigees and apogees (the main problem of ELP 2000-82).
 #include "astro/astronomy.h"
 #include "astro/mathutil.h"
 #include "astro/moon_distance_terms.h"
