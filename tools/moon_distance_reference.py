@@ -12,7 +12,7 @@ import subprocess
 
 FIRST = '1.1.1900'
 COUNT = 600
-STEP_DAYS = 365.2425 * 600 / COUNT + 0.6180339887
+STEP_DAYS = 365.2425 + 0.6180339887  # a year and an irrational part of a day
 
 
 def main():
